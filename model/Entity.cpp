@@ -1,0 +1,90 @@
+#include "model/Entity.h"
+
+int EntityDescription::indexOf(const QString& attributeName) const {
+    for (std::size_t i = 0; i < attributes.size(); ++i)
+        if (attributes[i].name == attributeName)
+            return int(i);
+    return -1;
+}
+
+const AttributeDescription* EntityDescription::attribute(const QString& attributeName) const {
+    const int i = indexOf(attributeName);
+    return i < 0 ? nullptr : &attributes[std::size_t(i)];
+}
+
+namespace {
+
+EntityDescription make(const char* name, int index,
+                       std::initializer_list<std::pair<const char*, AttributeType>> attrs) {
+    EntityDescription e;
+    e.name = QLatin1String(name);
+    e.index = index;
+    for (const auto& [attrName, type] : attrs) {
+        AttributeDescription a{QLatin1String(attrName), type};
+        switch (type) {
+        case AttributeType::Text:
+            a.slot = e.textCount++;
+            break;
+        case AttributeType::Data:
+            a.slot = e.dataCount++;
+            break;
+        default:
+            a.slot = e.numberCount++;
+            break;
+        }
+        e.attributes.push_back(a);
+    }
+    return e;
+}
+
+using T = AttributeType;
+
+const EntityDescription kCoins = make("Coins", 0,
+                                      {{"backImage", T::Data},
+                                       {"country", T::Text},
+                                       {"denomination", T::Text},
+                                       {"descrip", T::Text},
+                                       {"designer", T::Text},
+                                       {"diameter", T::Double},
+                                       {"edge", T::Text},
+                                       {"frontImage", T::Data},
+                                       {"gradeNumber", T::Text},
+                                       {"id", T::Int16},
+                                       {"mintLocation", T::Text},
+                                       {"mintMark", T::Text},
+                                       {"notes", T::Text},
+                                       {"period", T::Text},
+                                       {"quantity", T::Int16},
+                                       {"serialNumber", T::Text},
+                                       {"strikeCharacter", T::Text},
+                                       {"thickness", T::Double},
+                                       {"totalValue", T::Float},
+                                       {"value", T::Float},
+                                       {"weight", T::Double},
+                                       {"year", T::Int16}});
+const EntityDescription kGrades = make("GradeNumbers", 1, {{"grade", T::Text}});
+const EntityDescription kStrikes = make("StrikeCharacters", 2, {{"strike", T::Text}});
+const EntityDescription kEdges = make("CoinEdge", 3, {{"edge", T::Text}});
+
+} // namespace
+
+namespace Model {
+
+const std::vector<const EntityDescription*>& entities() {
+    static const std::vector<const EntityDescription*> all{&kCoins, &kGrades, &kStrikes, &kEdges};
+    return all;
+}
+
+const EntityDescription* entity(const QString& name) {
+    for (auto* e : entities())
+        if (e->name == name)
+            return e;
+    return nullptr;
+}
+
+const EntityDescription& coins() { return kCoins; }
+const EntityDescription& gradeNumbers() { return kGrades; }
+const EntityDescription& strikeCharacters() { return kStrikes; }
+const EntityDescription& coinEdge() { return kEdges; }
+
+} // namespace Model

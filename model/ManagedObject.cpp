@@ -1,0 +1,104 @@
+#include "model/ManagedObject.h"
+
+#include "model/ManagedObjectContext.h"
+#include "platform/Fatal.h"
+
+ManagedObject::ManagedObject(const EntityDescription& entity)
+    : entity_(&entity)
+    , texts_(std::size_t(entity.textCount))
+    , data_(std::size_t(entity.dataCount))
+    , numbers_(std::size_t(entity.numberCount), 0.0) {}
+
+static int attributeIndex(const EntityDescription& e, const QString& key) {
+    const int i = e.indexOf(key);
+    if (i < 0)
+        fatalError(QStringLiteral("[<%1> valueForUndefinedKey:]: the entity %1 is not key value "
+                                  "coding-compliant for the key \"%2\".")
+                       .arg(e.name, key),
+                   "Pelvane/ManagedObject", __LINE__);
+    return i;
+}
+
+QVariant ManagedObject::value(const QString& key) const {
+    return value(attributeIndex(*entity_, key));
+}
+
+void ManagedObject::setValue(const QString& key, const QVariant& v) {
+    setValue(attributeIndex(*entity_, key), v);
+}
+
+bool ManagedObject::hasValue(int attribute) const {
+    if (entity_->attributes[std::size_t(attribute)].type == AttributeType::Data)
+        loadDataIfNeeded();
+    return present_ & (1u << attribute);
+}
+
+QVariant ManagedObject::value(int attribute) const {
+    const AttributeDescription& a = entity_->attributes[std::size_t(attribute)];
+    const bool present = present_ & (1u << attribute);
+    const auto slot = std::size_t(a.slot);
+    switch (a.type) {
+    case AttributeType::Text:
+        return present ? QVariant(texts_[slot]) : QVariant();
+    case AttributeType::Data:
+        loadDataIfNeeded();
+        return (present_ & (1u << attribute)) ? QVariant(data_[slot]) : QVariant();
+    case AttributeType::Int16:
+        return QVariant(int(qint16(numbers_[slot])));
+    case AttributeType::Double:
+        return QVariant(numbers_[slot]);
+    case AttributeType::Float:
+        return QVariant(float(numbers_[slot]));
+    }
+    return QVariant();
+}
+
+void ManagedObject::setValue(int attribute, const QVariant& v) {
+    const AttributeDescription& a = entity_->attributes[std::size_t(attribute)];
+    const quint32 bit = 1u << attribute;
+    const auto slot = std::size_t(a.slot);
+    // A null QString is Qt's way of saying "no text"; it clears the attribute like nil would.
+    const bool absent = !v.isValid() || (v.typeId() == QMetaType::QString && v.toString().isNull()) ||
+                        (v.typeId() == QMetaType::QByteArray && v.toByteArray().isNull());
+    const bool had = present_ & bit;
+    const QVariant before = (a.type == AttributeType::Data || !had) ? QVariant() : value(attribute);
+    if (absent)
+        present_ &= ~bit;
+    else
+        present_ |= bit;
+    switch (a.type) {
+    case AttributeType::Text:
+        texts_[slot] = absent ? QString() : v.toString();
+        break;
+    case AttributeType::Data:
+        data_[slot] = absent ? QByteArray() : v.toByteArray();
+        dataLoaded_ |= bit;
+        break;
+    case AttributeType::Int16:
+        numbers_[slot] = absent ? 0.0 : double(qint16(v.toInt()));
+        break;
+    case AttributeType::Double:
+        numbers_[slot] = absent ? 0.0 : v.toDouble();
+        break;
+    case AttributeType::Float:
+        numbers_[slot] = absent ? 0.0 : double(v.toFloat());
+        break;
+    }
+    // Writing back an equal value is no change: the import rewrites every field of the coins
+    // it matches, and unchanged keys keep the store's indexes usable for later fetches.
+    if (a.type != AttributeType::Data && had == !absent && (absent || before == value(attribute)))
+        return;
+    if (context_)
+        context_->noteChange(*this, attribute);
+}
+
+void ManagedObject::loadDataIfNeeded() const {
+    if (!entity_->hasData() || rowId_ == 0 || !context_)
+        return;
+    quint32 all = 0;
+    for (std::size_t i = 0; i < entity_->attributes.size(); ++i)
+        if (entity_->attributes[i].type == AttributeType::Data)
+            all |= 1u << i;
+    if ((dataLoaded_ & all) != all)
+        context_->loadData(const_cast<ManagedObject&>(*this));
+}

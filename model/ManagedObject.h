@@ -1,0 +1,60 @@
+#pragma once
+// A stored record: its entity, its identity (the row id, 0 until first saved), its attribute
+// values and the context that owns it. Pictures (data attributes) are read from the store on
+// first access, so that long lists do not hold every picture in memory.
+#include "model/Entity.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QVariant>
+#include <memory>
+#include <vector>
+
+class ManagedObjectContext;
+
+class ManagedObject : public std::enable_shared_from_this<ManagedObject> {
+public:
+    explicit ManagedObject(const EntityDescription& entity);
+    virtual ~ManagedObject() = default;
+    ManagedObject(const ManagedObject&) = delete;
+    ManagedObject& operator=(const ManagedObject&) = delete;
+
+    const EntityDescription& entity() const { return *entity_; }
+    qint64 objectID() const { return rowId_; }
+    // The owning context; nullptr once deleted and saved, or when the context has gone.
+    ManagedObjectContext* managedObjectContext() const { return context_; }
+
+    // Generic access by attribute name (a programming error for an unknown name).
+    // Absent texts and data read as an invalid QVariant; absent scalars read as 0.
+    QVariant value(const QString& key) const;
+    void setValue(const QString& key, const QVariant& value);
+    // By position in the entity's attribute table.
+    QVariant value(int attribute) const;
+    void setValue(int attribute, const QVariant& value);
+    // True when the attribute holds a value (a scalar set to "no value" has none).
+    bool hasValue(int attribute) const;
+
+    bool isInserted() const { return state_ == State::Inserted; }
+    bool isUpdated() const { return state_ == State::Updated; }
+    bool isDeleted() const { return state_ == State::Deleted || state_ == State::Gone; }
+
+private:
+    friend class ManagedObjectContext;
+    enum class State : quint8 { Clean, Inserted, Updated, Deleted, Gone };
+
+    void loadDataIfNeeded() const;
+
+    const EntityDescription* entity_;
+    ManagedObjectContext* context_ = nullptr;
+    qint64 rowId_ = 0;
+    quint64 insertSeq_ = 0; // order of unsaved inserts
+    std::vector<QString> texts_;
+    mutable std::vector<QByteArray> data_;
+    std::vector<double> numbers_;
+    quint32 present_ = 0;            // bit per attribute: holds a value
+    mutable quint32 dataLoaded_ = 0; // bit per attribute: picture read from the store
+    quint32 dirty_ = 0;              // bit per attribute: changed since the last save
+    State state_ = State::Clean;
+};
+
+using ObjectPtr = std::shared_ptr<ManagedObject>;

@@ -1,0 +1,419 @@
+#include "model/ManagedObjectContext.h"
+
+#include "model/Records.h"
+#include "model/Sqlite.h"
+#include "platform/Fatal.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+
+namespace {
+
+QString quoted(const QString& name) { return QLatin1Char('"') + name + QLatin1Char('"'); }
+
+// Columns of the entity's main table: every attribute but the pictures, in model order.
+QStringList mainColumns(const EntityDescription& e) {
+    QStringList cols;
+    for (const auto& a : e.attributes)
+        if (a.type != AttributeType::Data)
+            cols << quoted(a.name);
+    return cols;
+}
+
+QStringList dataColumns(const EntityDescription& e) {
+    QStringList cols;
+    for (const auto& a : e.attributes)
+        if (a.type == AttributeType::Data)
+            cols << quoted(a.name);
+    return cols;
+}
+
+quint32 dataMask(const EntityDescription& e) {
+    quint32 m = 0;
+    for (std::size_t i = 0; i < e.attributes.size(); ++i)
+        if (e.attributes[i].type == AttributeType::Data)
+            m |= 1u << i;
+    return m;
+}
+
+const EntityDescription& checkedEntity(const QString& name) {
+    const EntityDescription* e = Model::entity(name);
+    if (!e)
+        fatalError(QStringLiteral("executeFetchRequest:error: A fetch request must have an "
+                                  "entity. (%1)")
+                       .arg(name),
+                   "Pelvane/ManagedObjectContext", __LINE__);
+    return *e;
+}
+
+} // namespace
+
+ManagedObjectContext::ManagedObjectContext(SqliteDatabase* db)
+    : db_(db)
+    , identity_(Model::entities().size()) {
+    for (auto* e : Model::entities())
+        dirtyByAttribute_.emplace_back(e->attributes.size());
+}
+
+ManagedObjectContext::~ManagedObjectContext() {
+    for (auto& map : identity_)
+        for (auto& weak : map)
+            if (auto o = weak.lock())
+                o->context_ = nullptr;
+    for (auto& o : inserted_)
+        o->context_ = nullptr;
+}
+
+ObjectPtr ManagedObjectContext::makeObject(const EntityDescription& e) const {
+    switch (e.index) {
+    case 0:
+        return std::make_shared<Coins>();
+    case 1:
+        return std::make_shared<GradeNumbers>();
+    case 2:
+        return std::make_shared<StrikeCharacters>();
+    default:
+        return std::make_shared<CoinEdge>();
+    }
+}
+
+ObjectPtr ManagedObjectContext::insertNewObject(const QString& entityName) {
+    ObjectPtr o = makeObject(checkedEntity(entityName));
+    o->context_ = this;
+    o->state_ = ManagedObject::State::Inserted;
+    o->insertSeq_ = nextInsertSeq_++;
+    inserted_.append(o);
+    return o;
+}
+
+void ManagedObjectContext::noteChange(ManagedObject& o, int attribute) {
+    if (o.state_ == ManagedObject::State::Clean) {
+        o.state_ = ManagedObject::State::Updated;
+        updated_.insert(&o, o.shared_from_this());
+    }
+    if (o.state_ != ManagedObject::State::Updated)
+        return;
+    const quint32 bit = 1u << attribute;
+    if (!(o.dirty_ & bit)) {
+        o.dirty_ |= bit;
+        dirtyByAttribute_[std::size_t(o.entity_->index)][std::size_t(attribute)].insert(&o);
+    }
+}
+
+void ManagedObjectContext::deleteObject(const ObjectPtr& o) {
+    if (!o || o->context_ != this || o->isDeleted())
+        return;
+    if (o->state_ == ManagedObject::State::Inserted) {
+        inserted_.removeOne(o);
+        o->state_ = ManagedObject::State::Gone;
+        o->context_ = nullptr;
+        return;
+    }
+    if (o->state_ == ManagedObject::State::Updated) {
+        updated_.remove(o.get());
+        for (auto& set : dirtyByAttribute_[std::size_t(o->entity_->index)])
+            set.remove(o.get());
+        o->dirty_ = 0;
+    }
+    o->state_ = ManagedObject::State::Deleted;
+    deleted_.append(o);
+}
+
+bool ManagedObjectContext::hasChanges() const {
+    return !inserted_.isEmpty() || !updated_.isEmpty() || !deleted_.isEmpty();
+}
+
+StoreError ManagedObjectContext::lastError() const {
+    StoreError e;
+    e.code = db_->errorCode();
+    e.message = db_->errorMessage();
+    e.userInfo.insert(QStringLiteral("NSSQLiteErrorDomain"), QString::number(e.code));
+    e.userInfo.insert(QStringLiteral("reason"), e.message);
+    return e;
+}
+
+static void bindMainValues(SqliteStatement& st, const ManagedObject& o) {
+    int col = 1;
+    const EntityDescription& e = o.entity();
+    for (std::size_t i = 0; i < e.attributes.size(); ++i) {
+        if (e.attributes[i].type == AttributeType::Data)
+            continue;
+        st.bind(col++, o.hasValue(int(i)) ? o.value(int(i)) : QVariant());
+    }
+}
+
+static void bindDataValues(SqliteStatement& st, const ManagedObject& o, int first) {
+    const EntityDescription& e = o.entity();
+    for (std::size_t i = 0; i < e.attributes.size(); ++i)
+        if (e.attributes[i].type == AttributeType::Data)
+            st.bind(first++, o.hasValue(int(i)) ? o.value(int(i)) : QVariant());
+}
+
+std::optional<StoreError> ManagedObjectContext::save() {
+    if (!hasChanges())
+        return std::nullopt;
+    // Pictures of changed records must be complete before they are rewritten.
+    for (auto& o : updated_)
+        if (o->entity_->hasData() && (o->dirty_ & dataMask(*o->entity_)))
+            loadData(*o);
+
+    if (!db_->exec(QStringLiteral("BEGIN IMMEDIATE")))
+        return lastError();
+    auto fail = [this]() {
+        StoreError err = lastError();
+        db_->exec(QStringLiteral("ROLLBACK"));
+        return err;
+    };
+
+    std::vector<qint64> newIds;
+    newIds.reserve(std::size_t(inserted_.size()));
+    for (const auto& o : inserted_) {
+        const EntityDescription& e = *o->entity_;
+        const QStringList cols = mainColumns(e);
+        QStringList marks;
+        for (qsizetype i = 0; i < cols.size(); ++i)
+            marks << QStringLiteral("?");
+        SqliteStatement& st = db_->cached(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                                              .arg(quoted(e.name), cols.join(u','), marks.join(u',')));
+        bindMainValues(st, *o);
+        if (st.step() != SQLITE_DONE)
+            return fail();
+        const qint64 id = db_->lastInsertRowId();
+        newIds.push_back(id);
+        if (e.hasData() && (o->present_ & dataMask(e))) {
+            const QStringList dcols = dataColumns(e);
+            SqliteStatement& ds = db_->cached(
+                QStringLiteral("INSERT OR REPLACE INTO %1 (pk,%2) VALUES (?%3)")
+                    .arg(quoted(e.dataTable()), dcols.join(u','),
+                         QStringLiteral(",?").repeated(dcols.size())));
+            ds.bindInt(1, id);
+            bindDataValues(ds, *o, 2);
+            if (ds.step() != SQLITE_DONE)
+                return fail();
+        }
+    }
+    for (const auto& o : std::as_const(updated_)) {
+        const EntityDescription& e = *o->entity_;
+        QStringList sets;
+        for (const QString& c : mainColumns(e))
+            sets << c + QLatin1String("=?");
+        SqliteStatement& st = db_->cached(
+            QStringLiteral("UPDATE %1 SET %2 WHERE pk=?").arg(quoted(e.name), sets.join(u',')));
+        bindMainValues(st, *o);
+        st.bindInt(int(sets.size()) + 1, o->rowId_);
+        if (st.step() != SQLITE_DONE)
+            return fail();
+        if (e.hasData() && (o->dirty_ & dataMask(e))) {
+            const QStringList dcols = dataColumns(e);
+            SqliteStatement& ds = db_->cached(
+                QStringLiteral("INSERT OR REPLACE INTO %1 (pk,%2) VALUES (?%3)")
+                    .arg(quoted(e.dataTable()), dcols.join(u','),
+                         QStringLiteral(",?").repeated(dcols.size())));
+            ds.bindInt(1, o->rowId_);
+            bindDataValues(ds, *o, 2);
+            if (ds.step() != SQLITE_DONE)
+                return fail();
+        }
+    }
+    for (const auto& o : deleted_) {
+        const EntityDescription& e = *o->entity_;
+        SqliteStatement& st =
+            db_->cached(QStringLiteral("DELETE FROM %1 WHERE pk=?").arg(quoted(e.name)));
+        st.bindInt(1, o->rowId_);
+        if (st.step() != SQLITE_DONE)
+            return fail();
+        if (e.hasData()) {
+            SqliteStatement& ds =
+                db_->cached(QStringLiteral("DELETE FROM %1 WHERE pk=?").arg(quoted(e.dataTable())));
+            ds.bindInt(1, o->rowId_);
+            if (ds.step() != SQLITE_DONE)
+                return fail();
+        }
+    }
+    if (!db_->exec(QStringLiteral("COMMIT")))
+        return fail();
+
+    // Only now that the transaction is in does memory follow it.
+    for (qsizetype i = 0; i < inserted_.size(); ++i) {
+        const ObjectPtr& o = inserted_[i];
+        o->rowId_ = newIds[std::size_t(i)];
+        o->state_ = ManagedObject::State::Clean;
+        o->dataLoaded_ = dataMask(*o->entity_);
+        identity_[std::size_t(o->entity_->index)].insert(o->rowId_, o);
+    }
+    for (const auto& o : std::as_const(updated_)) {
+        o->state_ = ManagedObject::State::Clean;
+        o->dirty_ = 0;
+    }
+    for (const auto& o : deleted_) {
+        o->state_ = ManagedObject::State::Gone;
+        o->context_ = nullptr;
+        identity_[std::size_t(o->entity_->index)].remove(o->rowId_);
+    }
+    for (auto& perEntity : dirtyByAttribute_)
+        for (auto& set : perEntity)
+            set.clear();
+    inserted_.clear();
+    updated_.clear();
+    deleted_.clear();
+    return std::nullopt;
+}
+
+void ManagedObjectContext::loadData(ManagedObject& o) {
+    const EntityDescription& e = *o.entity_;
+    const QStringList dcols = dataColumns(e);
+    SqliteStatement& st = db_->cached(
+        QStringLiteral("SELECT %1 FROM %2 WHERE pk=?").arg(dcols.join(u','), quoted(e.dataTable())));
+    st.bindInt(1, o.rowId_);
+    const bool found = st.step() == SQLITE_ROW;
+    int col = 0;
+    for (std::size_t i = 0; i < e.attributes.size(); ++i) {
+        if (e.attributes[i].type != AttributeType::Data)
+            continue;
+        const quint32 bit = 1u << i;
+        if (!(o.dataLoaded_ & bit)) {
+            const bool has = found && !st.isNull(col);
+            o.data_[std::size_t(e.attributes[i].slot)] = has ? st.columnBlob(col) : QByteArray();
+            o.present_ = has ? (o.present_ | bit) : (o.present_ & ~bit);
+            o.dataLoaded_ |= bit;
+        }
+        ++col;
+    }
+    st.reset();
+}
+
+ObjectPtr ManagedObjectContext::objectForRow(const EntityDescription& e, qint64 rowId,
+                                             SqliteStatement& row) {
+    auto& map = identity_[std::size_t(e.index)];
+    auto it = map.find(rowId);
+    if (it != map.end())
+        if (ObjectPtr live = it->lock())
+            return live;
+    ObjectPtr o = makeObject(e);
+    o->context_ = this;
+    o->rowId_ = rowId;
+    int col = 1;
+    for (std::size_t i = 0; i < e.attributes.size(); ++i) {
+        const AttributeDescription& a = e.attributes[i];
+        if (a.type == AttributeType::Data)
+            continue;
+        if (!row.isNull(col)) {
+            o->present_ |= 1u << i;
+            if (a.type == AttributeType::Text)
+                o->texts_[std::size_t(a.slot)] = row.columnText(col);
+            else if (a.type == AttributeType::Int16)
+                o->numbers_[std::size_t(a.slot)] = double(row.columnInt(col));
+            else
+                o->numbers_[std::size_t(a.slot)] = row.columnDouble(col);
+        }
+        ++col;
+    }
+    map.insert(rowId, o);
+    return o;
+}
+
+namespace {
+
+int compareBy(const ManagedObject& a, const ManagedObject& b, int attr, AttributeType type) {
+    const bool ha = a.hasValue(attr), hb = b.hasValue(attr);
+    if (ha != hb)
+        return ha ? 1 : -1; // absent first, as SQL sorts NULL
+    if (!ha)
+        return 0;
+    if (type == AttributeType::Text)
+        return PredicateDetail::compareText(a.value(attr).toString(), b.value(attr).toString());
+    const double x = a.value(attr).toDouble(), y = b.value(attr).toDouble();
+    return x < y ? -1 : (x > y ? 1 : 0);
+}
+
+} // namespace
+
+QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreError* error) {
+    const EntityDescription& e = checkedEntity(request.entityName);
+    struct Key {
+        int attr;
+        AttributeType type;
+        bool ascending;
+    };
+    std::vector<Key> keys;
+    quint32 keyMask = 0;
+    QStringList order;
+    for (const SortDescriptor& s : request.sortDescriptors) {
+        const int i = e.indexOf(s.key);
+        if (i < 0 || e.attributes[std::size_t(i)].type == AttributeType::Data)
+            fatalError(QStringLiteral("keypath %1 not found in entity %2").arg(s.key, e.name),
+                       "Pelvane/ManagedObjectContext", __LINE__);
+        keys.push_back({i, e.attributes[std::size_t(i)].type, s.ascending});
+        keyMask |= 1u << i;
+        order << quoted(s.key) + (s.ascending ? QLatin1String(" ASC") : QLatin1String(" DESC"));
+    }
+    for (const auto& t : request.predicate.terms())
+        keyMask |= 1u << std::max(0, e.indexOf(t.key));
+    order << QStringLiteral("pk");
+
+    QVariantList binds;
+    const QString where = request.predicate.sql(e, binds);
+    SqliteStatement& st =
+        db_->cached(QStringLiteral("SELECT pk,%1 FROM %2 WHERE %3 ORDER BY %4")
+                        .arg(mainColumns(e).join(u','), quoted(e.name), where, order.join(u',')));
+    if (!st.isValid()) {
+        if (error)
+            *error = lastError();
+        return {};
+    }
+    for (qsizetype i = 0; i < binds.size(); ++i)
+        st.bind(int(i) + 1, binds[i]);
+
+    // Updated objects whose filter or sort values differ from the store are judged in memory.
+    QSet<ManagedObject*> inMemory;
+    const auto& dirty = dirtyByAttribute_[std::size_t(e.index)];
+    for (std::size_t i = 0; i < dirty.size(); ++i)
+        if (keyMask & (1u << i))
+            inMemory.unite(dirty[i]);
+
+    QList<ObjectPtr> result;
+    int rc;
+    while ((rc = st.step()) == SQLITE_ROW) {
+        ObjectPtr o = objectForRow(e, st.columnInt(0), st);
+        if (o->isDeleted() || inMemory.contains(o.get()))
+            continue;
+        result.append(std::move(o));
+    }
+    if (rc != SQLITE_DONE) {
+        if (error)
+            *error = lastError();
+        st.reset();
+        return {};
+    }
+    st.reset();
+
+    bool merged = false;
+    for (ManagedObject* o : std::as_const(inMemory))
+        if (request.predicate.evaluate(*o)) {
+            result.append(o->shared_from_this());
+            merged = true;
+        }
+    for (const auto& o : std::as_const(inserted_))
+        if (o->entity_ == &e && request.predicate.evaluate(*o)) {
+            result.append(o);
+            merged = true;
+        }
+    if (merged)
+        std::stable_sort(result.begin(), result.end(), [&](const ObjectPtr& a, const ObjectPtr& b) {
+            for (const Key& k : keys) {
+                const int c = compareBy(*a, *b, k.attr, k.type);
+                if (c != 0)
+                    return k.ascending ? c < 0 : c > 0;
+            }
+            // Store order: saved rows by row id, then unsaved inserts in the order made.
+            if ((a->rowId_ == 0) != (b->rowId_ == 0))
+                return b->rowId_ == 0;
+            return a->rowId_ ? a->rowId_ < b->rowId_ : a->insertSeq_ < b->insertSeq_;
+        });
+    return result;
+}
+
+int ManagedObjectContext::count(const FetchRequest& request, StoreError* error) {
+    return int(fetch(request, error).size());
+}

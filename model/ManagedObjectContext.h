@@ -1,0 +1,68 @@
+#pragma once
+// The one main context: an identity map (one in-memory object per stored row), the pending
+// inserts, updates and deletes, fetches that see those pending changes, and save as one
+// transaction.
+#include "model/ManagedObject.h"
+#include "model/Predicate.h"
+#include "model/StoreError.h"
+
+#include <QHash>
+#include <QList>
+#include <QSet>
+#include <optional>
+
+class SqliteDatabase;
+
+class ManagedObjectContext {
+public:
+    explicit ManagedObjectContext(SqliteDatabase* db);
+    ~ManagedObjectContext();
+    ManagedObjectContext(const ManagedObjectContext&) = delete;
+    ManagedObjectContext& operator=(const ManagedObjectContext&) = delete;
+
+    // A new record of the entity, pending insertion (fatal for an unknown entity name).
+    ObjectPtr insertNewObject(const QString& entityName);
+    template <typename T> std::shared_ptr<T> insert() {
+        return std::static_pointer_cast<T>(insertNewObject(T::entityName()));
+    }
+    void deleteObject(const ObjectPtr& object);
+
+    bool hasChanges() const;
+    // Writes every pending change in one transaction. On failure nothing is written, the
+    // changes stay pending and the error is returned.
+    std::optional<StoreError> save();
+
+    // Results in the request's order; on failure an empty list and the error in *error.
+    QList<ObjectPtr> fetch(const FetchRequest& request, StoreError* error = nullptr);
+    template <typename T>
+    QList<std::shared_ptr<T>> fetch(const FetchRequest& request, StoreError* error = nullptr) {
+        QList<std::shared_ptr<T>> out;
+        const QList<ObjectPtr> all = fetch(request, error);
+        out.reserve(all.size());
+        for (const auto& o : all)
+            out.append(std::static_pointer_cast<T>(o));
+        return out;
+    }
+    int count(const FetchRequest& request, StoreError* error = nullptr);
+
+private:
+    friend class ManagedObject;
+    void noteChange(ManagedObject& object, int attribute);
+    void loadData(ManagedObject& object);
+    ObjectPtr makeObject(const EntityDescription& entity) const;
+    ObjectPtr objectForRow(const EntityDescription& entity, qint64 rowId, class SqliteStatement& row);
+    bool hasPendingChanges(const EntityDescription& entity) const;
+    StoreError lastError() const;
+
+    SqliteDatabase* db_;
+    // Objects are shared by every array that holds them; the map does not keep them alive,
+    // the pending sets do until they are saved.
+    std::vector<QHash<qint64, std::weak_ptr<ManagedObject>>> identity_;
+    QList<ObjectPtr> inserted_;
+    QHash<ManagedObject*, ObjectPtr> updated_;
+    // Per entity and attribute, the updated objects whose value of it differs from the store:
+    // only those need checking in memory when a fetch filters or sorts by that attribute.
+    std::vector<std::vector<QSet<ManagedObject*>>> dirtyByAttribute_;
+    QList<ObjectPtr> deleted_;
+    quint64 nextInsertSeq_ = 1;
+};

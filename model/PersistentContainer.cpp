@@ -1,0 +1,126 @@
+#include "model/PersistentContainer.h"
+
+#include "model/Sqlite.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <sqlite3.h>
+
+namespace {
+QString& directoryOverride() {
+    static QString dir;
+    return dir;
+}
+
+QString columnType(AttributeType t) {
+    switch (t) {
+    case AttributeType::Text:
+        return QStringLiteral("TEXT");
+    case AttributeType::Data:
+        return QStringLiteral("BLOB");
+    case AttributeType::Int16:
+        return QStringLiteral("INTEGER");
+    default:
+        return QStringLiteral("REAL");
+    }
+}
+
+// Tables and the indexes behind every query the screens make.
+QStringList schema() {
+    QStringList sql;
+    for (const EntityDescription* e : Model::entities()) {
+        QStringList cols{QStringLiteral("pk INTEGER PRIMARY KEY")};
+        QStringList dcols{QStringLiteral("pk INTEGER PRIMARY KEY")};
+        for (const auto& a : e->attributes)
+            (a.type == AttributeType::Data ? dcols : cols)
+                << QStringLiteral("\"%1\" %2").arg(a.name, columnType(a.type));
+        sql << QStringLiteral("CREATE TABLE \"%1\" (%2)").arg(e->name, cols.join(u','));
+        if (e->hasData())
+            sql << QStringLiteral("CREATE TABLE \"%1\" (%2)").arg(e->dataTable(), dcols.join(u','));
+    }
+    sql << QStringLiteral("CREATE INDEX Coins_denomination_year_mintMark ON Coins(denomination, "
+                          "year, mintMark)")
+        << QStringLiteral("CREATE INDEX Coins_country ON Coins(country)")
+        << QStringLiteral("CREATE INDEX Coins_year ON Coins(year)")
+        << QStringLiteral("CREATE INDEX Coins_quantity ON Coins(quantity)")
+        << QStringLiteral("CREATE INDEX Coins_value ON Coins(value)")
+        << QStringLiteral("CREATE INDEX Coins_id ON Coins(id)")
+        << QStringLiteral("CREATE INDEX Coins_serialNumber ON Coins(serialNumber)")
+        << QStringLiteral("CREATE INDEX Coins_mintMark ON Coins(mintMark)")
+        << QStringLiteral("CREATE INDEX Coins_import_keys ON Coins(country, denomination, "
+                          "mintMark, year)")
+        << QStringLiteral("CREATE INDEX GradeNumbers_grade ON GradeNumbers(grade)")
+        << QStringLiteral("CREATE INDEX StrikeCharacters_strike ON StrikeCharacters(strike)")
+        << QStringLiteral("CREATE INDEX CoinEdge_edge ON CoinEdge(edge)");
+    return sql;
+}
+} // namespace
+
+PersistentContainer::PersistentContainer(QString name) : name_(std::move(name)) {}
+
+PersistentContainer::~PersistentContainer() {
+    context_.reset();
+    db_.reset();
+}
+
+void PersistentContainer::setDefaultDirectory(const QString& dir) { directoryOverride() = dir; }
+
+QString PersistentContainer::defaultDirectory() {
+    if (!directoryOverride().isEmpty())
+        return directoryOverride();
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+}
+
+void PersistentContainer::loadPersistentStores(const Completion& completion) {
+    StoreDescription description{QDir(defaultDirectory()).filePath(name_ + QLatin1String(".sqlite"))};
+    const std::optional<StoreError> error = open(description.path);
+    if (completion)
+        completion(description, error);
+}
+
+std::optional<StoreError> PersistentContainer::open(const QString& path) {
+    auto failure = [&](int code, const QString& message) {
+        StoreError e;
+        e.code = code;
+        e.message = message;
+        e.userInfo.insert(QStringLiteral("NSSQLiteErrorDomain"), QString::number(code));
+        e.userInfo.insert(QStringLiteral("reason"), message);
+        e.userInfo.insert(QStringLiteral("NSFilePath"), path);
+        // The file is left as it is for recovery: never deleted or overwritten.
+        db_.reset();
+        return e;
+    };
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    db_ = std::make_unique<SqliteDatabase>();
+    if (!db_->open(path))
+        return failure(db_->errorCode(), db_->errorMessage());
+
+    SqliteStatement version(db_->handle(), QStringLiteral("PRAGMA user_version"));
+    if (!version.isValid() || version.step() != SQLITE_ROW)
+        return failure(db_->errorCode(), db_->errorMessage());
+    const qint64 current = version.columnInt(0);
+    version = SqliteStatement();
+    if (current > SchemaVersion)
+        return failure(134100, QStringLiteral("The model used to open the store is incompatible "
+                                              "with the one used to create the store (version %1)")
+                                   .arg(current));
+    if (!db_->exec(QStringLiteral("PRAGMA journal_mode=WAL")) ||
+        !db_->exec(QStringLiteral("PRAGMA synchronous=NORMAL")))
+        return failure(db_->errorCode(), db_->errorMessage());
+    if (current == 0) {
+        if (!db_->exec(QStringLiteral("BEGIN")))
+            return failure(db_->errorCode(), db_->errorMessage());
+        for (const QString& statement : schema())
+            if (!db_->exec(statement)) {
+                const StoreError e = failure(db_->errorCode(), db_->errorMessage());
+                return e;
+            }
+        db_->exec(QStringLiteral("PRAGMA user_version=%1").arg(SchemaVersion));
+        if (!db_->exec(QStringLiteral("COMMIT")))
+            return failure(db_->errorCode(), db_->errorMessage());
+    }
+    context_ = std::make_unique<ManagedObjectContext>(db_.get());
+    return std::nullopt;
+}

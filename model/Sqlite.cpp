@@ -1,0 +1,127 @@
+#include "model/Sqlite.h"
+
+#include <sqlite3.h>
+
+SqliteStatement::SqliteStatement(sqlite3* db, const QString& sql) {
+    const QByteArray text = sql.toUtf8();
+    if (sqlite3_prepare_v3(db, text.constData(), int(text.size()), SQLITE_PREPARE_PERSISTENT,
+                           &stmt_, nullptr) != SQLITE_OK)
+        stmt_ = nullptr;
+}
+
+SqliteStatement::~SqliteStatement() { sqlite3_finalize(stmt_); }
+
+SqliteStatement::SqliteStatement(SqliteStatement&& other) noexcept : stmt_(other.stmt_) {
+    other.stmt_ = nullptr;
+}
+
+SqliteStatement& SqliteStatement::operator=(SqliteStatement&& other) noexcept {
+    if (this != &other) {
+        sqlite3_finalize(stmt_);
+        stmt_ = other.stmt_;
+        other.stmt_ = nullptr;
+    }
+    return *this;
+}
+
+void SqliteStatement::reset() {
+    sqlite3_reset(stmt_);
+    sqlite3_clear_bindings(stmt_);
+}
+
+void SqliteStatement::bindNull(int i) { sqlite3_bind_null(stmt_, i); }
+void SqliteStatement::bindInt(int i, qint64 v) { sqlite3_bind_int64(stmt_, i, v); }
+void SqliteStatement::bindDouble(int i, double v) { sqlite3_bind_double(stmt_, i, v); }
+
+void SqliteStatement::bindText(int i, const QString& v) {
+    const QByteArray text = v.toUtf8();
+    sqlite3_bind_text(stmt_, i, text.constData(), int(text.size()), SQLITE_TRANSIENT);
+}
+
+void SqliteStatement::bindBlob(int i, const QByteArray& v) {
+    sqlite3_bind_blob(stmt_, i, v.constData(), int(v.size()), SQLITE_TRANSIENT);
+}
+
+void SqliteStatement::bind(int i, const QVariant& v) {
+    if (!v.isValid() || v.isNull()) {
+        bindNull(i);
+        return;
+    }
+    switch (v.typeId()) {
+    case QMetaType::Int:
+    case QMetaType::Short:
+    case QMetaType::LongLong:
+    case QMetaType::Bool:
+        bindInt(i, v.toLongLong());
+        break;
+    case QMetaType::Double:
+    case QMetaType::Float:
+        bindDouble(i, v.toDouble());
+        break;
+    case QMetaType::QByteArray:
+        bindBlob(i, v.toByteArray());
+        break;
+    default:
+        bindText(i, v.toString());
+        break;
+    }
+}
+
+int SqliteStatement::step() { return sqlite3_step(stmt_); }
+
+bool SqliteStatement::isNull(int col) const {
+    return sqlite3_column_type(stmt_, col) == SQLITE_NULL;
+}
+qint64 SqliteStatement::columnInt(int col) const { return sqlite3_column_int64(stmt_, col); }
+double SqliteStatement::columnDouble(int col) const { return sqlite3_column_double(stmt_, col); }
+
+QString SqliteStatement::columnText(int col) const {
+    const auto* p = reinterpret_cast<const char*>(sqlite3_column_text(stmt_, col));
+    return QString::fromUtf8(p, sqlite3_column_bytes(stmt_, col));
+}
+
+QByteArray SqliteStatement::columnBlob(int col) const {
+    const auto* p = static_cast<const char*>(sqlite3_column_blob(stmt_, col));
+    return QByteArray(p, sqlite3_column_bytes(stmt_, col));
+}
+
+SqliteDatabase::~SqliteDatabase() { close(); }
+
+bool SqliteDatabase::open(const QString& path) {
+    close();
+    const QByteArray file = path.toUtf8();
+    const int rc = sqlite3_open_v2(file.constData(), &db_,
+                                   SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    if (rc != SQLITE_OK)
+        return false;
+    sqlite3_busy_timeout(db_, 2000);
+    return true;
+}
+
+void SqliteDatabase::close() {
+    cache_.clear();
+    if (db_)
+        sqlite3_close_v2(db_);
+    db_ = nullptr;
+}
+
+bool SqliteDatabase::exec(const QString& sql) {
+    return sqlite3_exec(db_, sql.toUtf8().constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
+int SqliteDatabase::errorCode() const { return db_ ? sqlite3_extended_errcode(db_) : SQLITE_CANTOPEN; }
+
+QString SqliteDatabase::errorMessage() const {
+    return db_ ? QString::fromUtf8(sqlite3_errmsg(db_)) : QStringLiteral("unable to open database file");
+}
+
+qint64 SqliteDatabase::lastInsertRowId() const { return sqlite3_last_insert_rowid(db_); }
+
+SqliteStatement& SqliteDatabase::cached(const QString& sql) {
+    auto it = cache_.find(sql);
+    if (it != cache_.end()) {
+        (*it)->reset();
+        return **it;
+    }
+    return *cache_.insert(sql, std::make_shared<SqliteStatement>(db_, sql)).value();
+}

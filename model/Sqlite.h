@@ -1,0 +1,64 @@
+#pragma once
+// Thin RAII wrappers over the sqlite3 C API: a connection and a prepared statement.
+#include <QByteArray>
+#include <QString>
+#include <QHash>
+#include <QVariant>
+#include <memory>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+class SqliteStatement {
+public:
+    SqliteStatement() = default;
+    SqliteStatement(sqlite3* db, const QString& sql);
+    ~SqliteStatement();
+    SqliteStatement(const SqliteStatement&) = delete;
+    SqliteStatement& operator=(const SqliteStatement&) = delete;
+    SqliteStatement(SqliteStatement&& other) noexcept;
+    SqliteStatement& operator=(SqliteStatement&& other) noexcept;
+
+    bool isValid() const { return stmt_ != nullptr; }
+    void reset();
+    void bindNull(int i);
+    void bindInt(int i, qint64 v);
+    void bindDouble(int i, double v);
+    void bindText(int i, const QString& v);
+    void bindBlob(int i, const QByteArray& v);
+    // Binds an absent QVariant as NULL, numbers, texts and bytes by their type.
+    void bind(int i, const QVariant& v);
+    // SQLITE_ROW, SQLITE_DONE or an error code.
+    int step();
+    bool isNull(int col) const;
+    qint64 columnInt(int col) const;
+    double columnDouble(int col) const;
+    QString columnText(int col) const;
+    QByteArray columnBlob(int col) const;
+
+private:
+    sqlite3_stmt* stmt_ = nullptr;
+};
+
+class SqliteDatabase {
+public:
+    SqliteDatabase() = default;
+    ~SqliteDatabase();
+    SqliteDatabase(const SqliteDatabase&) = delete;
+    SqliteDatabase& operator=(const SqliteDatabase&) = delete;
+
+    // Opens (creates) the file; false with errorMessage() on failure.
+    bool open(const QString& path);
+    void close();
+    bool exec(const QString& sql);
+    int errorCode() const;
+    QString errorMessage() const;
+    qint64 lastInsertRowId() const;
+    sqlite3* handle() const { return db_; }
+    // A statement prepared once and kept for the life of the connection.
+    SqliteStatement& cached(const QString& sql);
+
+private:
+    sqlite3* db_ = nullptr;
+    QHash<QString, std::shared_ptr<SqliteStatement>> cache_;
+};

@@ -1,0 +1,14 @@
+#include "model/StoreError.h"
+
+#include <QStringList>
+
+QString StoreError::description() const {
+    return QStringLiteral("Error Domain=NSSQLiteErrorDomain Code=%1 \"%2\"").arg(code).arg(message);
+}
+
+QString StoreError::userInfoDescription() const {
+    QStringList parts;
+    for (auto it = userInfo.begin(); it != userInfo.end(); ++it)
+        parts << QStringLiteral("\"%1\": %2").arg(it.key(), it.value());
+    return QLatin1Char('[') + parts.join(QLatin1String(", ")) + QLatin1Char(']');
+}

@@ -1,0 +1,32 @@
+#include "screens/Application.h"
+
+#include "platform/Console.h"
+#include "platform/Fatal.h"
+
+namespace {
+ApplicationDelegate* current = nullptr;
+}
+
+namespace Application {
+
+void setDelegate(ApplicationDelegate* delegate) { current = delegate; }
+
+ApplicationDelegate& delegate() {
+    if (!current)
+        fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value"),
+                   "Pelvane/Application", __LINE__);
+    return *current;
+}
+
+ManagedObjectContext* viewContext() { return delegate().persistentContainer().viewContext(); }
+
+void saveRecord(const ObjectPtr& record) {
+    ManagedObjectContext* context = record ? record->managedObjectContext() : nullptr;
+    if (!context)
+        return;
+    if (auto error = context->save())
+        Console::print(QStringLiteral("Could not save. %1, %2")
+                           .arg(error->description(), error->userInfoDescription()));
+}
+
+} // namespace Application

@@ -1,0 +1,45 @@
+#include "screens/ProcessState.h"
+
+QString SelectedCountry;
+QString SelectedDenomination;
+QString SelectedDescription;
+QString SelectedDesigner;
+QString SelectedEdge;
+QString SelectedGrade;
+QString SelectedMintLocation;
+QString SelectedMintMark;
+QString SelectedNotes;
+QString SelectedPeriod;
+QString SelectedSerialNumber;
+QString SelectedStrikeCharacter;
+
+double SelectedDiameter = 0;
+double SelectedThickness = 0;
+double SelectedWeight = 0;
+float SelectedValue = 0;
+float SelectedTotalValue = 0;
+qint16 SelectedQuantity = 0;
+qint16 SelectedYear = 0;
+qint16 SelectedCoinID = 0;
+
+QList<QImage> ZoomImages;
+QByteArray ShareFrontImageData;
+QByteArray ShareBackImageData;
+
+QString CalledFromList;
+bool SortAscending = true;
+
+void resetProcessState() {
+    for (QString* s : {&SelectedCountry, &SelectedDenomination, &SelectedDescription,
+                       &SelectedDesigner, &SelectedEdge, &SelectedGrade, &SelectedMintLocation,
+                       &SelectedMintMark, &SelectedNotes, &SelectedPeriod, &SelectedSerialNumber,
+                       &SelectedStrikeCharacter, &CalledFromList})
+        s->clear();
+    SelectedDiameter = SelectedThickness = SelectedWeight = 0;
+    SelectedValue = SelectedTotalValue = 0;
+    SelectedQuantity = SelectedYear = SelectedCoinID = 0;
+    ZoomImages.clear();
+    ShareFrontImageData.clear();
+    ShareBackImageData.clear();
+    SortAscending = true;
+}

@@ -1,0 +1,28 @@
+#include "TestSupport.h"
+
+#include "platform/Console.h"
+#include "platform/UserDefaults.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QThread>
+
+void PelvaneTest::SetUp() {
+    ASSERT_TRUE(tmp_.isValid());
+    UserDefaults::useFile(tmp_.filePath(QStringLiteral("Pelvane.ini")));
+    Console::startCapture();
+}
+
+void PelvaneTest::TearDown() { Console::stopCapture(); }
+
+bool waitUntil(const std::function<bool()>& pred, int timeoutMs) {
+    QElapsedTimer t;
+    t.start();
+    while (!pred()) {
+        if (t.elapsed() > timeoutMs)
+            return false;
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        QThread::msleep(1);
+    }
+    return true;
+}

@@ -1,0 +1,20 @@
+#pragma once
+// Every test gets a fresh temporary folder with fresh preferences in it, and captured console
+// lines. Tests of the store and screens derive from their own fixtures built on this one.
+#include <QTemporaryDir>
+#include <functional>
+#include <gtest/gtest.h>
+
+class PelvaneTest : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+    QString dir() const { return tmp_.path(); }
+    QString path(const QString& name) const { return tmp_.filePath(name); }
+
+private:
+    QTemporaryDir tmp_;
+};
+
+// Spins the event loop until pred() holds or the time is up; true when it holds.
+bool waitUntil(const std::function<bool()>& pred, int timeoutMs = 3000);
