@@ -2,9 +2,13 @@
 
 #include "platform/Fatal.h"
 
-AppDelegate::AppDelegate() { Application::setDelegate(this); }
+AppDelegate::AppDelegate() {
+    Application::setDelegate(this);
+}
 
-AppDelegate::~AppDelegate() { Application::setDelegate(nullptr); }
+AppDelegate::~AppDelegate() {
+    Application::setDelegate(nullptr);
+}
 
 PersistentContainer& AppDelegate::persistentContainer() {
     if (!container_) {

@@ -39,29 +39,15 @@ EntityDescription make(const char* name, int index,
 
 using T = AttributeType;
 
-const EntityDescription kCoins = make("Coins", 0,
-                                      {{"backImage", T::Data},
-                                       {"country", T::Text},
-                                       {"denomination", T::Text},
-                                       {"descrip", T::Text},
-                                       {"designer", T::Text},
-                                       {"diameter", T::Double},
-                                       {"edge", T::Text},
-                                       {"frontImage", T::Data},
-                                       {"gradeNumber", T::Text},
-                                       {"id", T::Int16},
-                                       {"mintLocation", T::Text},
-                                       {"mintMark", T::Text},
-                                       {"notes", T::Text},
-                                       {"period", T::Text},
-                                       {"quantity", T::Int16},
-                                       {"serialNumber", T::Text},
-                                       {"strikeCharacter", T::Text},
-                                       {"thickness", T::Double},
-                                       {"totalValue", T::Float},
-                                       {"value", T::Float},
-                                       {"weight", T::Double},
-                                       {"year", T::Int16}});
+const EntityDescription kCoins = make(
+    "Coins", 0, {{"backImage", T::Data},    {"country", T::Text},         {"denomination", T::Text},
+                 {"descrip", T::Text},      {"designer", T::Text},        {"diameter", T::Double},
+                 {"edge", T::Text},         {"frontImage", T::Data},      {"gradeNumber", T::Text},
+                 {"id", T::Int16},          {"mintLocation", T::Text},    {"mintMark", T::Text},
+                 {"notes", T::Text},        {"period", T::Text},          {"quantity", T::Int16},
+                 {"serialNumber", T::Text}, {"strikeCharacter", T::Text}, {"thickness", T::Double},
+                 {"totalValue", T::Float},  {"value", T::Float},          {"weight", T::Double},
+                 {"year", T::Int16}});
 const EntityDescription kGrades = make("GradeNumbers", 1, {{"grade", T::Text}});
 const EntityDescription kStrikes = make("StrikeCharacters", 2, {{"strike", T::Text}});
 const EntityDescription kEdges = make("CoinEdge", 3, {{"edge", T::Text}});
@@ -82,9 +68,17 @@ const EntityDescription* entity(const QString& name) {
     return nullptr;
 }
 
-const EntityDescription& coins() { return kCoins; }
-const EntityDescription& gradeNumbers() { return kGrades; }
-const EntityDescription& strikeCharacters() { return kStrikes; }
-const EntityDescription& coinEdge() { return kEdges; }
+const EntityDescription& coins() {
+    return kCoins;
+}
+const EntityDescription& gradeNumbers() {
+    return kGrades;
+}
+const EntityDescription& strikeCharacters() {
+    return kStrikes;
+}
+const EntityDescription& coinEdge() {
+    return kEdges;
+}
 
 } // namespace Model

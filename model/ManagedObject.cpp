@@ -58,7 +58,8 @@ void ManagedObject::setValue(int attribute, const QVariant& v) {
     const quint32 bit = 1u << attribute;
     const auto slot = std::size_t(a.slot);
     // A null QString is Qt's way of saying "no text"; it clears the attribute like nil would.
-    const bool absent = !v.isValid() || (v.typeId() == QMetaType::QString && v.toString().isNull()) ||
+    const bool absent = !v.isValid() ||
+                        (v.typeId() == QMetaType::QString && v.toString().isNull()) ||
                         (v.typeId() == QMetaType::QByteArray && v.toByteArray().isNull());
     const bool had = present_ & bit;
     const QVariant before = (a.type == AttributeType::Data || !had) ? QVariant() : value(attribute);

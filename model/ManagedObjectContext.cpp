@@ -10,7 +10,9 @@
 
 namespace {
 
-QString quoted(const QString& name) { return QLatin1Char('"') + name + QLatin1Char('"'); }
+QString quoted(const QString& name) {
+    return QLatin1Char('"') + name + QLatin1Char('"');
+}
 
 // Columns of the entity's main table: every attribute but the pictures, in model order.
 QStringList mainColumns(const EntityDescription& e) {
@@ -174,8 +176,9 @@ std::optional<StoreError> ManagedObjectContext::save() {
         QStringList marks;
         for (qsizetype i = 0; i < cols.size(); ++i)
             marks << QStringLiteral("?");
-        SqliteStatement& st = db_->cached(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                                              .arg(quoted(e.name), cols.join(u','), marks.join(u',')));
+        SqliteStatement& st =
+            db_->cached(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                            .arg(quoted(e.name), cols.join(u','), marks.join(u',')));
         bindMainValues(st, *o);
         if (st.step() != SQLITE_DONE)
             return fail();
@@ -183,10 +186,10 @@ std::optional<StoreError> ManagedObjectContext::save() {
         newIds.push_back(id);
         if (e.hasData() && (o->present_ & dataMask(e))) {
             const QStringList dcols = dataColumns(e);
-            SqliteStatement& ds = db_->cached(
-                QStringLiteral("INSERT OR REPLACE INTO %1 (pk,%2) VALUES (?%3)")
-                    .arg(quoted(e.dataTable()), dcols.join(u','),
-                         QStringLiteral(",?").repeated(dcols.size())));
+            SqliteStatement& ds =
+                db_->cached(QStringLiteral("INSERT OR REPLACE INTO %1 (pk,%2) VALUES (?%3)")
+                                .arg(quoted(e.dataTable()), dcols.join(u','),
+                                     QStringLiteral(",?").repeated(dcols.size())));
             ds.bindInt(1, id);
             bindDataValues(ds, *o, 2);
             if (ds.step() != SQLITE_DONE)
@@ -206,10 +209,10 @@ std::optional<StoreError> ManagedObjectContext::save() {
             return fail();
         if (e.hasData() && (o->dirty_ & dataMask(e))) {
             const QStringList dcols = dataColumns(e);
-            SqliteStatement& ds = db_->cached(
-                QStringLiteral("INSERT OR REPLACE INTO %1 (pk,%2) VALUES (?%3)")
-                    .arg(quoted(e.dataTable()), dcols.join(u','),
-                         QStringLiteral(",?").repeated(dcols.size())));
+            SqliteStatement& ds =
+                db_->cached(QStringLiteral("INSERT OR REPLACE INTO %1 (pk,%2) VALUES (?%3)")
+                                .arg(quoted(e.dataTable()), dcols.join(u','),
+                                     QStringLiteral(",?").repeated(dcols.size())));
             ds.bindInt(1, o->rowId_);
             bindDataValues(ds, *o, 2);
             if (ds.step() != SQLITE_DONE)
@@ -263,8 +266,8 @@ std::optional<StoreError> ManagedObjectContext::save() {
 void ManagedObjectContext::loadData(ManagedObject& o) {
     const EntityDescription& e = *o.entity_;
     const QStringList dcols = dataColumns(e);
-    SqliteStatement& st = db_->cached(
-        QStringLiteral("SELECT %1 FROM %2 WHERE pk=?").arg(dcols.join(u','), quoted(e.dataTable())));
+    SqliteStatement& st = db_->cached(QStringLiteral("SELECT %1 FROM %2 WHERE pk=?")
+                                          .arg(dcols.join(u','), quoted(e.dataTable())));
     st.bindInt(1, o.rowId_);
     const bool found = st.step() == SQLITE_ROW;
     int col = 0;

@@ -50,7 +50,8 @@ private:
     void noteChange(ManagedObject& object, int attribute);
     void loadData(ManagedObject& object);
     ObjectPtr makeObject(const EntityDescription& entity) const;
-    ObjectPtr objectForRow(const EntityDescription& entity, qint64 rowId, class SqliteStatement& row);
+    ObjectPtr objectForRow(const EntityDescription& entity, qint64 rowId,
+                           class SqliteStatement& row);
     bool hasPendingChanges(const EntityDescription& entity) const;
     StoreError lastError() const;
 

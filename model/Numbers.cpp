@@ -60,9 +60,15 @@ template <typename T> std::optional<T> parseReal(QStringView text) {
     return value;
 }
 
-template <typename T> QString formatReal(T value) {
-    char buf[64];
-    auto [end, ec] = std::to_chars(buf, buf + sizeof buf, value);
+// Plain digits between 1e-4 and the largest exactly counted whole number of the type
+// (2^53, 2^24), exponent form outside.
+template <typename T> QString formatReal(T value, T large) {
+    char buf[400];
+    const T magnitude = value < 0 ? -value : value;
+    const bool plain = magnitude == 0 || (magnitude >= T(1e-4) && magnitude < large);
+    auto [end, ec] =
+        std::to_chars(buf, buf + sizeof buf - 1, value,
+                      plain ? std::chars_format::fixed : std::chars_format::scientific);
     if (ec != std::errc())
         return QString();
     *end = '\0';
@@ -100,9 +106,17 @@ std::optional<qint16> parseInt16(QStringView text) {
     return qint16(value);
 }
 
-std::optional<double> parseDouble(QStringView text) { return parseReal<double>(text); }
-std::optional<float> parseFloat(QStringView text) { return parseReal<float>(text); }
-QString formatDouble(double value) { return formatReal(value); }
-QString formatFloat(float value) { return formatReal(value); }
+std::optional<double> parseDouble(QStringView text) {
+    return parseReal<double>(text);
+}
+std::optional<float> parseFloat(QStringView text) {
+    return parseReal<float>(text);
+}
+QString formatDouble(double value) {
+    return formatReal(value, 9007199254740992.0);
+}
+QString formatFloat(float value) {
+    return formatReal(value, 16777216.0f);
+}
 
 } // namespace Numbers

@@ -58,14 +58,17 @@ QStringList schema() {
 }
 } // namespace
 
-PersistentContainer::PersistentContainer(QString name) : name_(std::move(name)) {}
+PersistentContainer::PersistentContainer(QString name)
+    : name_(std::move(name)) {}
 
 PersistentContainer::~PersistentContainer() {
     context_.reset();
     db_.reset();
 }
 
-void PersistentContainer::setDefaultDirectory(const QString& dir) { directoryOverride() = dir; }
+void PersistentContainer::setDefaultDirectory(const QString& dir) {
+    directoryOverride() = dir;
+}
 
 QString PersistentContainer::defaultDirectory() {
     if (!directoryOverride().isEmpty())
@@ -74,7 +77,8 @@ QString PersistentContainer::defaultDirectory() {
 }
 
 void PersistentContainer::loadPersistentStores(const Completion& completion) {
-    StoreDescription description{QDir(defaultDirectory()).filePath(name_ + QLatin1String(".sqlite"))};
+    StoreDescription description{
+        QDir(defaultDirectory()).filePath(name_ + QLatin1String(".sqlite"))};
     const std::optional<StoreError> error = open(description.path);
     if (completion)
         completion(description, error);

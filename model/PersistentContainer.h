@@ -23,7 +23,8 @@ public:
     explicit PersistentContainer(QString name);
     ~PersistentContainer();
 
-    using Completion = std::function<void(const StoreDescription&, const std::optional<StoreError>&)>;
+    using Completion =
+        std::function<void(const StoreDescription&, const std::optional<StoreError>&)>;
     void loadPersistentStores(const Completion& completion);
     ManagedObjectContext* viewContext() const { return context_.get(); }
     QString name() const { return name_; }

@@ -44,7 +44,8 @@ struct SortDescriptor {
 };
 
 struct FetchRequest {
-    explicit FetchRequest(QString entity = QString()) : entityName(std::move(entity)) {}
+    explicit FetchRequest(QString entity = QString())
+        : entityName(std::move(entity)) {}
     QString entityName;
     Predicate predicate;
     std::vector<SortDescriptor> sortDescriptors;

@@ -5,7 +5,8 @@
 
 class Coins : public ManagedObject {
 public:
-    Coins() : ManagedObject(Model::coins()) {}
+    Coins()
+        : ManagedObject(Model::coins()) {}
     static QString entityName() { return QStringLiteral("Coins"); }
     // Attribute positions in the model.
     struct Attr {
@@ -67,7 +68,9 @@ public:
     QString serialNumber() const { return ManagedObject::value(15).toString(); }
     void setSerialNumber(const QString& v) { setValue(15, v.isNull() ? QVariant() : QVariant(v)); }
     QString strikeCharacter() const { return ManagedObject::value(16).toString(); }
-    void setStrikeCharacter(const QString& v) { setValue(16, v.isNull() ? QVariant() : QVariant(v)); }
+    void setStrikeCharacter(const QString& v) {
+        setValue(16, v.isNull() ? QVariant() : QVariant(v));
+    }
     double thickness() const { return double(ManagedObject::value(17).toDouble()); }
     void setThickness(double v) { setValue(17, QVariant(v)); }
     float totalValue() const { return float(ManagedObject::value(18).toFloat()); }
@@ -82,7 +85,8 @@ public:
 
 class GradeNumbers : public ManagedObject {
 public:
-    GradeNumbers() : ManagedObject(Model::gradeNumbers()) {}
+    GradeNumbers()
+        : ManagedObject(Model::gradeNumbers()) {}
     static QString entityName() { return QStringLiteral("GradeNumbers"); }
     QString grade() const { return value(0).toString(); }
     void setGrade(const QString& v) { setValue(0, v.isNull() ? QVariant() : QVariant(v)); }
@@ -90,7 +94,8 @@ public:
 
 class StrikeCharacters : public ManagedObject {
 public:
-    StrikeCharacters() : ManagedObject(Model::strikeCharacters()) {}
+    StrikeCharacters()
+        : ManagedObject(Model::strikeCharacters()) {}
     static QString entityName() { return QStringLiteral("StrikeCharacters"); }
     QString strike() const { return value(0).toString(); }
     void setStrike(const QString& v) { setValue(0, v.isNull() ? QVariant() : QVariant(v)); }
@@ -98,7 +103,8 @@ public:
 
 class CoinEdge : public ManagedObject {
 public:
-    CoinEdge() : ManagedObject(Model::coinEdge()) {}
+    CoinEdge()
+        : ManagedObject(Model::coinEdge()) {}
     static QString entityName() { return QStringLiteral("CoinEdge"); }
     QString edge() const { return value(0).toString(); }
     void setEdge(const QString& v) { setValue(0, v.isNull() ? QVariant() : QVariant(v)); }

@@ -9,9 +9,12 @@ SqliteStatement::SqliteStatement(sqlite3* db, const QString& sql) {
         stmt_ = nullptr;
 }
 
-SqliteStatement::~SqliteStatement() { sqlite3_finalize(stmt_); }
+SqliteStatement::~SqliteStatement() {
+    sqlite3_finalize(stmt_);
+}
 
-SqliteStatement::SqliteStatement(SqliteStatement&& other) noexcept : stmt_(other.stmt_) {
+SqliteStatement::SqliteStatement(SqliteStatement&& other) noexcept
+    : stmt_(other.stmt_) {
     other.stmt_ = nullptr;
 }
 
@@ -29,9 +32,15 @@ void SqliteStatement::reset() {
     sqlite3_clear_bindings(stmt_);
 }
 
-void SqliteStatement::bindNull(int i) { sqlite3_bind_null(stmt_, i); }
-void SqliteStatement::bindInt(int i, qint64 v) { sqlite3_bind_int64(stmt_, i, v); }
-void SqliteStatement::bindDouble(int i, double v) { sqlite3_bind_double(stmt_, i, v); }
+void SqliteStatement::bindNull(int i) {
+    sqlite3_bind_null(stmt_, i);
+}
+void SqliteStatement::bindInt(int i, qint64 v) {
+    sqlite3_bind_int64(stmt_, i, v);
+}
+void SqliteStatement::bindDouble(int i, double v) {
+    sqlite3_bind_double(stmt_, i, v);
+}
 
 void SqliteStatement::bindText(int i, const QString& v) {
     const QByteArray text = v.toUtf8();
@@ -67,13 +76,19 @@ void SqliteStatement::bind(int i, const QVariant& v) {
     }
 }
 
-int SqliteStatement::step() { return sqlite3_step(stmt_); }
+int SqliteStatement::step() {
+    return sqlite3_step(stmt_);
+}
 
 bool SqliteStatement::isNull(int col) const {
     return sqlite3_column_type(stmt_, col) == SQLITE_NULL;
 }
-qint64 SqliteStatement::columnInt(int col) const { return sqlite3_column_int64(stmt_, col); }
-double SqliteStatement::columnDouble(int col) const { return sqlite3_column_double(stmt_, col); }
+qint64 SqliteStatement::columnInt(int col) const {
+    return sqlite3_column_int64(stmt_, col);
+}
+double SqliteStatement::columnDouble(int col) const {
+    return sqlite3_column_double(stmt_, col);
+}
 
 QString SqliteStatement::columnText(int col) const {
     const auto* p = reinterpret_cast<const char*>(sqlite3_column_text(stmt_, col));
@@ -85,7 +100,9 @@ QByteArray SqliteStatement::columnBlob(int col) const {
     return QByteArray(p, sqlite3_column_bytes(stmt_, col));
 }
 
-SqliteDatabase::~SqliteDatabase() { close(); }
+SqliteDatabase::~SqliteDatabase() {
+    close();
+}
 
 bool SqliteDatabase::open(const QString& path) {
     close();
@@ -109,13 +126,18 @@ bool SqliteDatabase::exec(const QString& sql) {
     return sqlite3_exec(db_, sql.toUtf8().constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
-int SqliteDatabase::errorCode() const { return db_ ? sqlite3_extended_errcode(db_) : SQLITE_CANTOPEN; }
-
-QString SqliteDatabase::errorMessage() const {
-    return db_ ? QString::fromUtf8(sqlite3_errmsg(db_)) : QStringLiteral("unable to open database file");
+int SqliteDatabase::errorCode() const {
+    return db_ ? sqlite3_extended_errcode(db_) : SQLITE_CANTOPEN;
 }
 
-qint64 SqliteDatabase::lastInsertRowId() const { return sqlite3_last_insert_rowid(db_); }
+QString SqliteDatabase::errorMessage() const {
+    return db_ ? QString::fromUtf8(sqlite3_errmsg(db_))
+               : QStringLiteral("unable to open database file");
+}
+
+qint64 SqliteDatabase::lastInsertRowId() const {
+    return sqlite3_last_insert_rowid(db_);
+}
 
 SqliteStatement& SqliteDatabase::cached(const QString& sql) {
     auto it = cache_.find(sql);

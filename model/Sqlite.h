@@ -1,8 +1,8 @@
 #pragma once
 // Thin RAII wrappers over the sqlite3 C API: a connection and a prepared statement.
 #include <QByteArray>
-#include <QString>
 #include <QHash>
+#include <QString>
 #include <QVariant>
 #include <memory>
 

@@ -18,12 +18,20 @@ void write(std::FILE* out, const QString& line) {
 } // namespace
 
 namespace Console {
-void print(const QString& line) { write(stdout, line); }
-void log(const QString& line) { write(stderr, line); }
+void print(const QString& line) {
+    write(stdout, line);
+}
+void log(const QString& line) {
+    write(stderr, line);
+}
 void startCapture() {
     capturing = true;
     lines().clear();
 }
-void stopCapture() { capturing = false; }
-QStringList captured() { return lines(); }
+void stopCapture() {
+    capturing = false;
+}
+QStringList captured() {
+    return lines();
+}
 } // namespace Console

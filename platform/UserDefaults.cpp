@@ -13,14 +13,13 @@ UserDefaults::UserDefaults(std::unique_ptr<QSettings> settings)
 UserDefaults& UserDefaults::standard() {
     auto& d = instance();
     if (!d)
-        d.reset(new UserDefaults(std::make_unique<QSettings>(QStringLiteral("Pelvane"),
-                                                             QStringLiteral("Pelvane"))));
+        d.reset(new UserDefaults(
+            std::make_unique<QSettings>(QStringLiteral("Pelvane"), QStringLiteral("Pelvane"))));
     return *d;
 }
 
 void UserDefaults::useFile(const QString& path) {
-    instance().reset(
-        new UserDefaults(std::make_unique<QSettings>(path, QSettings::IniFormat)));
+    instance().reset(new UserDefaults(std::make_unique<QSettings>(path, QSettings::IniFormat)));
 }
 
 bool UserDefaults::boolForKey(const QString& key) const {
@@ -35,15 +34,21 @@ bool UserDefaults::boolForKey(const QString& key) const {
     return v.toBool();
 }
 
-void UserDefaults::setBool(bool value, const QString& key) { settings_->setValue(key, value); }
+void UserDefaults::setBool(bool value, const QString& key) {
+    settings_->setValue(key, value);
+}
 
-QVariant UserDefaults::objectForKey(const QString& key) const { return settings_->value(key); }
+QVariant UserDefaults::objectForKey(const QString& key) const {
+    return settings_->value(key);
+}
 
 void UserDefaults::setObject(const QVariant& value, const QString& key) {
     settings_->setValue(key, value);
 }
 
-void UserDefaults::removeObjectForKey(const QString& key) { settings_->remove(key); }
+void UserDefaults::removeObjectForKey(const QString& key) {
+    settings_->remove(key);
+}
 
 bool UserDefaults::synchronize() {
     settings_->sync();

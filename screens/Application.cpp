@@ -9,7 +9,9 @@ ApplicationDelegate* current = nullptr;
 
 namespace Application {
 
-void setDelegate(ApplicationDelegate* delegate) { current = delegate; }
+void setDelegate(ApplicationDelegate* delegate) {
+    current = delegate;
+}
 
 ApplicationDelegate& delegate() {
     if (!current)
@@ -18,7 +20,9 @@ ApplicationDelegate& delegate() {
     return *current;
 }
 
-ManagedObjectContext* viewContext() { return delegate().persistentContainer().viewContext(); }
+ManagedObjectContext* viewContext() {
+    return delegate().persistentContainer().viewContext();
+}
 
 void saveRecord(const ObjectPtr& record) {
     ManagedObjectContext* context = record ? record->managedObjectContext() : nullptr;

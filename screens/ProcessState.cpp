@@ -30,10 +30,10 @@ QString CalledFromList;
 bool SortAscending = true;
 
 void resetProcessState() {
-    for (QString* s : {&SelectedCountry, &SelectedDenomination, &SelectedDescription,
-                       &SelectedDesigner, &SelectedEdge, &SelectedGrade, &SelectedMintLocation,
-                       &SelectedMintMark, &SelectedNotes, &SelectedPeriod, &SelectedSerialNumber,
-                       &SelectedStrikeCharacter, &CalledFromList})
+    for (QString* s :
+         {&SelectedCountry, &SelectedDenomination, &SelectedDescription, &SelectedDesigner,
+          &SelectedEdge, &SelectedGrade, &SelectedMintLocation, &SelectedMintMark, &SelectedNotes,
+          &SelectedPeriod, &SelectedSerialNumber, &SelectedStrikeCharacter, &CalledFromList})
         s->clear();
     SelectedDiameter = SelectedThickness = SelectedWeight = 0;
     SelectedValue = SelectedTotalValue = 0;

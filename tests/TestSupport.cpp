@@ -13,7 +13,9 @@ void PelvaneTest::SetUp() {
     Console::startCapture();
 }
 
-void PelvaneTest::TearDown() { Console::stopCapture(); }
+void PelvaneTest::TearDown() {
+    Console::stopCapture();
+}
 
 bool waitUntil(const std::function<bool()>& pred, int timeoutMs) {
     QElapsedTimer t;

@@ -1,0 +1,189 @@
+#include "StoreFixture.h"
+
+#include <sqlite3.h>
+
+namespace {
+Predicate eq(const char* format, const QVariant& arg) {
+    return Predicate::format(QString::fromLatin1(format), arg);
+}
+} // namespace
+
+TEST_F(StoreTest, EveryQueryFormMatchesStoredRecords) {
+    coin("Canada", "1 Cent", 1965, "P", 2, 0.5f);
+    coin("Canada", "5 Cents", 1965, "D", 1, 3.5f);
+    coin("USA", "1 Cent", 1909, "S", 4, 12.5f);
+    auto empty = coin("", "Dime", 1960);
+    auto absent = coin(QString(), "Nickel", 1961);
+    ASSERT_FALSE(ctx().save().has_value());
+    reopen(); // everything below comes from the file, not from memory
+
+    EXPECT_EQ(fetch(eq("denomination = %@", "1 Cent")).size(), 2);
+    EXPECT_EQ(fetch(eq("denomination == %@", "1 Cent")).size(), 2);
+    EXPECT_EQ(fetch(eq("denomination=%@", "1 Cent")).size(), 2);
+    EXPECT_EQ(fetch(eq("denomination == %@", "1 cent")).size(), 0); // exact, case-sensitive
+    EXPECT_EQ(fetch(eq("country == %@", "")).size(), 1);            // "" matches "" only
+    EXPECT_EQ(fetch(eq("country == %@", ""))[0]->denomination(), "Dime");
+    EXPECT_EQ(fetch(eq("country == %@", QVariant())).size(), 1); // nil matches absent
+    // Integer attributes compare with the number a text spells; no number, no match.
+    EXPECT_EQ(fetch(eq("year == %@", "1965")).size(), 2);
+    EXPECT_EQ(fetch(eq("year = %@", 1909)).size(), 1);
+    EXPECT_EQ(fetch(eq("year == %@", "")).size(), 0);
+    EXPECT_EQ(fetch(eq("year == %@", "19x5")).size(), 0);
+    EXPECT_EQ(fetch(eq("value=%@", "3.5")).size(), 1);
+
+    auto both =
+        Predicate::andPredicate({eq("denomination = %@", "1 Cent"), eq("year = %@", "1909")});
+    ASSERT_EQ(fetch(both).size(), 1);
+    EXPECT_EQ(fetch(both)[0]->country(), "USA");
+    auto four =
+        Predicate::andPredicate({eq("country == %@", "Canada"), eq("denomination == %@", "1 Cent"),
+                                 eq("mintMark == %@", "P"), eq("year == %@", "1965")});
+    EXPECT_EQ(fetch(four).size(), 1);
+    EXPECT_EQ(
+        fetch(Predicate::format(QStringLiteral("country == %@ AND year == %@"), {"Canada", "1965"}))
+            .size(),
+        2);
+
+    // Sorting: every key both ways; absent texts first ascending; ties in store order.
+    EXPECT_EQ(denominations(fetch({}, {{"country", true}})),
+              QStringList({"Nickel", "Dime", "1 Cent", "5 Cents", "1 Cent"}));
+    EXPECT_EQ(denominations(fetch({}, {{"year", false}})),
+              QStringList({"1 Cent", "5 Cents", "Nickel", "Dime", "1 Cent"}));
+    EXPECT_EQ(denominations(fetch({}, {{"value", false}})).first(), "1 Cent");
+    EXPECT_EQ(fetch({}, {{"quantity", false}}).first()->quantity(), 4);
+    EXPECT_EQ(denominations(fetch({}, {{"denomination", true}, {"year", true}})),
+              QStringList({"1 Cent", "1 Cent", "5 Cents", "Dime", "Nickel"}));
+    EXPECT_EQ(fetch({}, {{"denomination", true}, {"year", true}}).first()->year(), 1909);
+    (void)empty;
+    (void)absent;
+}
+
+TEST_F(StoreTest, FetchesSeePendingChanges) {
+    auto a = coin("Canada", "1 Cent", 1965);
+    auto b = coin("Canada", "5 Cents", 1966);
+    auto c = coin("Canada", "10 Cents", 1967);
+    ASSERT_FALSE(ctx().save());
+    EXPECT_FALSE(ctx().hasChanges());
+
+    b->setDenomination(QStringLiteral("25 Cents")); // unsaved update
+    EXPECT_TRUE(ctx().hasChanges());
+    EXPECT_EQ(fetch(eq("denomination == %@", "25 Cents")).size(), 1);
+    EXPECT_EQ(fetch(eq("denomination == %@", "5 Cents")).size(), 0);
+
+    auto d = coin("Canada", "50 Cents", 1968); // unsaved insert
+    EXPECT_EQ(fetch(eq("country == %@", "Canada")).size(), 4);
+    ctx().deleteObject(a); // unsaved delete
+    EXPECT_EQ(fetch(eq("country == %@", "Canada")).size(), 3);
+
+    // Sorting applies to the merged result, not just to what came from the file.
+    EXPECT_EQ(denominations(fetch({}, {{"denomination", false}})),
+              QStringList({"50 Cents", "25 Cents", "10 Cents"}));
+    EXPECT_EQ(denominations(fetch()), QStringList({"25 Cents", "10 Cents", "50 Cents"}));
+
+    ASSERT_FALSE(ctx().save());
+    EXPECT_EQ(a->managedObjectContext(), nullptr);
+    reopen();
+    EXPECT_EQ(denominations(fetch({}, {{"year", true}})),
+              QStringList({"25 Cents", "10 Cents", "50 Cents"}));
+    EXPECT_EQ(fetch(eq("denomination == %@", "1 Cent")).size(), 0); // never comes back
+    (void)c;
+    (void)d;
+}
+
+TEST_F(StoreTest, OneObjectPerRowAndPicturesOnFirstAccess) {
+    auto a = coin("Peru", "1 Sol", 1935);
+    const QByteArray front(3000, 'F');
+    a->setFrontImage(front);
+    a->setBackImage(QByteArray("")); // empty is a value, unlike absent
+    ASSERT_FALSE(ctx().save());
+    reopen();
+    auto first = fetch();
+    auto second = fetch(eq("country == %@", "Peru"));
+    ASSERT_EQ(first.size(), 1);
+    EXPECT_EQ(first[0].get(), second[0].get()); // same object, shared by both arrays
+    first[0]->setNotes(QStringLiteral("edited"));
+    EXPECT_EQ(second[0]->notes(), "edited");
+    EXPECT_EQ(first[0]->frontImage(), front);
+    EXPECT_TRUE(first[0]->hasValue(Coins::Attr::backImage));
+    EXPECT_TRUE(first[0]->backImage().isEmpty());
+
+    // Changing one picture keeps the other.
+    first[0]->setBackImage(QByteArray("B"));
+    ASSERT_FALSE(ctx().save());
+    first.clear();
+    second.clear();
+    reopen();
+    auto again = fetch();
+    EXPECT_EQ(again[0]->frontImage(), front);
+    EXPECT_EQ(again[0]->backImage(), QByteArray("B"));
+    EXPECT_EQ(again[0]->notes(), "edited");
+    EXPECT_EQ(again[0]->value("country").toString(), "Peru");
+    // Absent scalars read as 0 and absent texts as null.
+    EXPECT_EQ(again[0]->diameter(), 0.0);
+    EXPECT_TRUE(again[0]->designer().isNull());
+}
+
+TEST_F(StoreTest, FailedSaveRollsBackAndKeepsChangesPending) {
+    coin("Chile", "1 Peso", 1990);
+    ASSERT_FALSE(ctx().save());
+    {
+        // Another writer of the same file refuses one value, as a broken disk would refuse all.
+        sqlite3* db = nullptr;
+        ASSERT_EQ(sqlite3_open(path("Pelvane.sqlite").toUtf8().constData(), &db), SQLITE_OK);
+        ASSERT_EQ(sqlite3_exec(db,
+                               "CREATE TRIGGER refuse BEFORE INSERT ON Coins WHEN "
+                               "NEW.country = 'FAIL' BEGIN SELECT RAISE(ABORT, 'refused'); END;",
+                               nullptr, nullptr, nullptr),
+                  SQLITE_OK);
+        sqlite3_close(db);
+    }
+    auto good = coin("Chile", "5 Pesos", 1991);
+    auto bad = coin("FAIL", "10 Pesos", 1992);
+    fetch().first()->setYear(1999);
+    auto error = ctx().save();
+    ASSERT_TRUE(error.has_value());
+    EXPECT_TRUE(error->message.contains("refused"));
+    EXPECT_TRUE(ctx().hasChanges());
+    EXPECT_EQ(good->objectID(), 0);
+    EXPECT_EQ(fetch().size(), 3); // still seen through the context
+
+    // Nothing of the failed transaction reached the file.
+    {
+        PersistentContainer other(QStringLiteral("Pelvane"));
+        other.loadPersistentStores({});
+        FetchRequest r(QStringLiteral("Coins"));
+        auto stored = other.viewContext()->fetch<Coins>(r);
+        ASSERT_EQ(stored.size(), 1);
+        EXPECT_EQ(stored[0]->year(), 1990);
+    }
+    ctx().deleteObject(bad);
+    ASSERT_FALSE(ctx().save());
+    reopen();
+    EXPECT_EQ(denominations(fetch({}, {{"year", true}})), QStringList({"5 Pesos", "1 Peso"}));
+}
+
+TEST_F(StoreTest, StoreFromANewerVersionIsRefusedAndLeftAlone) {
+    container.reset();
+    sqlite3* db = nullptr;
+    ASSERT_EQ(sqlite3_open(path("Pelvane.sqlite").toUtf8().constData(), &db), SQLITE_OK);
+    sqlite3_exec(db, "PRAGMA user_version=99", nullptr, nullptr, nullptr);
+    sqlite3_close(db);
+    const QByteArray before = [&] {
+        QFile f(path("Pelvane.sqlite"));
+        f.open(QIODevice::ReadOnly);
+        return f.readAll();
+    }();
+    PersistentContainer c(QStringLiteral("Pelvane"));
+    std::optional<StoreError> failure;
+    c.loadPersistentStores([&](const StoreDescription&, const auto& e) { failure = e; });
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(c.viewContext(), nullptr);
+    QFile f(path("Pelvane.sqlite"));
+    f.open(QIODevice::ReadOnly);
+    EXPECT_EQ(f.readAll(), before);
+}
+
+TEST(PredicateDeathTest, UnknownFormatIsFatal) {
+    EXPECT_DEATH(Predicate::format(QStringLiteral("year > %@"), QVariant(1)), "Fatal error");
+    EXPECT_DEATH(Predicate::format(QStringLiteral("year == %@"), QVariantList{}), "Fatal error");
+}
