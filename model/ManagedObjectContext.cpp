@@ -14,21 +14,72 @@ QString quoted(const QString& name) {
     return QLatin1Char('"') + name + QLatin1Char('"');
 }
 
-// Columns of the entity's main table: every attribute but the pictures, in model order.
-QStringList mainColumns(const EntityDescription& e) {
+QStringList columnsOf(const EntityDescription& e, bool data) {
     QStringList cols;
     for (const auto& a : e.attributes)
-        if (a.type != AttributeType::Data)
+        if ((a.type == AttributeType::Data) == data)
             cols << quoted(a.name);
     return cols;
 }
 
-QStringList dataColumns(const EntityDescription& e) {
-    QStringList cols;
-    for (const auto& a : e.attributes)
-        if (a.type == AttributeType::Data)
-            cols << quoted(a.name);
-    return cols;
+// Columns of the entity's main table: every attribute but the pictures, in model order.
+const QStringList& mainColumns(const EntityDescription& e) {
+    static const std::vector<QStringList> all = [] {
+        std::vector<QStringList> v;
+        for (auto* entity : Model::entities())
+            v.push_back(columnsOf(*entity, false));
+        return v;
+    }();
+    return all[std::size_t(e.index)];
+}
+
+const QStringList& dataColumns(const EntityDescription& e) {
+    static const std::vector<QStringList> all = [] {
+        std::vector<QStringList> v;
+        for (auto* entity : Model::entities())
+            v.push_back(columnsOf(*entity, true));
+        return v;
+    }();
+    return all[std::size_t(e.index)];
+}
+
+// The statements the context uses, per entity, built once.
+struct WriteSql {
+    QString select, insert, insertData, update, remove, removeData, loadData;
+};
+
+const WriteSql& writeSql(const EntityDescription& e) {
+    static const std::vector<WriteSql> all = [] {
+        std::vector<WriteSql> v;
+        for (auto* entity : Model::entities()) {
+            const QStringList& cols = mainColumns(*entity);
+            const QStringList& dcols = dataColumns(*entity);
+            QStringList sets;
+            for (const QString& c : cols)
+                sets << c + QLatin1String("=?");
+            WriteSql w;
+            w.select = QStringLiteral("SELECT pk,%1 FROM %2 WHERE ")
+                           .arg(cols.join(u','), quoted(entity->name));
+            w.insert = QStringLiteral("INSERT INTO %1 (%2) VALUES (?%3)")
+                           .arg(quoted(entity->name), cols.join(u','),
+                                QStringLiteral(",?").repeated(cols.size() - 1));
+            w.update = QStringLiteral("UPDATE %1 SET %2 WHERE pk=?")
+                           .arg(quoted(entity->name), sets.join(u','));
+            w.remove = QStringLiteral("DELETE FROM %1 WHERE pk=?").arg(quoted(entity->name));
+            if (entity->hasData()) {
+                w.insertData = QStringLiteral("INSERT OR REPLACE INTO %1 (pk,%2) VALUES (?%3)")
+                                   .arg(quoted(entity->dataTable()), dcols.join(u','),
+                                        QStringLiteral(",?").repeated(dcols.size()));
+                w.removeData =
+                    QStringLiteral("DELETE FROM %1 WHERE pk=?").arg(quoted(entity->dataTable()));
+                w.loadData = QStringLiteral("SELECT %1 FROM %2 WHERE pk=?")
+                                 .arg(dcols.join(u','), quoted(entity->dataTable()));
+            }
+            v.push_back(w);
+        }
+        return v;
+    }();
+    return all[std::size_t(e.index)];
 }
 
 quint32 dataMask(const EntityDescription& e) {
@@ -160,11 +211,13 @@ std::optional<StoreError> ManagedObjectContext::save() {
         if (o->entity_->hasData() && (o->dirty_ & dataMask(*o->entity_)))
             loadData(*o);
 
-    if (!db_->exec(QStringLiteral("BEGIN IMMEDIATE")))
+    SqliteStatement& begin = db_->cached(QStringLiteral("BEGIN IMMEDIATE"));
+    if (begin.step() != SQLITE_DONE)
         return lastError();
     auto fail = [this]() {
         StoreError err = lastError();
         db_->exec(QStringLiteral("ROLLBACK"));
+        db_->resetAll();
         return err;
     };
 
@@ -172,24 +225,14 @@ std::optional<StoreError> ManagedObjectContext::save() {
     newIds.reserve(std::size_t(inserted_.size()));
     for (const auto& o : inserted_) {
         const EntityDescription& e = *o->entity_;
-        const QStringList cols = mainColumns(e);
-        QStringList marks;
-        for (qsizetype i = 0; i < cols.size(); ++i)
-            marks << QStringLiteral("?");
-        SqliteStatement& st =
-            db_->cached(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                            .arg(quoted(e.name), cols.join(u','), marks.join(u',')));
+        SqliteStatement& st = db_->cached(writeSql(e).insert);
         bindMainValues(st, *o);
         if (st.step() != SQLITE_DONE)
             return fail();
         const qint64 id = db_->lastInsertRowId();
         newIds.push_back(id);
         if (e.hasData() && (o->present_ & dataMask(e))) {
-            const QStringList dcols = dataColumns(e);
-            SqliteStatement& ds =
-                db_->cached(QStringLiteral("INSERT OR REPLACE INTO %1 (pk,%2) VALUES (?%3)")
-                                .arg(quoted(e.dataTable()), dcols.join(u','),
-                                     QStringLiteral(",?").repeated(dcols.size())));
+            SqliteStatement& ds = db_->cached(writeSql(e).insertData);
             ds.bindInt(1, id);
             bindDataValues(ds, *o, 2);
             if (ds.step() != SQLITE_DONE)
@@ -198,21 +241,13 @@ std::optional<StoreError> ManagedObjectContext::save() {
     }
     for (const auto& o : std::as_const(updated_)) {
         const EntityDescription& e = *o->entity_;
-        QStringList sets;
-        for (const QString& c : mainColumns(e))
-            sets << c + QLatin1String("=?");
-        SqliteStatement& st = db_->cached(
-            QStringLiteral("UPDATE %1 SET %2 WHERE pk=?").arg(quoted(e.name), sets.join(u',')));
+        SqliteStatement& st = db_->cached(writeSql(e).update);
         bindMainValues(st, *o);
-        st.bindInt(int(sets.size()) + 1, o->rowId_);
+        st.bindInt(int(mainColumns(e).size()) + 1, o->rowId_);
         if (st.step() != SQLITE_DONE)
             return fail();
         if (e.hasData() && (o->dirty_ & dataMask(e))) {
-            const QStringList dcols = dataColumns(e);
-            SqliteStatement& ds =
-                db_->cached(QStringLiteral("INSERT OR REPLACE INTO %1 (pk,%2) VALUES (?%3)")
-                                .arg(quoted(e.dataTable()), dcols.join(u','),
-                                     QStringLiteral(",?").repeated(dcols.size())));
+            SqliteStatement& ds = db_->cached(writeSql(e).insertData);
             ds.bindInt(1, o->rowId_);
             bindDataValues(ds, *o, 2);
             if (ds.step() != SQLITE_DONE)
@@ -221,21 +256,22 @@ std::optional<StoreError> ManagedObjectContext::save() {
     }
     for (const auto& o : deleted_) {
         const EntityDescription& e = *o->entity_;
-        SqliteStatement& st =
-            db_->cached(QStringLiteral("DELETE FROM %1 WHERE pk=?").arg(quoted(e.name)));
+        SqliteStatement& st = db_->cached(writeSql(e).remove);
         st.bindInt(1, o->rowId_);
         if (st.step() != SQLITE_DONE)
             return fail();
         if (e.hasData()) {
-            SqliteStatement& ds =
-                db_->cached(QStringLiteral("DELETE FROM %1 WHERE pk=?").arg(quoted(e.dataTable())));
+            SqliteStatement& ds = db_->cached(writeSql(e).removeData);
             ds.bindInt(1, o->rowId_);
             if (ds.step() != SQLITE_DONE)
                 return fail();
         }
     }
-    if (!db_->exec(QStringLiteral("COMMIT")))
+    SqliteStatement& commit = db_->cached(QStringLiteral("COMMIT"));
+    if (commit.step() != SQLITE_DONE)
         return fail();
+    commit.reset();
+    begin.reset();
 
     // Only now that the transaction is in does memory follow it.
     for (qsizetype i = 0; i < inserted_.size(); ++i) {
@@ -358,8 +394,7 @@ QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreE
     QVariantList binds;
     const QString where = request.predicate.sql(e, binds);
     SqliteStatement& st =
-        db_->cached(QStringLiteral("SELECT pk,%1 FROM %2 WHERE %3 ORDER BY %4")
-                        .arg(mainColumns(e).join(u','), quoted(e.name), where, order.join(u',')));
+        db_->cached(writeSql(e).select + where + QLatin1String(" ORDER BY ") + order.join(u','));
     if (!st.isValid()) {
         if (error)
             *error = lastError();

@@ -4,6 +4,7 @@
 #include "model/Numbers.h"
 #include "platform/Fatal.h"
 
+#include <QHash>
 #include <QRegularExpression>
 #include <cmath>
 
@@ -69,21 +70,31 @@ int compareText(const QString& a, const QString& b) {
 } // namespace PredicateDetail
 
 Predicate Predicate::format(const QString& format, const QVariantList& arguments) {
-    static const QRegularExpression termRe(
-        QStringLiteral("^\\s*([A-Za-z_][A-Za-z0-9_]*)\\s*(==|=)\\s*%@\\s*$"));
-    static const QRegularExpression andRe(QStringLiteral("\\s+(?:AND|and)\\s+|\\s*&&\\s*"));
-    Predicate p;
-    const QStringList parts = format.split(andRe);
-    if (parts.size() != arguments.size())
+    // Screens build the same few formats over and over (the import once per line): parse
+    // each text once.
+    static QHash<QString, QStringList> parsed;
+    auto it = parsed.constFind(format);
+    if (it == parsed.cend()) {
+        static const QRegularExpression termRe(
+            QStringLiteral("^\\s*([A-Za-z_][A-Za-z0-9_]*)\\s*(==|=)\\s*%@\\s*$"));
+        static const QRegularExpression andRe(QStringLiteral("\\s+(?:AND|and)\\s+|\\s*&&\\s*"));
+        QStringList keys;
+        for (const QString& part : format.split(andRe)) {
+            const auto m = termRe.match(part);
+            if (!m.hasMatch())
+                fatalError(QStringLiteral("Unable to parse the format string \"%1\"").arg(format),
+                           "Pelvane/Predicate", __LINE__);
+            keys << m.captured(1);
+        }
+        it = parsed.insert(format, keys);
+    }
+    if (it->size() != arguments.size())
         fatalError(QStringLiteral("Unable to parse the format string \"%1\"").arg(format),
                    "Pelvane/Predicate", __LINE__);
-    for (qsizetype i = 0; i < parts.size(); ++i) {
-        const auto m = termRe.match(parts[i]);
-        if (!m.hasMatch())
-            fatalError(QStringLiteral("Unable to parse the format string \"%1\"").arg(format),
-                       "Pelvane/Predicate", __LINE__);
-        p.terms_.push_back({m.captured(1), arguments[i]});
-    }
+    Predicate p;
+    p.terms_.reserve(std::size_t(it->size()));
+    for (qsizetype i = 0; i < it->size(); ++i)
+        p.terms_.push_back({it->at(i), arguments[i]});
     return p;
 }
 

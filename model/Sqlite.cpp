@@ -147,3 +147,8 @@ SqliteStatement& SqliteDatabase::cached(const QString& sql) {
     }
     return *cache_.insert(sql, std::make_shared<SqliteStatement>(db_, sql)).value();
 }
+
+void SqliteDatabase::resetAll() {
+    for (auto& stmt : cache_)
+        stmt->reset();
+}

@@ -57,6 +57,8 @@ public:
     sqlite3* handle() const { return db_; }
     // A statement prepared once and kept for the life of the connection.
     SqliteStatement& cached(const QString& sql);
+    // Resets every cached statement (after a rollback, so none holds the aborted transaction).
+    void resetAll();
 
 private:
     sqlite3* db_ = nullptr;

@@ -1,0 +1,8 @@
+#!/usr/bin/env bash
+# Builds the benchmarks in release mode and runs them; one figure per line.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+cmake -S . -B build-bench -G Ninja -DCMAKE_BUILD_TYPE=Release -DPELVANE_TESTS=OFF >/dev/null
+cmake --build build-bench --target store_bench >/dev/null
+export QT_QPA_PLATFORM=offscreen
+./build-bench/bench/store_bench
