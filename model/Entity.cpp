@@ -1,10 +1,7 @@
 #include "model/Entity.h"
 
 int EntityDescription::indexOf(const QString& attributeName) const {
-    for (std::size_t i = 0; i < attributes.size(); ++i)
-        if (attributes[i].name == attributeName)
-            return int(i);
-    return -1;
+    return positions.value(attributeName, -1);
 }
 
 const AttributeDescription* EntityDescription::attribute(const QString& attributeName) const {
@@ -32,6 +29,7 @@ EntityDescription make(const char* name, int index,
             a.slot = e.numberCount++;
             break;
         }
+        e.positions.insert(a.name, int(e.attributes.size()));
         e.attributes.push_back(a);
     }
     return e;

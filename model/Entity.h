@@ -1,6 +1,7 @@
 #pragma once
 // The data model: one attribute table per entity drives the schema, key access, predicates,
 // sorting and the exchange file.
+#include <QHash>
 #include <QString>
 #include <vector>
 
@@ -19,6 +20,7 @@ struct EntityDescription {
     int dataCount = 0;
     int numberCount = 0;
     int index = 0; // position in the model
+    QHash<QString, int> positions;
 
     // -1 when the entity has no attribute of that name.
     int indexOf(const QString& attribute) const;

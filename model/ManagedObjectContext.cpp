@@ -405,16 +405,18 @@ QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreE
 
     // Updated objects whose filter or sort values differ from the store are judged in memory.
     QSet<ManagedObject*> inMemory;
-    const auto& dirty = dirtyByAttribute_[std::size_t(e.index)];
-    for (std::size_t i = 0; i < dirty.size(); ++i)
-        if (keyMask & (1u << i))
-            inMemory.unite(dirty[i]);
+    if (!updated_.isEmpty()) {
+        const auto& dirty = dirtyByAttribute_[std::size_t(e.index)];
+        for (std::size_t i = 0; i < dirty.size(); ++i)
+            if (keyMask & (1u << i))
+                inMemory.unite(dirty[i]);
+    }
 
     QList<ObjectPtr> result;
     int rc;
     while ((rc = st.step()) == SQLITE_ROW) {
         ObjectPtr o = objectForRow(e, st.columnInt(0), st);
-        if (o->isDeleted() || inMemory.contains(o.get()))
+        if (o->isDeleted() || (!inMemory.isEmpty() && inMemory.contains(o.get())))
             continue;
         result.append(std::move(o));
     }
