@@ -1,0 +1,34 @@
+#pragma once
+// The main list's sort choices, its search per sort key and its row texts: what the list
+// screen shows, kept apart from the widgets so it can be checked on its own.
+#include "model/Records.h"
+
+#include <QList>
+#include <QString>
+
+struct SortChoice {
+    QString menuTitle;   // "By Name"
+    QString consoleLine; // "Option 1 selected"
+    QString sortName;    // "Name"
+    QString key;         // the attribute sorted and searched
+    QString placeholder; // the search field's placeholder
+};
+
+namespace MainListSorting {
+// The five choices of the "Sort by" menu, in menu order.
+const QList<SortChoice>& choices();
+// nullptr for an absent or unknown sort name.
+const SortChoice* choiceFor(const QString& sortName);
+// The coins of `all` (in order) whose key text for the sort contains `text`. Text keys compare
+// case-insensitively, numeric keys on the number's text. No sort name: nothing is filtered.
+// A coin without a country is a fatal error when searching by country.
+QList<CoinPtr> filter(const QList<CoinPtr>& all, const QString& sortName, const QString& text);
+
+// Row texts of the list cell.
+QString yearLine(const Coins& coin);     // "Year: 1965  Mint Mark: P"
+qint16 shownQuantity(const Coins& coin); // a quantity of 0 counts as one coin
+QString quantityLine(const Coins& coin); // "Qty: 2"
+QString valueLine(const Coins& coin);    // "Value: $0.50  Total Value: $1.00"
+// Money in the currency style of the user's locale.
+QString currency(double amount);
+} // namespace MainListSorting
