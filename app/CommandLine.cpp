@@ -13,16 +13,17 @@ LaunchOptions parseLaunchOptions(const QStringList& arguments) {
     const QCommandLineOption dataDir(QStringLiteral("data-dir"),
                                      QStringLiteral("Keep the collection and preferences in DIR."),
                                      QStringLiteral("DIR"));
-    const QCommandLineOption exportFile(QStringLiteral("export"),
-                                        QStringLiteral("Write the exchange file of the collection."),
-                                        QStringLiteral("FILE"));
-    const QCommandLineOption importFile(QStringLiteral("import"),
-                                        QStringLiteral("Merge an exchange file into the collection."),
-                                        QStringLiteral("FILE"));
+    const QCommandLineOption exportFile(
+        QStringLiteral("export"), QStringLiteral("Write the exchange file of the collection."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption importFile(
+        QStringLiteral("import"), QStringLiteral("Merge an exchange file into the collection."),
+        QStringLiteral("FILE"));
     const QCommandLineOption grab(QStringLiteral("grab"),
                                   QStringLiteral("Save a picture of the window and quit."),
                                   QStringLiteral("PNG"));
-    const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Use the dark appearance."));
+    const QCommandLineOption dark(QStringLiteral("dark"),
+                                  QStringLiteral("Use the dark appearance."));
     parser.addOptions({dataDir, exportFile, importFile, grab, dark});
     LaunchOptions options;
     if (!parser.parse(arguments)) {
