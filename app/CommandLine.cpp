@@ -24,7 +24,9 @@ LaunchOptions parseLaunchOptions(const QStringList& arguments) {
                                   QStringLiteral("PNG"));
     const QCommandLineOption dark(QStringLiteral("dark"),
                                   QStringLiteral("Use the dark appearance."));
-    parser.addOptions({dataDir, exportFile, importFile, grab, dark});
+    const QCommandLineOption openMenu(QStringLiteral("open-menu"),
+                                      QStringLiteral("Start with the menu opened."));
+    parser.addOptions({dataDir, exportFile, importFile, grab, dark, openMenu});
     LaunchOptions options;
     if (!parser.parse(arguments)) {
         options.error = parser.errorText();
@@ -39,6 +41,7 @@ LaunchOptions parseLaunchOptions(const QStringList& arguments) {
     options.importFile = parser.value(importFile);
     options.grabFile = parser.value(grab);
     options.dark = parser.isSet(dark);
+    options.openMenu = parser.isSet(openMenu);
     if (!options.exportFile.isEmpty() && !options.importFile.isEmpty())
         options.error = QStringLiteral("--export and --import cannot be combined");
     return options;

@@ -4,12 +4,13 @@
 
 // What the command line asks of this run.
 struct LaunchOptions {
-    QString dataDir;    // --data-dir DIR: collection and preferences kept in DIR
-    QString exportFile; // --export FILE: write the exchange file and exit
-    QString importFile; // --import FILE: merge an exchange file and exit
-    QString grabFile;   // --grab PNG: save a picture of the window after start-up and exit
-    bool dark = false;  // --dark: the dark appearance, whatever the desktop says
-    QString error;      // set when the arguments make no sense
+    QString dataDir;       // --data-dir DIR: collection and preferences kept in DIR
+    QString exportFile;    // --export FILE: write the exchange file and exit
+    QString importFile;    // --import FILE: merge an exchange file and exit
+    QString grabFile;      // --grab PNG: save a picture of the window after start-up and exit
+    bool dark = false;     // --dark: the dark appearance, whatever the desktop says
+    bool openMenu = false; // --open-menu: start with the menu opened (screenshots)
+    QString error;         // set when the arguments make no sense
 };
 
 LaunchOptions parseLaunchOptions(const QStringList& arguments);

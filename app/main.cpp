@@ -1,7 +1,12 @@
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
+#include "app/Storyboard.h"
+#include "platform/kit/Appearance.h"
+#include "platform/kit/Window.h"
+#include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include <cstdio>
 
@@ -20,5 +25,20 @@ int main(int argc, char** argv) {
 
     AppDelegate delegate;
     delegate.didFinishLaunching();
-    return 0;
+    if (options.dark)
+        Appearance::setDark(true);
+    AppStoryboard::install();
+
+    auto* menu = new MainMenuViewController;
+    Window window(menu);
+    window.show();
+    if (options.openMenu)
+        menu->HandleButtonClick();
+    if (!options.grabFile.isEmpty()) {
+        QTimer::singleShot(700, &window, [&window, file = options.grabFile] {
+            window.grab().save(file);
+            QApplication::quit();
+        });
+    }
+    return QApplication::exec();
 }

@@ -1,0 +1,162 @@
+#include "platform/kit/NavigationController.h"
+
+#include "platform/kit/ViewController.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+NavigationController::NavigationController(ViewController* root, QWidget* parent)
+    : QWidget(parent)
+    , bar_(new QWidget(this))
+    , back_(new QToolButton(bar_))
+    , title_(new QLabel(bar_))
+    , rightItems_(new QHBoxLayout)
+    , stack_(new QStackedWidget(this)) {
+    auto* barLayout = new QHBoxLayout(bar_);
+    barLayout->setContentsMargins(8, 4, 8, 4);
+    back_->setObjectName(QStringLiteral("BackButton"));
+    back_->setAutoRaise(true);
+    QFont bold = title_->font();
+    bold.setBold(true);
+    bold.setPointSizeF(bold.pointSizeF() * 1.15);
+    title_->setFont(bold);
+    title_->setAlignment(Qt::AlignCenter);
+    auto* left = new QWidget(bar_);
+    auto* leftLayout = new QHBoxLayout(left);
+    leftLayout->setContentsMargins(0, 0, 0, 0);
+    leftLayout->addWidget(back_);
+    leftLayout->addStretch();
+    auto* right = new QWidget(bar_);
+    rightItems_->setParent(nullptr);
+    right->setLayout(rightItems_);
+    rightItems_->setContentsMargins(0, 0, 0, 0);
+    barLayout->addWidget(left, 1);
+    barLayout->addWidget(title_, 2);
+    barLayout->addWidget(right, 1);
+    bar_->setMinimumHeight(44);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(bar_);
+    layout->addWidget(stack_, 1);
+    connect(back_, &QToolButton::clicked, this, [this] { popViewController(true); });
+    if (root)
+        pushViewController(root, false);
+}
+
+ViewController* NavigationController::topViewController() const {
+    return screens_.isEmpty() ? nullptr : screens_.last().data();
+}
+
+QList<ViewController*> NavigationController::viewControllers() const {
+    QList<ViewController*> out;
+    for (const auto& s : screens_)
+        if (s)
+            out << s.data();
+    return out;
+}
+
+int NavigationController::indexOf(ViewController* screen) const {
+    for (int i = 0; i < screens_.size(); ++i)
+        if (screens_[i] == screen)
+            return i;
+    return -1;
+}
+
+void NavigationController::pushViewController(ViewController* screen, bool animated) {
+    ViewController* previous = topViewController();
+    screen->loadViewIfNeeded();
+    if (previous)
+        previous->viewWillDisappear(animated);
+    screen->viewWillAppear(animated);
+    screens_.append(screen);
+    stack_->addWidget(screen);
+    stack_->setCurrentWidget(screen);
+    refreshBar();
+    if (previous)
+        previous->viewDidDisappear(animated);
+    screen->viewDidAppear(animated);
+}
+
+ViewController* NavigationController::popViewController(bool animated) {
+    if (screens_.size() < 2)
+        return nullptr;
+    ViewController* leaving = topViewController();
+    ViewController* showing = screens_[screens_.size() - 2];
+    popToViewController(showing, animated);
+    return leaving;
+}
+
+void NavigationController::popToViewController(ViewController* screen, bool animated) {
+    const int index = indexOf(screen);
+    if (index < 0 || index == screens_.size() - 1)
+        return;
+    ViewController* leaving = topViewController();
+    leaving->viewWillDisappear(animated);
+    screen->viewWillAppear(animated);
+    stack_->setCurrentWidget(screen);
+    while (screens_.size() > index + 1) {
+        QPointer<ViewController> gone = screens_.takeLast();
+        if (gone) {
+            stack_->removeWidget(gone);
+            gone->hide();
+        }
+        if (gone == leaving)
+            leaving->viewDidDisappear(animated);
+        if (gone)
+            gone->deleteLater();
+    }
+    refreshBar();
+    screen->viewDidAppear(animated);
+}
+
+void NavigationController::popToRootViewController(bool animated) {
+    if (!screens_.isEmpty())
+        popToViewController(screens_.first(), animated);
+}
+
+void NavigationController::setNavigationBarHidden(bool hidden, bool) {
+    bar_->setVisible(!hidden);
+}
+
+bool NavigationController::isNavigationBarHidden() const {
+    return bar_->isHidden();
+}
+
+void NavigationController::refreshBar() {
+    ViewController* top = topViewController();
+    title_->setText(top ? top->title() : QString());
+    const bool canGoBack = screens_.size() > 1 && top && !top->navigationItem().hidesBackButton;
+    back_->setVisible(canGoBack);
+    if (canGoBack) {
+        const QString previous = screens_[screens_.size() - 2]->title();
+        back_->setText(QStringLiteral("\u2039 ") +
+                       (previous.isEmpty() ? QStringLiteral("Back") : previous));
+    }
+    while (QLayoutItem* item = rightItems_->takeAt(0)) {
+        delete item->widget();
+        delete item;
+    }
+    rightItems_->addStretch();
+    if (!top)
+        return;
+    for (const BarButtonItem& item : top->navigationItem().rightItems) {
+        auto* button = new QPushButton(item.title);
+        button->setFlat(true);
+        button->setObjectName(item.objectName);
+        if (item.menu) {
+            QMenu* menu = item.menu;
+            connect(button, &QPushButton::clicked, menu, [button, menu] {
+                menu->popup(button->mapToGlobal(QPoint(0, button->height())));
+            });
+        } else if (item.action) {
+            connect(button, &QPushButton::clicked, top, item.action);
+        }
+        rightItems_->addWidget(button);
+    }
+}

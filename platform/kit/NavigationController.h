@@ -1,0 +1,52 @@
+#pragma once
+// A stack of screens under a top bar (back button, title, right items). Push and pop drive the
+// screens' lifecycle in order. A stack may sit in a tab of a TabBarController or be presented
+// modally over another screen.
+#include <QList>
+#include <QPointer>
+#include <QWidget>
+
+#include "platform/kit/ViewController.h"
+class QLabel;
+class QStackedWidget;
+class QToolButton;
+class QHBoxLayout;
+
+class NavigationController : public QWidget {
+    Q_OBJECT
+public:
+    explicit NavigationController(ViewController* root = nullptr, QWidget* parent = nullptr);
+
+    void pushViewController(ViewController* screen, bool animated = true);
+    ViewController* popViewController(bool animated = true);
+    void popToViewController(ViewController* screen, bool animated = true);
+    void popToRootViewController(bool animated = true);
+
+    ViewController* topViewController() const;
+    QList<ViewController*> viewControllers() const;
+    int indexOf(ViewController* screen) const;
+
+    void setNavigationBarHidden(bool hidden, bool animated = true);
+    bool isNavigationBarHidden() const;
+    void refreshBar();
+
+    // The screen whose content this stack is (a tab bar controller), if any.
+    ViewController* containerViewController() const { return container_; }
+    void setContainerViewController(ViewController* c) { container_ = c; }
+    // The screen that presented this stack modally, if any.
+    ViewController* presentingViewController() const { return presenting_; }
+    void setPresentingViewController(ViewController* p) { presenting_ = p; }
+
+    // Tests press the back button through this.
+    QToolButton* backButton() const { return back_; }
+
+private:
+    QWidget* bar_;
+    QToolButton* back_;
+    QLabel* title_;
+    QHBoxLayout* rightItems_;
+    QStackedWidget* stack_;
+    QList<QPointer<ViewController>> screens_;
+    QPointer<ViewController> container_;
+    QPointer<ViewController> presenting_;
+};

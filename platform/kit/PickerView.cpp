@@ -1,0 +1,53 @@
+#include "platform/kit/PickerView.h"
+
+#include <QListWidget>
+#include <QVBoxLayout>
+
+PickerView::PickerView(QWidget* parent)
+    : QWidget(parent, Qt::Popup)
+    , list_(new QListWidget(this)) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(list_);
+    QFont f = list_->font();
+    f.setPointSizeF(16);
+    f.setBold(true);
+    list_->setFont(f);
+    connect(list_, &QListWidget::itemClicked, this,
+            [this](QListWidgetItem* item) { pick(list_->row(item)); });
+    hide();
+}
+
+QStringList PickerView::titles() const {
+    QStringList out;
+    const int n = source_ ? source_->numberOfRows(const_cast<PickerView*>(this)) : 0;
+    for (int i = 0; i < n; ++i)
+        out << source_->titleForRow(const_cast<PickerView*>(this), i);
+    return out;
+}
+
+void PickerView::openFor(QWidget* field) {
+    field_ = field;
+    list_->clear();
+    for (const QString& t : titles()) {
+        auto* item = new QListWidgetItem(t, list_);
+        item->setTextAlignment(Qt::AlignCenter);
+    }
+    const QPoint below = field->mapToGlobal(QPoint(0, field->height()));
+    setGeometry(below.x(), below.y(), std::max(field->width(), 200), 216);
+    show();
+}
+
+void PickerView::close() {
+    hide();
+}
+
+bool PickerView::isOpen() const {
+    return !isHidden();
+}
+
+void PickerView::pick(int row) {
+    if (source_ && row >= 0 && row < source_->numberOfRows(this))
+        source_->didSelectRow(this, row);
+    hide();
+}

@@ -1,0 +1,31 @@
+#include "platform/kit/SearchController.h"
+
+SearchController::SearchController(QWidget* parent)
+    : QLineEdit(parent) {
+    setClearButtonEnabled(true);
+    setObjectName(QStringLiteral("SearchBar"));
+    setMinimumHeight(34);
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (!text().isEmpty())
+            active_ = true;
+        if (searchResultsUpdater)
+            searchResultsUpdater(this);
+    });
+}
+
+void SearchController::setActive(bool active) {
+    active_ = active;
+    if (!active)
+        clearFocus();
+    if (searchResultsUpdater)
+        searchResultsUpdater(this);
+}
+
+void SearchController::dismiss(bool) {
+    setActive(false);
+}
+
+void SearchController::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    active_ = true;
+}

@@ -1,0 +1,24 @@
+#pragma once
+// A search field for the top of a table: reports every text change to its updater.
+#include <QLineEdit>
+#include <functional>
+
+class SearchController : public QLineEdit {
+    Q_OBJECT
+public:
+    explicit SearchController(QWidget* parent = nullptr);
+    // Called after every change of the text, with the controller.
+    std::function<void(SearchController*)> searchResultsUpdater;
+    bool isActive() const { return active_; }
+    void setActive(bool active);
+    // Ends the search: no focus, not active (the text stays, as the list shows it).
+    void dismiss(bool animated = false);
+    bool obscuresBackgroundDuringPresentation = false;
+    bool hidesNavigationBarDuringPresentation = false;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+
+private:
+    bool active_ = false;
+};

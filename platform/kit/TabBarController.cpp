@@ -1,0 +1,71 @@
+#include "platform/kit/TabBarController.h"
+
+#include "platform/kit/NavigationController.h"
+
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+TabBarController::TabBarController(QWidget* parent)
+    : ViewController(parent)
+    , stack_(new QStackedWidget(this))
+    , bar_(new QTabBar(this)) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(stack_, 1);
+    layout->addWidget(bar_);
+    bar_->setExpanding(true);
+    bar_->setShape(QTabBar::RoundedSouth);
+    connect(bar_, &QTabBar::currentChanged, this, [this](int i) { setSelectedIndex(i); });
+}
+
+void TabBarController::setViewControllers(const QList<ViewController*>& roots,
+                                          const QStringList& titles) {
+    for (int i = 0; i < roots.size(); ++i) {
+        auto* nav = new NavigationController(nullptr, stack_);
+        nav->setContainerViewController(this);
+        nav->pushViewController(roots[i], false);
+        stack_->addWidget(nav);
+        bar_->addTab(titles.value(i));
+    }
+}
+
+int TabBarController::selectedIndex() const {
+    return stack_->currentIndex();
+}
+
+void TabBarController::setSelectedIndex(int index) {
+    if (index == stack_->currentIndex() || index < 0 || index >= count())
+        return;
+    ViewController* leaving = tab(stack_->currentIndex())->topViewController();
+    ViewController* showing = tab(index)->topViewController();
+    if (leaving)
+        leaving->viewWillDisappear(false);
+    if (showing)
+        showing->viewWillAppear(false);
+    stack_->setCurrentIndex(index);
+    bar_->setCurrentIndex(index);
+    if (leaving)
+        leaving->viewDidDisappear(false);
+    if (showing)
+        showing->viewDidAppear(false);
+}
+
+NavigationController* TabBarController::tab(int index) const {
+    return qobject_cast<NavigationController*>(stack_->widget(index));
+}
+
+int TabBarController::count() const {
+    return stack_->count();
+}
+
+void TabBarController::viewWillAppear(bool animated) {
+    if (count() && tab(selectedIndex())->topViewController())
+        tab(selectedIndex())->topViewController()->viewWillAppear(animated);
+}
+
+void TabBarController::viewDidAppear(bool animated) {
+    if (count() && tab(selectedIndex())->topViewController())
+        tab(selectedIndex())->topViewController()->viewDidAppear(animated);
+}

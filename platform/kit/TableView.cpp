@@ -1,0 +1,390 @@
+#include "platform/kit/TableView.h"
+
+#include <QAbstractListModel>
+#include <QApplication>
+#include <QLayout>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScroller>
+#include <QStyledItemDelegate>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace {
+constexpr int kHeaderHeight = 30;
+constexpr int kActionWidth = 84;
+constexpr int kSwipeThreshold = 30;
+} // namespace
+
+TableViewCell::TableViewCell(QWidget* parent)
+    : QWidget(parent) {
+    // Cells are drawn into the table, never shown as windows of their own.
+    setAttribute(Qt::WA_DontShowOnScreen);
+}
+
+// Flattens sections into list rows: [header] rows... [footer] per section.
+class TableModel : public QAbstractListModel {
+public:
+    explicit TableModel(TableView* table)
+        : table_(table) {}
+    struct Section {
+        int start = 0;
+        bool header = false;
+        int rows = 0;
+        bool footer = false;
+        QString headerTitle, footerTitle;
+    };
+    void rebuild() {
+        beginResetModel();
+        sections_.clear();
+        total_ = 0;
+        if (TableViewDataSource* s = table_->source_) {
+            const int n = s->numberOfSections(table_);
+            for (int i = 0; i < n; ++i) {
+                Section sec;
+                sec.start = total_;
+                sec.headerTitle = s->titleForHeader(table_, i);
+                sec.footerTitle = s->titleForFooter(table_, i);
+                sec.header = !sec.headerTitle.isEmpty();
+                sec.footer = !sec.footerTitle.isEmpty();
+                sec.rows = s->numberOfRows(table_, i);
+                total_ += sec.rows + int(sec.header) + int(sec.footer);
+                sections_.push_back(sec);
+            }
+        }
+        endResetModel();
+    }
+    int rowCount(const QModelIndex& parent = {}) const override {
+        return parent.isValid() ? 0 : total_;
+    }
+    QVariant data(const QModelIndex&, int) const override { return {}; }
+    // kind: 0 header, 1 row, 2 footer
+    int locate(int listRow, int& section, int& row) const {
+        for (int i = int(sections_.size()) - 1; i >= 0; --i) {
+            const Section& sec = sections_[std::size_t(i)];
+            if (listRow < sec.start)
+                continue;
+            section = i;
+            int r = listRow - sec.start;
+            if (sec.header) {
+                if (r == 0)
+                    return 0;
+                --r;
+            }
+            row = r;
+            return r < sec.rows ? 1 : 2;
+        }
+        section = row = 0;
+        return -1;
+    }
+    int listRow(IndexPath p) const {
+        if (p.section < 0 || p.section >= int(sections_.size()))
+            return -1;
+        const Section& sec = sections_[std::size_t(p.section)];
+        if (p.row < 0 || p.row >= sec.rows)
+            return -1;
+        return sec.start + int(sec.header) + p.row;
+    }
+    std::vector<Section> sections_;
+    int total_ = 0;
+    TableView* table_;
+};
+
+class TableDelegate : public QStyledItemDelegate {
+public:
+    explicit TableDelegate(TableView* table)
+        : QStyledItemDelegate(table)
+        , table_(table) {}
+    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const override {
+        int section = 0, row = 0;
+        const int kind = table_->model_->locate(index.row(), section, row);
+        if (kind != 1)
+            return QSize(100, kHeaderHeight);
+        return QSize(100,
+                     table_->source_ ? table_->source_->heightForRow(table_, {section, row}) : 44);
+    }
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        TableViewDataSource* source = table_->source_;
+        if (!source)
+            return;
+        int section = 0, row = 0;
+        const int kind = table_->model_->locate(index.row(), section, row);
+        if (kind == 0 || kind == 2) {
+            const auto& sec = table_->model_->sections_[std::size_t(section)];
+            QFont f = option.font;
+            f.setPointSizeF(table_->headerPoints_);
+            painter->save();
+            painter->setFont(f);
+            painter->setPen(option.palette.color(QPalette::WindowText));
+            painter->drawText(option.rect, Qt::AlignCenter,
+                              kind == 0 ? sec.headerTitle : sec.footerTitle);
+            painter->restore();
+            return;
+        }
+        TableViewCell* cell = source->cellForRow(table_, {section, row});
+        if (!cell)
+            return;
+        const QRect r = option.rect.adjusted(4, 3, -4, -3);
+        int shift = 0;
+        if (table_->revealed_ == index.row()) {
+            const auto actions = source->trailingSwipeActions(table_, {section, row});
+            shift = kActionWidth * int(actions.size());
+            int x = r.right() - shift + 1;
+            painter->save();
+            for (const SwipeAction& a : actions) {
+                const QRect button(x, r.top(), kActionWidth, r.height());
+                painter->fillRect(button,
+                                  a.destructive ? QColor(220, 40, 40) : QColor(120, 120, 120));
+                painter->setPen(Qt::white);
+                painter->drawText(button, Qt::AlignCenter, a.title);
+                x += kActionWidth;
+            }
+            painter->restore();
+        }
+        cell->resize(r.size());
+        if (cell->isHidden())
+            cell->show(); // activates its layout; it never reaches the screen
+        if (cell->layout())
+            cell->layout()->activate();
+        painter->save();
+        painter->setClipRect(QRect(r.left(), r.top(), r.width() - shift, r.height()));
+        cell->render(painter, QPoint(r.left() - shift, r.top()), QRegion(),
+                     QWidget::DrawWindowBackground | QWidget::DrawChildren);
+        painter->restore();
+    }
+
+private:
+    TableView* table_;
+};
+
+// Presses, drags and long presses on the rows: tap selects, a left drag reveals the actions.
+class SwipeFilter : public QObject {
+public:
+    explicit SwipeFilter(TableView* table)
+        : QObject(table)
+        , table_(table) {
+        longPress_.setSingleShot(true);
+        longPress_.setInterval(500);
+        connect(&longPress_, &QTimer::timeout, this, [this] {
+            moved_ = true; // the release after a long press is no tap
+            table_->showActionsMenu(pressRow_,
+                                    table_->listView()->viewport()->mapToGlobal(pressPos_));
+        });
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        QListView* list = table_->listView();
+        switch (event->type()) {
+        case QEvent::MouseButtonPress: {
+            auto* e = static_cast<QMouseEvent*>(event);
+            pressPos_ = e->position().toPoint();
+            pressRow_ = list->indexAt(pressPos_).row();
+            moved_ = false;
+            if (e->button() == Qt::RightButton) {
+                table_->showActionsMenu(pressRow_, e->globalPosition().toPoint());
+                return true;
+            }
+            longPress_.start();
+            return true;
+        }
+        case QEvent::MouseMove: {
+            auto* e = static_cast<QMouseEvent*>(event);
+            const QPoint d = e->position().toPoint() - pressPos_;
+            if (d.manhattanLength() > 8) {
+                longPress_.stop();
+                moved_ = true;
+            }
+            if (d.x() < -kSwipeThreshold && qAbs(d.y()) < kSwipeThreshold && pressRow_ >= 0)
+                table_->setRevealedRow(pressRow_);
+            else if (d.x() > kSwipeThreshold)
+                table_->setRevealedRow(-1);
+            return true;
+        }
+        case QEvent::MouseButtonRelease: {
+            longPress_.stop();
+            auto* e = static_cast<QMouseEvent*>(event);
+            if (e->button() != Qt::LeftButton || moved_)
+                return true;
+            const QPoint p = e->position().toPoint();
+            const int row = list->indexAt(p).row();
+            if (table_->revealedRow() >= 0) {
+                if (row == table_->revealedRow())
+                    clickAction(row, p);
+                table_->setRevealedRow(-1);
+                return true;
+            }
+            bool isRow = false;
+            const IndexPath path = table_->pathForListRow(row, &isRow);
+            if (row >= 0 && isRow)
+                table_->selectRow(path);
+            return true;
+        }
+        default:
+            return false;
+        }
+    }
+
+private:
+    void clickAction(int row, QPoint p) {
+        bool isRow = false;
+        const IndexPath path = table_->pathForListRow(row, &isRow);
+        if (!isRow || !table_->dataSource())
+            return;
+        const auto actions = table_->dataSource()->trailingSwipeActions(table_, path);
+        const QRect rect =
+            table_->listView()->visualRect(table_->listView()->model()->index(row, 0));
+        const int start = rect.right() - 4 - kActionWidth * int(actions.size());
+        if (p.x() <= start)
+            return;
+        const int i = (p.x() - start) / kActionWidth;
+        if (i >= 0 && i < actions.size())
+            table_->triggerSwipeAction(path, actions[i].title);
+    }
+    TableView* table_;
+    QTimer longPress_;
+    QPoint pressPos_;
+    int pressRow_ = -1;
+    bool moved_ = false;
+};
+
+TableView::TableView(QWidget* parent)
+    : QWidget(parent)
+    , layout_(new QVBoxLayout(this))
+    , list_(new QListView(this))
+    , model_(new TableModel(this)) {
+    layout_->setContentsMargins(0, 0, 0, 0);
+    layout_->setSpacing(0);
+    layout_->addWidget(list_, 1);
+    list_->setModel(model_);
+    list_->setItemDelegate(new TableDelegate(this));
+    list_->setUniformItemSizes(true);
+    list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    list_->setSelectionMode(QAbstractItemView::NoSelection);
+    list_->setFrameShape(QFrame::NoFrame);
+    list_->viewport()->installEventFilter(new SwipeFilter(this));
+    QScroller::grabGesture(list_->viewport(), QScroller::TouchGesture);
+}
+
+TableView::~TableView() {
+    qDeleteAll(reusable_);
+}
+
+void TableView::setDataSource(TableViewDataSource* source) {
+    source_ = source;
+    reloadData();
+}
+
+void TableView::reloadData() {
+    revealed_ = -1;
+    model_->rebuild();
+    list_->viewport()->update();
+}
+
+void TableView::setUniformRowHeights(bool uniform) {
+    list_->setUniformItemSizes(uniform);
+}
+
+void TableView::registerCell(const QString& identifier, std::function<TableViewCell*()> factory) {
+    factories_.insert(identifier, std::move(factory));
+}
+
+TableViewCell* TableView::dequeueReusableCell(const QString& identifier) {
+    if (TableViewCell* cell = reusable_.value(identifier))
+        return cell;
+    auto factory = factories_.value(identifier);
+    if (!factory)
+        return nullptr;
+    TableViewCell* cell = factory();
+    cell->reuseIdentifier = identifier;
+    reusable_.insert(identifier, cell);
+    return cell;
+}
+
+void TableView::setTableHeaderView(QWidget* view) {
+    if (header_)
+        layout_->removeWidget(header_);
+    header_ = view;
+    if (view)
+        layout_->insertWidget(0, view);
+}
+
+int TableView::numberOfRows(int section) const {
+    return section >= 0 && section < int(model_->sections_.size())
+               ? model_->sections_[std::size_t(section)].rows
+               : 0;
+}
+
+QString TableView::headerTitle(int section) const {
+    return section >= 0 && section < int(model_->sections_.size())
+               ? model_->sections_[std::size_t(section)].headerTitle
+               : QString();
+}
+
+QString TableView::footerTitle(int section) const {
+    return section >= 0 && section < int(model_->sections_.size())
+               ? model_->sections_[std::size_t(section)].footerTitle
+               : QString();
+}
+
+int TableView::listRow(IndexPath path) const {
+    return model_->listRow(path);
+}
+
+IndexPath TableView::pathForListRow(int row, bool* isRow) const {
+    int section = 0, r = 0;
+    const int kind = model_->locate(row, section, r);
+    if (isRow)
+        *isRow = kind == 1;
+    return {section, r};
+}
+
+void TableView::deselectRow(IndexPath, bool) {
+    list_->clearSelection();
+}
+
+void TableView::selectRow(IndexPath path) {
+    if (source_ && listRow(path) >= 0)
+        source_->didSelectRow(this, path);
+}
+
+bool TableView::triggerSwipeAction(IndexPath path, const QString& title) {
+    if (!source_ || listRow(path) < 0)
+        return false;
+    for (const SwipeAction& a : source_->trailingSwipeActions(this, path))
+        if (a.title == title) {
+            setRevealedRow(-1);
+            if (a.handler)
+                a.handler(path);
+            return true;
+        }
+    return false;
+}
+
+void TableView::deleteRows(const QList<IndexPath>&) {
+    reloadData();
+}
+
+void TableView::setRevealedRow(int row) {
+    if (revealed_ == row)
+        return;
+    revealed_ = row;
+    list_->viewport()->update();
+}
+
+void TableView::showActionsMenu(int row, QPoint globalPos) {
+    bool isRow = false;
+    const IndexPath path = pathForListRow(row, &isRow);
+    if (row < 0 || !isRow || !source_)
+        return;
+    const auto actions = source_->trailingSwipeActions(this, path);
+    if (actions.isEmpty())
+        return;
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const SwipeAction& a : actions) {
+        const QString title = a.title;
+        menu->addAction(title, this, [this, path, title] { triggerSwipeAction(path, title); });
+    }
+    menu->popup(globalPos);
+}

@@ -1,0 +1,114 @@
+#include "platform/kit/TextInput.h"
+
+#include "platform/kit/PickerView.h"
+
+#include <QTextCursor>
+
+namespace TextInput {
+void difference(const QString& before, const QString& after, int& start, int& length,
+                QString& replacement) {
+    int prefix = 0;
+    const int maxPrefix = int(std::min(before.size(), after.size()));
+    while (prefix < maxPrefix && before[prefix] == after[prefix])
+        ++prefix;
+    int suffix = 0;
+    while (suffix < maxPrefix - prefix &&
+           before[before.size() - 1 - suffix] == after[after.size() - 1 - suffix])
+        ++suffix;
+    start = prefix;
+    length = int(before.size()) - prefix - suffix;
+    replacement = after.mid(prefix, after.size() - prefix - suffix);
+}
+} // namespace TextInput
+
+TextField::TextField(QWidget* parent)
+    : QLineEdit(parent) {
+    // Watching the text after each user edit catches every way in (keys, paste, drop, input
+    // method) in one place; a refused edit is rolled back before anything else sees it.
+    connect(this, &QLineEdit::textEdited, this, &TextField::onEdited);
+    connect(this, &QLineEdit::textChanged, this, [this](const QString& t) {
+        if (!signalsBlocked())
+            accepted_ = t;
+    });
+}
+
+void TextField::onEdited(const QString& text) {
+    int start = 0, length = 0;
+    QString replacement;
+    TextInput::difference(accepted_, text, start, length, replacement);
+    if (delegate_ && !delegate_->shouldChangeCharacters(this, start, length, replacement)) {
+        const QString old = accepted_;
+        setText(old);
+        setCursorPosition(std::min(start, int(old.size())));
+        return;
+    }
+    accepted_ = text;
+}
+
+void TextField::setInputView(PickerView* picker) {
+    picker_ = picker;
+    setReadOnly(picker != nullptr);
+}
+
+void TextField::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (delegate_)
+        delegate_->didBeginEditing(this);
+    if (picker_)
+        picker_->openFor(this);
+}
+
+void TextField::mousePressEvent(QMouseEvent* event) {
+    QLineEdit::mousePressEvent(event);
+    if (picker_ && !picker_->isOpen())
+        picker_->openFor(this);
+}
+
+void TextField::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    if (delegate_)
+        delegate_->didEndEditing(this);
+}
+
+TextView::TextView(QWidget* parent)
+    : QPlainTextEdit(parent) {
+    connect(this, &QPlainTextEdit::textChanged, this, &TextView::onChanged);
+}
+
+void TextView::setText(const QString& text) {
+    restoring_ = true;
+    setPlainText(text);
+    accepted_ = text;
+    restoring_ = false;
+}
+
+void TextView::onChanged() {
+    if (restoring_)
+        return;
+    const QString now = toPlainText();
+    int start = 0, length = 0;
+    QString replacement;
+    TextInput::difference(accepted_, now, start, length, replacement);
+    if (delegate_ && !delegate_->shouldChangeCharacters(this, start, length, replacement)) {
+        restoring_ = true;
+        setPlainText(accepted_);
+        QTextCursor c = textCursor();
+        c.setPosition(std::min(start, int(accepted_.size())));
+        setTextCursor(c);
+        restoring_ = false;
+        return;
+    }
+    accepted_ = now;
+}
+
+void TextView::focusInEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusInEvent(event);
+    if (delegate_)
+        delegate_->didBeginEditing(this);
+}
+
+void TextView::focusOutEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusOutEvent(event);
+    if (delegate_)
+        delegate_->didEndEditing(this);
+}

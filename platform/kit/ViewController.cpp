@@ -1,0 +1,138 @@
+#include "platform/kit/ViewController.h"
+
+#include "platform/kit/AlertController.h"
+#include "platform/kit/NavigationController.h"
+
+#include <QTimer>
+#include <QVBoxLayout>
+
+ViewController::ViewController(QWidget* parent)
+    : QWidget(parent) {}
+
+ViewController::~ViewController() {
+    if (alert_)
+        alert_->deleteLater();
+}
+
+void ViewController::loadViewIfNeeded() {
+    if (loaded_)
+        return;
+    loaded_ = true;
+    viewDidLoad();
+}
+
+void ViewController::setTitle(const QString& title) {
+    title_ = title;
+    setWindowTitle(title);
+    updateNavigationBar();
+}
+
+void ViewController::updateNavigationBar() {
+    if (NavigationController* nav = navigationController(); nav && nav->topViewController() == this)
+        nav->refreshBar();
+}
+
+NavigationController* ViewController::navigationController() const {
+    for (QObject* p = parent(); p; p = p->parent())
+        if (auto* nav = qobject_cast<NavigationController*>(p))
+            return nav;
+    return nullptr;
+}
+
+ViewController* ViewController::presentingViewController() const {
+    NavigationController* nav = navigationController();
+    return nav ? nav->presentingViewController() : nullptr;
+}
+
+void ViewController::performSegue(const QString& identifier, QObject* sender) {
+    const SegueKind kind = Storyboard::kindOf(identifier);
+    StoryboardSegue segue{identifier, this, Storyboard::instantiate(identifier)};
+    prepareForSegue(segue, sender);
+    if (kind == SegueKind::Push && navigationController())
+        navigationController()->pushViewController(segue.destination, true);
+    else
+        present(segue.destination);
+}
+
+void ViewController::registerUnwindAction(const QString& name,
+                                          std::function<void(StoryboardSegue&)> action) {
+    unwinds_.insert(name, std::move(action));
+}
+
+bool ViewController::performUnwind(const QString& name) {
+    ViewController* from = this;
+    bool skipSelf = true;
+    while (from) {
+        NavigationController* nav = from->navigationController();
+        if (!nav)
+            return false;
+        for (int i = nav->indexOf(from) - (skipSelf ? 1 : 0); i >= 0; --i) {
+            ViewController* candidate = nav->viewControllers().value(i);
+            if (candidate && candidate->ownsUnwindAction(name)) {
+                StoryboardSegue segue{name, this, candidate};
+                prepareForSegue(segue, nullptr);
+                candidate->unwinds_.value(name)(segue);
+                // Close every modal stack between the source and the owner.
+                for (NavigationController* n = navigationController(); n && n != nav;) {
+                    ViewController* presenter = n->presentingViewController();
+                    ViewController* container = n->containerViewController();
+                    if (presenter) {
+                        n->deleteLater();
+                        n->hide();
+                        n = presenter->navigationController();
+                    } else if (container) {
+                        n = container->navigationController();
+                    } else {
+                        break;
+                    }
+                }
+                nav->popToViewController(candidate, true);
+                return true;
+            }
+        }
+        skipSelf = false;
+        if (nav->presentingViewController())
+            from = nav->presentingViewController();
+        else if (nav->containerViewController())
+            from = nav->containerViewController();
+        else
+            return false;
+    }
+    return false;
+}
+
+void ViewController::present(ViewController* screen) {
+    QWidget* host = window();
+    auto* nav = new NavigationController(nullptr, host);
+    nav->setPresentingViewController(this);
+    nav->setAutoFillBackground(true);
+    nav->setGeometry(host->rect());
+    nav->pushViewController(screen, false);
+    nav->show();
+    nav->raise();
+}
+
+void ViewController::dismiss() {
+    NavigationController* nav = navigationController();
+    if (!nav || !nav->presentingViewController())
+        return;
+    nav->hide();
+    nav->deleteLater();
+}
+
+void ViewController::present(AlertController* alert) {
+    alert_ = alert;
+    alert->showOver(this);
+}
+
+AlertController* ViewController::presentedAlert() const {
+    return (alert_ && !alert_->isHidden()) ? alert_.data() : nullptr;
+}
+
+void ViewController::after(int ms, std::function<void()> f) {
+    QPointer<ViewController> self(this);
+    QTimer::singleShot(ms, this, [self, f = std::move(f)] {
+        if (self)
+            f();
+    });
+}

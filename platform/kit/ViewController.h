@@ -1,0 +1,81 @@
+#pragma once
+// One screen: a widget with a load/appear/disappear lifecycle, a title and bar items shown by
+// its navigation controller, segues by identifier, named unwind actions, modal presentation
+// and alerts. Nothing here runs a nested event loop.
+#include "platform/kit/Storyboard.h"
+
+#include <QHash>
+#include <QList>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+
+class NavigationController;
+class AlertController;
+class QMenu;
+
+struct BarButtonItem {
+    QString title;
+    std::function<void()> action; // run on click, unless a menu is given
+    QMenu* menu = nullptr;        // shown on click when set (owned by the screen)
+    QString objectName;           // lets tests find the button
+};
+
+struct NavigationItem {
+    QList<BarButtonItem> rightItems;
+    bool hidesBackButton = false;
+};
+
+class ViewController : public QWidget {
+    Q_OBJECT
+public:
+    explicit ViewController(QWidget* parent = nullptr);
+    ~ViewController() override;
+
+    // Runs viewDidLoad once, before the screen is first shown.
+    void loadViewIfNeeded();
+    bool isViewLoaded() const { return loaded_; }
+    virtual void viewDidLoad() {}
+    virtual void viewWillAppear(bool /*animated*/) {}
+    virtual void viewDidAppear(bool /*animated*/) {}
+    virtual void viewWillDisappear(bool /*animated*/) {}
+    virtual void viewDidDisappear(bool /*animated*/) {}
+
+    QString title() const { return title_; }
+    void setTitle(const QString& title);
+    NavigationItem& navigationItem() { return navigationItem_; }
+    // Call after changing navigationItem() so the bar shows it.
+    void updateNavigationBar();
+
+    NavigationController* navigationController() const;
+    // The screen that presented this one's stack modally, if any.
+    ViewController* presentingViewController() const;
+
+    void performSegue(const QString& identifier, QObject* sender = nullptr);
+    virtual void prepareForSegue(StoryboardSegue& /*segue*/, QObject* /*sender*/) {}
+
+    void registerUnwindAction(const QString& name, std::function<void(StoryboardSegue&)> action);
+    bool ownsUnwindAction(const QString& name) const { return unwinds_.contains(name); }
+    // Walks back through the navigation stacks (and modal presentations) to the first screen
+    // that owns the action, runs it and returns to that screen. False when none owns it.
+    bool performUnwind(const QString& name);
+
+    // Shows the screen in a stack of its own over this one's window.
+    void present(ViewController* screen);
+    // Closes the modal stack this screen is in.
+    void dismiss();
+    void present(AlertController* alert);
+    // The alert this screen presented that is still shown, if any.
+    AlertController* presentedAlert() const;
+
+    // Runs f on the main thread after ms milliseconds, unless the screen has gone by then.
+    void after(int ms, std::function<void()> f);
+
+private:
+    friend class NavigationController;
+    bool loaded_ = false;
+    QString title_;
+    NavigationItem navigationItem_;
+    QHash<QString, std::function<void(StoryboardSegue&)>> unwinds_;
+    QPointer<AlertController> alert_;
+};
