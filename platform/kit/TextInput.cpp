@@ -26,10 +26,9 @@ TextField::TextField(QWidget* parent)
     // Watching the text after each user edit catches every way in (keys, paste, drop, input
     // method) in one place; a refused edit is rolled back before anything else sees it.
     connect(this, &QLineEdit::textEdited, this, &TextField::onEdited);
-    connect(this, &QLineEdit::textChanged, this, [this](const QString& t) {
-        if (!signalsBlocked())
-            accepted_ = t;
-    });
+    // Programmatic changes are accepted as they come; the current text, not the signal's
+    // argument, since a rolled-back edit may still announce its refused text.
+    connect(this, &QLineEdit::textChanged, this, [this] { accepted_ = text(); });
 }
 
 void TextField::onEdited(const QString& text) {
@@ -54,7 +53,8 @@ void TextField::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     if (delegate_)
         delegate_->didBeginEditing(this);
-    if (picker_)
+    // Focus coming back from the closing picker itself must not open it again.
+    if (picker_ && event->reason() != Qt::PopupFocusReason)
         picker_->openFor(this);
 }
 
