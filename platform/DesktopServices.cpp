@@ -1,0 +1,178 @@
+#include "platform/DesktopServices.h"
+
+#include <QApplication>
+#include <QCamera>
+#include <QClipboard>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QImageCapture>
+#include <QLabel>
+#include <QMediaCaptureSession>
+#include <QMediaDevices>
+#include <QMenu>
+#include <QMimeData>
+#include <QProcess>
+#include <QPushButton>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QVBoxLayout>
+#include <QVideoWidget>
+
+bool DesktopMailComposer::canSendMail() {
+    return !QStandardPaths::findExecutable(QStringLiteral("xdg-email")).isEmpty();
+}
+
+void DesktopMailComposer::compose(const MailMessage& m, QWidget*, std::function<void()> finished) {
+    QStringList args{QStringLiteral("--utf8")};
+    if (!m.subject.isEmpty())
+        args << QStringLiteral("--subject") << m.subject;
+    args << QStringLiteral("--body") << m.body;
+    if (!m.attachment.isEmpty()) {
+        const QString dir = QDir::tempPath() + QStringLiteral("/pelvane-mail-") +
+                            QString::number(QDateTime::currentMSecsSinceEpoch());
+        QDir().mkpath(dir);
+        QFile f(dir + QLatin1Char('/') + m.fileName);
+        if (f.open(QIODevice::WriteOnly) && f.write(m.attachment) == m.attachment.size())
+            args << QStringLiteral("--attach") << f.fileName();
+    }
+    args << m.recipients;
+    QProcess::startDetached(QStringLiteral("xdg-email"), args);
+    if (finished)
+        finished();
+}
+
+void DesktopShareSheet::present(const QList<ShareItem>& items, const QStringList& excluded,
+                                QWidget* anchor) {
+    auto* menu = new QMenu(anchor);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const ShareItem& item : items) {
+        if (item.url.isLocalFile()) {
+            const QString path = item.url.toLocalFile();
+            menu->addAction(QStringLiteral("Save As..."), [anchor, path] {
+                auto* dialog = new QFileDialog(anchor, QStringLiteral("Save As"),
+                                               QDir::homePath() + QLatin1Char('/') +
+                                                   QFileInfo(path).fileName());
+                dialog->setAcceptMode(QFileDialog::AcceptSave);
+                dialog->setAttribute(Qt::WA_DeleteOnClose);
+                QObject::connect(dialog, &QFileDialog::fileSelected, [path](const QString& target) {
+                    QFile::remove(target);
+                    QFile::copy(path, target);
+                });
+                dialog->open();
+            });
+            menu->addAction(QStringLiteral("Open"),
+                            [path] { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
+        } else if (!item.url.isEmpty()) {
+            menu->addAction(QStringLiteral("Open"),
+                            [url = item.url] { QDesktopServices::openUrl(url); });
+        }
+        if (!excluded.contains(ShareSheet::CopyToPasteboard)) {
+            if (!item.image.isNull())
+                menu->addAction(QStringLiteral("Copy"),
+                                [img = item.image] { QApplication::clipboard()->setImage(img); });
+            else if (!item.text.isEmpty() || !item.url.isEmpty())
+                menu->addAction(QStringLiteral("Copy"),
+                                [t = item.text.isEmpty() ? item.url.toString() : item.text] {
+                                    QApplication::clipboard()->setText(t);
+                                });
+            else if (!item.data.isEmpty())
+                menu->addAction(QStringLiteral("Copy"), [d = item.data] {
+                    auto* mime = new QMimeData;
+                    mime->setImageData(QImage::fromData(d));
+                    QApplication::clipboard()->setMimeData(mime);
+                });
+        }
+    }
+    QWidget* at = anchor ? anchor : QApplication::activeWindow();
+    menu->popup(at ? at->mapToGlobal(at->rect().center()) : QPoint());
+}
+
+void DesktopWebBrowser::openInApp(const QUrl& url) {
+    QDesktopServices::openUrl(url);
+}
+void DesktopWebBrowser::openExternally(const QUrl& url) {
+    QDesktopServices::openUrl(url);
+}
+
+bool DesktopImagePicker::isCameraAvailable() {
+    return !QMediaDevices::videoInputs().isEmpty();
+}
+
+void DesktopImagePicker::presentCamera(QWidget* parent, std::function<void(QImage)> taken,
+                                       std::function<void()> cancelled) {
+    auto* sheet = new QWidget(parent ? parent->window() : nullptr, Qt::Window);
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->setWindowTitle(QStringLiteral("Camera"));
+    auto* layout = new QVBoxLayout(sheet);
+    auto* view = new QVideoWidget(sheet);
+    auto* shoot = new QPushButton(QStringLiteral("Take Picture"), sheet);
+    auto* cancel = new QPushButton(QStringLiteral("Cancel"), sheet);
+    layout->addWidget(view, 1);
+    layout->addWidget(shoot);
+    layout->addWidget(cancel);
+    auto* session = new QMediaCaptureSession(sheet);
+    auto* camera = new QCamera(sheet);
+    auto* capture = new QImageCapture(sheet);
+    session->setCamera(camera);
+    session->setImageCapture(capture);
+    session->setVideoOutput(view);
+    QObject::connect(shoot, &QPushButton::clicked, capture, [capture] { capture->capture(); });
+    QObject::connect(capture, &QImageCapture::imageCaptured, sheet,
+                     [sheet, taken](int, const QImage& img) {
+                         sheet->close();
+                         if (taken)
+                             taken(img);
+                     });
+    QObject::connect(cancel, &QPushButton::clicked, sheet, [sheet, cancelled] {
+        sheet->close();
+        if (cancelled)
+            cancelled();
+    });
+    camera->start();
+    sheet->resize(480, 420);
+    sheet->show();
+}
+
+void DesktopDocumentPicker::open(QWidget* parent, const QStringList& nameFilters,
+                                 std::function<void(QString)> picked,
+                                 std::function<void()> cancelled) {
+    auto* dialog = new QFileDialog(parent, QString(), QDir::homePath());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    if (!nameFilters.isEmpty())
+        dialog->setNameFilters(nameFilters);
+    QObject::connect(dialog, &QFileDialog::fileSelected, [picked](const QString& f) {
+        if (picked)
+            picked(f);
+    });
+    QObject::connect(dialog, &QFileDialog::rejected, [cancelled] {
+        if (cancelled)
+            cancelled();
+    });
+    dialog->open();
+}
+
+void DesktopReviewRequester::requestReview(QWidget* window) {
+    if (!window)
+        return;
+    auto* prompt = new QWidget(window, Qt::Tool | Qt::FramelessWindowHint);
+    prompt->setAttribute(Qt::WA_DeleteOnClose);
+    auto* layout = new QVBoxLayout(prompt);
+    layout->addWidget(new QLabel(QStringLiteral("Enjoying Pelvane?"), prompt));
+    auto* later = new QPushButton(QStringLiteral("Not Now"), prompt);
+    layout->addWidget(later);
+    QObject::connect(later, &QPushButton::clicked, prompt, &QWidget::close);
+    prompt->move(window->mapToGlobal(QPoint(window->width() / 2 - 80, 60)));
+    prompt->show();
+}
+
+bool DesktopPhotoLibrary::save(const QImage& image) {
+    const QString dir = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    QDir().mkpath(dir);
+    return image.save(
+        dir + QStringLiteral("/Pelvane-%1.jpg")
+                  .arg(QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"))));
+}

@@ -1,0 +1,51 @@
+#pragma once
+// The desktop implementations of the platform services.
+#include "platform/Services.h"
+
+class DesktopMailComposer : public MailComposer {
+public:
+    bool canSendMail() override;
+    void compose(const MailMessage& message, QWidget* parent,
+                 std::function<void()> finished) override;
+};
+
+// The share sheet stands in for messaging on the desktop, so text can always be "sent".
+class DesktopMessageComposer : public MessageComposer {
+public:
+    bool canSendText() override { return true; }
+};
+
+class DesktopShareSheet : public ShareSheet {
+public:
+    void present(const QList<ShareItem>& items, const QStringList& excluded,
+                 QWidget* anchor) override;
+};
+
+class DesktopWebBrowser : public WebBrowser {
+public:
+    void openInApp(const QUrl& url) override;
+    void openExternally(const QUrl& url) override;
+};
+
+class DesktopImagePicker : public ImagePicker {
+public:
+    bool isCameraAvailable() override;
+    void presentCamera(QWidget* parent, std::function<void(QImage)> taken,
+                       std::function<void()> cancelled) override;
+};
+
+class DesktopDocumentPicker : public DocumentPicker {
+public:
+    void open(QWidget* parent, const QStringList& nameFilters, std::function<void(QString)> picked,
+              std::function<void()> cancelled) override;
+};
+
+class DesktopReviewRequester : public ReviewRequester {
+public:
+    void requestReview(QWidget* window) override;
+};
+
+class DesktopPhotoLibrary : public PhotoLibrary {
+public:
+    bool save(const QImage& image) override;
+};

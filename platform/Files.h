@@ -1,0 +1,13 @@
+#pragma once
+// Files the program writes and reads itself.
+#include <QByteArray>
+#include <QString>
+
+namespace Files {
+// The temporary folder, ending with "/".
+QString temporaryDirectory();
+// Replaces the file in one step (never half-written); false with the reason in *error.
+bool writeTextAtomically(const QString& path, const QString& text, QString* error = nullptr);
+// The whole file as text: UTF-8, or UTF-16 when it starts with a byte-order mark.
+bool readText(const QString& path, QString& text, QString* error = nullptr);
+} // namespace Files

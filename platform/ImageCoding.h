@@ -1,0 +1,21 @@
+#pragma once
+// Picture bytes: decoding, the stored coin picture (100 x 100 JPEG) and strict base64.
+#include <QByteArray>
+#include <QImage>
+#include <optional>
+
+namespace ImageCoding {
+// A null image when the bytes are no picture.
+QImage decode(const QByteArray& bytes);
+// The picture drawn onto a 100 x 100 canvas, stretched to the whole square whatever its shape.
+QImage redrawnForStorage(const QImage& image);
+// JPEG at a quality from 0 to 1; empty when encoding fails.
+QByteArray jpeg(const QImage& image, double quality);
+// What a coin stores for a picture: redrawn to 100 x 100, JPEG at quality 0.5.
+QByteArray coinPictureData(const QImage& image);
+// Standard alphabet with "=" padding, no line breaks.
+QByteArray base64(const QByteArray& bytes);
+// Any character outside the alphabet, misplaced padding or a length that is not a multiple of
+// four makes the text invalid.
+std::optional<QByteArray> strictBase64Decode(QByteArrayView text);
+} // namespace ImageCoding

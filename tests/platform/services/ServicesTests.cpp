@@ -1,0 +1,66 @@
+#include "TestSupport.h"
+#include "platform/Files.h"
+#include "platform/ImageCoding.h"
+#include "platform/fakes/Fakes.h"
+
+#include <QFile>
+#include <QPainter>
+
+TEST(ImageCoding, PhotosAreStoredAsSquareJpegs) {
+    QImage photo(4000, 3000, QImage::Format_RGB32);
+    photo.fill(Qt::darkYellow);
+    QPainter(&photo).fillRect(0, 0, 2000, 3000, Qt::blue); // left half blue
+    const QByteArray stored = ImageCoding::coinPictureData(photo);
+    ASSERT_TRUE(stored.startsWith("\xFF\xD8"));
+    const QImage back = ImageCoding::decode(stored);
+    EXPECT_EQ(back.size(), QSize(100, 100));
+    // Stretched, not cropped: the blue half still fills the left half of the square.
+    EXPECT_GT(qBlue(back.pixel(25, 50)), 150);
+    EXPECT_LT(qBlue(back.pixel(75, 50)), 100);
+    QImage detailed(100, 100, QImage::Format_RGB32);
+    for (int y = 0; y < 100; ++y)
+        for (int x = 0; x < 100; ++x)
+            detailed.setPixel(x, y, qRgb((x * 37) % 256, (y * 53) % 256, (x * y) % 256));
+    EXPECT_LT(ImageCoding::jpeg(detailed, 0.5).size(), ImageCoding::jpeg(detailed, 0.6).size());
+    EXPECT_TRUE(ImageCoding::decode("%PDF-1.4 not a picture").isNull());
+}
+
+TEST(ImageCoding, StrictBase64) {
+    EXPECT_EQ(ImageCoding::strictBase64Decode("TWFu"), QByteArray("Man"));
+    EXPECT_EQ(ImageCoding::strictBase64Decode("TWE="), QByteArray("Ma"));
+    EXPECT_EQ(ImageCoding::strictBase64Decode(""), QByteArray(""));
+    for (const char* bad : {"TWF", "TW=u", "TWFu7", "TWF*", "TWE=TWFu", "TW\nFu"})
+        EXPECT_FALSE(ImageCoding::strictBase64Decode(bad).has_value()) << bad;
+    // A picture's base64 followed by a record number is (usually) no longer base64.
+    EXPECT_FALSE(ImageCoding::strictBase64Decode("TWFu7").has_value());
+    EXPECT_TRUE(ImageCoding::strictBase64Decode("1234").has_value());
+}
+
+TEST_F(PelvaneTest, FilesWriteAtomicallyAndReadAnyUnicode) {
+    QString text;
+    ASSERT_TRUE(Files::writeTextAtomically(path("a.csv"), "[PELVANE]\nPérou^1 Sol\n"));
+    ASSERT_TRUE(Files::readText(path("a.csv"), text));
+    EXPECT_EQ(text, "[PELVANE]\nPérou^1 Sol\n");
+    QFile utf16(path("b.csv"));
+    ASSERT_TRUE(utf16.open(QIODevice::WriteOnly));
+    utf16.write(QByteArray("\xFF\xFE", 2));
+    const QString sample = "[PELVANE]\r\nZ\u00fcrich";
+    utf16.write(reinterpret_cast<const char*>(sample.utf16()), sample.size() * 2);
+    utf16.close();
+    ASSERT_TRUE(Files::readText(path("b.csv"), text));
+    EXPECT_EQ(text, sample);
+    QString error;
+    EXPECT_FALSE(Files::readText(path("missing.csv"), text, &error));
+    EXPECT_FALSE(error.isEmpty());
+    EXPECT_FALSE(Files::writeTextAtomically(path("no/such/dir/x"), "x", &error));
+}
+
+TEST(Platform, FakesReplaceTheDesktopAndGoBack) {
+    Fakes fakes = Fakes::install();
+    fakes.mail->canSend = false;
+    EXPECT_FALSE(Platform::mail().canSendMail());
+    Platform::browser().openInApp(QUrl("https://example.org"));
+    EXPECT_EQ(fakes.browser->inApp.size(), 1);
+    Platform::reset();
+    EXPECT_TRUE(Platform::messages().canSendText());
+}
