@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
 #include "app/Storyboard.h"
+#include "exchange/CommandLine.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/Window.h"
 #include "screens/menu/MainMenuViewController.h"
@@ -25,6 +26,12 @@ int main(int argc, char** argv) {
 
     AppDelegate delegate;
     delegate.didFinishLaunching();
+    if (!options.exportFile.isEmpty())
+        return Exchange::runExport(*delegate.persistentContainer().viewContext(),
+                                   options.exportFile);
+    if (!options.importFile.isEmpty())
+        return Exchange::runImport(*delegate.persistentContainer().viewContext(),
+                                   options.importFile);
     if (options.dark)
         Appearance::setDark(true);
     AppStoryboard::install();

@@ -2,12 +2,6 @@
 
 #include <sqlite3.h>
 
-namespace {
-Predicate eq(const char* format, const QVariant& arg) {
-    return Predicate::format(QString::fromLatin1(format), arg);
-}
-} // namespace
-
 TEST_F(StoreTest, EveryQueryFormMatchesStoredRecords) {
     coin("Canada", "1 Cent", 1965, "P", 2, 0.5f);
     coin("Canada", "5 Cents", 1965, "D", 1, 3.5f);

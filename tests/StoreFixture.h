@@ -43,6 +43,9 @@ protected:
         r.returnsObjectsAsFaults = false;
         return ctx().fetch<Coins>(r);
     }
+    static Predicate eq(const char* format, const QVariant& arg) {
+        return Predicate::format(QString::fromLatin1(format), arg);
+    }
     static QStringList denominations(const QList<CoinPtr>& list) {
         QStringList out;
         for (const auto& c : list)

@@ -1,0 +1,136 @@
+#include "exchange/ExchangeReader.h"
+
+#include "exchange/ExchangeWriter.h"
+#include "model/ManagedObjectContext.h"
+#include "model/Numbers.h"
+#include "model/PersistentContainer.h"
+#include "model/Records.h"
+#include "platform/Console.h"
+#include "platform/Fatal.h"
+#include "platform/ImageCoding.h"
+
+#include <QStringList>
+
+namespace Exchange {
+
+namespace {
+
+// Field position -> attribute; position 21 never occurs in a file this program writes.
+const QStringList kAttributes = {
+    "country",      "denomination",    "descrip",   "designer",   "diameter", "edge",
+    "gradeNumber",  "mintLocation",    "mintMark",  "notes",      "period",   "quantity",
+    "serialNumber", "strikeCharacter", "thickness", "totalValue", "value",    "weight",
+    "year",         "frontImage",      "backImage", "id"};
+
+// The attribute value a field gives; an invalid QVariant with *parsed false when a number
+// does not parse. Pictures that are no valid base64 give no value.
+QVariant convert(AttributeType type, const QString& attribute, const QString& text, bool* parsed) {
+    *parsed = true;
+    switch (type) {
+    case AttributeType::Text:
+        return attribute == QLatin1String("notes") ? QString(text).replace(u'~', u'\n') : text;
+    case AttributeType::Data: {
+        auto bytes = ImageCoding::strictBase64Decode(text.toLatin1());
+        return bytes ? QVariant(*bytes) : QVariant();
+    }
+    case AttributeType::Int16:
+        if (auto v = Numbers::parseInt16(text))
+            return int(*v);
+        break;
+    case AttributeType::Double:
+        if (auto v = Numbers::parseDouble(text))
+            return *v;
+        break;
+    case AttributeType::Float:
+        if (auto v = Numbers::parseFloat(text))
+            return *v;
+        break;
+    }
+    *parsed = false;
+    return {};
+}
+
+void apply(Coins& coin, const QStringList& fields, bool isNew) {
+    const EntityDescription& entity = coin.entity();
+    for (qsizetype p = 0; p < fields.size(); ++p) {
+        if (p >= kAttributes.size())
+            fatalError(QStringLiteral("Index out of range"), "Pelvane/ImportViewController", 262);
+        QString text = fields[p];
+        text.remove(u'"');
+        if (text.isEmpty())
+            continue;
+        const int attribute = entity.indexOf(kAttributes[p]);
+        const AttributeType type = entity.attributes[std::size_t(attribute)].type;
+        bool parsed = true;
+        const QVariant value = convert(type, kAttributes[p], text, &parsed);
+        if (!parsed && isNew)
+            fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value "
+                                      "(\"%1\" for %2)")
+                           .arg(text, kAttributes[p]),
+                       "Pelvane/ImportViewController", 271);
+        if (type == AttributeType::Data && !value.isValid() && isNew)
+            continue; // not valid base64: the new coin simply has no such picture
+        coin.setValue(attribute, value);
+    }
+}
+
+} // namespace
+
+ImportResult mergeExchangeText(ManagedObjectContext& context, const QString& input) {
+    ImportResult result;
+    // A second container for the same model: opened and released, as the import always did.
+    {
+        PersistentContainer second(QStringLiteral("Pelvane"));
+        second.loadPersistentStores(
+            [](const StoreDescription&, const std::optional<StoreError>& error) {
+                if (error)
+                    fatalError(QStringLiteral("Unresolved error %1, %2")
+                                   .arg(error->description(), error->userInfoDescription()),
+                               "Pelvane/ImportViewController", 217);
+            });
+    }
+
+    QString text = input;
+    text.replace(u'\r', u'\n');
+    text.remove(u'\'');
+    text.replace(u',', u';');
+    QStringList lines = text.split(u'\n');
+    const QString marker = QString::fromLatin1(Marker);
+    result.wrongFile = !lines.contains(marker);
+    lines.removeIf([&](const QString& l) { return l.isEmpty() || l == marker; });
+    if (result.wrongFile)
+        return result;
+
+    for (const QString& line : std::as_const(lines)) {
+        const QStringList fields = line.split(u'^');
+        const QString theCountry = fields.value(0);
+        const QString theDenomination = fields.value(1);
+        const QString theMintMark = fields.value(8);
+        const QString theYear = fields.value(18);
+        FetchRequest request(QStringLiteral("Coins"));
+        request.predicate = Predicate::andPredicate(
+            {Predicate::format(QStringLiteral("country == %@"), theCountry),
+             Predicate::format(QStringLiteral("denomination == %@"), theDenomination),
+             Predicate::format(QStringLiteral("mintMark == %@"), theMintMark),
+             Predicate::format(QStringLiteral("year == %@"), theYear)});
+        request.returnsObjectsAsFaults = false;
+        StoreError error;
+        const QList<CoinPtr> results = context.fetch<Coins>(request, &error);
+        if (results.isEmpty()) {
+            auto coin = context.insert<Coins>();
+            apply(*coin, fields, true);
+            if (auto failure = context.save())
+                Console::log(failure->description());
+            ++result.created;
+        } else if (results.size() == 1) {
+            // Left pending on purpose: the next save of the context writes it.
+            apply(*results.first(), fields, false);
+            ++result.updated;
+        } else {
+            ++result.skipped;
+        }
+    }
+    return result;
+}
+
+} // namespace Exchange

@@ -1,0 +1,16 @@
+#pragma once
+// The exchange file: the whole collection as UTF-8 text, "[PELVANE]" on the first line, then
+// one coin per line with 21 fields separated by "^". Only this program reads it back.
+#include <QByteArray>
+#include <functional>
+
+class ManagedObjectContext;
+
+namespace Exchange {
+inline constexpr char Marker[] = "[PELVANE]";
+// Called once per coin written, in file order, with the count written so far.
+using Progress = std::function<void(int written, int total)>;
+// Every coin, by denomination, year and mint mark. Pictures are re-encoded as JPEG at quality
+// 0.6; a stored picture that does not decode is a fatal error.
+QByteArray exchangeText(ManagedObjectContext& context, const Progress& progress = {});
+} // namespace Exchange

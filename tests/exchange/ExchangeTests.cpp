@@ -1,0 +1,178 @@
+#include "StoreFixture.h"
+#include "exchange/CommandLine.h"
+#include "exchange/ExchangeReader.h"
+#include "exchange/ExchangeWriter.h"
+#include "platform/ImageCoding.h"
+
+#include <QFile>
+#include <QPainter>
+
+using Exchange::exchangeText;
+using Exchange::mergeExchangeText;
+
+namespace {
+QByteArray picture(int hue) {
+    QImage img(100, 100, QImage::Format_RGB32);
+    img.fill(QColor::fromHsv(hue % 360, 120, 200));
+    QPainter p(&img);
+    p.setBrush(QColor::fromHsv((hue + 90) % 360, 200, 150));
+    p.drawEllipse(10, 10, 80, 80);
+    p.end();
+    return ImageCoding::coinPictureData(img);
+}
+} // namespace
+
+TEST_F(StoreTest, WriterLayoutIsByteExact) {
+    EXPECT_EQ(exchangeText(ctx()), QByteArray("[PELVANE]\n"));
+
+    auto c = coin("Canada", "1 Cent", 1965, QString(), 2, 0.5f);
+    c->setTotalValue(1.0f);
+    c->setNotes("two\nlines");
+    c->setId(7);
+    EXPECT_EQ(
+        exchangeText(ctx()),
+        QByteArray("[PELVANE]\nCanada^1 Cent^^^0.0^^^^^two~lines^^2^^^0.0^1.0^0.5^0.0^1965^^7\n"));
+
+    // Carets leave notes and descriptions only; other texts are written as they stand.
+    c->setDescrip("a^b");
+    c->setNotes("x^y");
+    c->setDesigner("d^e");
+    const QList<QByteArray> fields = exchangeText(ctx()).split('\n')[1].split('^');
+    EXPECT_EQ(fields[2], "ab");
+    EXPECT_EQ(fields[3], "d");
+    EXPECT_EQ(fields[4], "e");
+
+    // Order by denomination, year, mint mark; the record number glued to the back picture.
+    ctx().deleteObject(c);
+    coin("USA", "Dime", 1964, "D");
+    coin("USA", "Dime", 1964, "P");
+    coin("USA", "Dime", 1950, "S");
+    auto cent = coin("USA", "Cent", 1999, "P");
+    cent->setBackImage(picture(10));
+    cent->setId(12);
+    cent->setDiameter(1e-05);
+    const QList<QByteArray> lines = exchangeText(ctx()).split('\n');
+    ASSERT_EQ(lines.size(), 6);
+    EXPECT_TRUE(lines[1].startsWith("USA^Cent^"));
+    EXPECT_TRUE(lines[2].contains("^1950^"));
+    EXPECT_TRUE(lines[3].contains("^D^"));
+    EXPECT_TRUE(lines[4].contains("^P^"));
+    EXPECT_TRUE(lines[2].endsWith("^^0"));
+    EXPECT_TRUE(lines[1].endsWith("12"));
+    const QList<QByteArray> centFields = lines[1].split('^');
+    EXPECT_EQ(centFields.size(), 21);
+    EXPECT_EQ(centFields[4], "1e-05");
+    const QByteArray back = centFields[20].chopped(2);
+    const QImage decoded = ImageCoding::decode(*ImageCoding::strictBase64Decode(back));
+    EXPECT_EQ(decoded.size(), QSize(100, 100));
+    EXPECT_EQ(lines[5], "");
+}
+
+TEST_F(StoreTest, ReaderMergesByTheFourKeys) {
+    const QString file = "some header\n\n\n\n\n\n\n\n\n[PELVANE]\r\n"
+                         "Canada^1 Cent^^^19.05^^^^P^a~b^^2^^^1.5^1.0^0.5^2.5e-3^1965^^7\r\n"
+                         "Ireland^1 Penny^O'Brien^\"\"^^^^^^^^1^^^^^^^1928\r\n"
+                         "Peru^1 Sol^short line\r\n";
+    auto r = mergeExchangeText(ctx(), file);
+    EXPECT_FALSE(r.wrongFile);
+    EXPECT_EQ(r.created, 4); // every other line is read as a coin, even above the marker
+    EXPECT_EQ(fetch(eq("country == %@", "some header")).size(), 1);
+    auto canada = fetch(eq("country == %@", "Canada"));
+    ASSERT_EQ(canada.size(), 1);
+    EXPECT_EQ(canada[0]->notes(), "a\nb");
+    EXPECT_EQ(canada[0]->weight(), 0.0025);
+    EXPECT_EQ(canada[0]->thickness(), 1.5);
+    EXPECT_EQ(canada[0]->id(), 0);
+    EXPECT_FALSE(canada[0]->hasValue(Coins::Attr::backImage)); // "7" is no base64
+    auto ireland = fetch(eq("country == %@", "Ireland"))[0];
+    EXPECT_EQ(ireland->descrip(), "OBrien");
+    EXPECT_FALSE(ireland->hasValue(Coins::Attr::designer));
+    auto peru = fetch(eq("country == %@", "Peru"))[0];
+    EXPECT_EQ(peru->descrip(), "short line");
+    EXPECT_EQ(peru->year(), 0);
+
+    // Again: Canada (all three texts present) is found and updated, left unsaved; the others
+    // carry an absent mint mark, match nothing and come in a second time.
+    const QString again = "[PELVANE]\nCanada^1 Cent^^^xx^^^^P^^^3^^^^^^^1965^^\n"
+                          "Ireland^1 Penny^^^^^^^^^^1^^^^^^^1928\n";
+    r = mergeExchangeText(ctx(), again);
+    EXPECT_EQ(r.updated, 1);
+    EXPECT_EQ(r.created, 1);
+    EXPECT_EQ(canada[0]->quantity(), 3);
+    EXPECT_FALSE(canada[0]->hasValue(Coins::Attr::diameter)); // bad number in an update clears
+    EXPECT_EQ(fetch(eq("country == %@", "Ireland")).size(), 2);
+
+    EXPECT_DEATH(mergeExchangeText(ctx(), "[PELVANE]\nChile^1 Peso^^^1.2.3\n"), "Fatal error");
+    EXPECT_DEATH(mergeExchangeText(ctx(), "[PELVANE]\nX^^^^^^^^^^^^^^^^^^^^^^^^\n"), "Fatal error");
+    r = mergeExchangeText(ctx(), "Canada^1 Cent\n[pelvane]\n");
+    EXPECT_TRUE(r.wrongFile);
+    EXPECT_EQ(r.created, 0);
+}
+
+TEST_F(StoreTest, CommandLineReportsWrongAndUnreadableFiles) {
+    QFile notes(path("notes.txt"));
+    ASSERT_TRUE(notes.open(QIODevice::WriteOnly));
+    notes.write("shopping list\n");
+    notes.close();
+    EXPECT_EQ(Exchange::runImport(ctx(), path("notes.txt")), 2);
+    EXPECT_EQ(Exchange::runImport(ctx(), path("missing.csv")), 1);
+    coin("Chile", "1 Peso", 1990, "So");
+    ASSERT_FALSE(ctx().save());
+    ASSERT_EQ(Exchange::runExport(ctx(), path("Pelvane.csv")), 0);
+    ASSERT_EQ(Exchange::runImport(ctx(), path("Pelvane.csv")), 0);
+    EXPECT_FALSE(ctx().hasChanges()); // the update was saved before returning
+    EXPECT_EQ(fetch().size(), 1);
+}
+
+TEST_F(StoreTest, RoundTripToASecondDevice) {
+    for (int i = 0; i < 200; ++i) {
+        auto c = coin(i % 7 ? QStringLiteral("Country %1").arg(i % 13) : QString(),
+                      QStringLiteral("%1 Cents").arg(i % 17), 1900 + i % 120,
+                      QStringLiteral("M%1").arg(i % 3), i % 9, float(i) / 8);
+        c->setNotes(QStringLiteral("note %1\nsecond line").arg(i));
+        c->setDiameter(i * 0.37);
+        c->setWeight(1.0 / (i + 1));
+        c->setTotalValue(float(i) * 0.3f);
+        c->setGradeNumber("MS/PF-65");
+        c->setId(qint16(i));
+        if (i % 2)
+            c->setFrontImage(picture(i));
+        c->setBackImage(picture(i + 7));
+    }
+    ASSERT_FALSE(ctx().save());
+    const QByteArray file = exchangeText(ctx());
+    const auto original = fetch({}, {{"id", true}});
+
+    PersistentContainer::setDefaultDirectory(path("other-device"));
+    PersistentContainer device(QStringLiteral("Pelvane"));
+    device.loadPersistentStores({});
+    auto& other = *device.viewContext();
+    const auto r = mergeExchangeText(other, QString::fromUtf8(file));
+    EXPECT_EQ(r.created, 200);
+    FetchRequest all(QStringLiteral("Coins"));
+    all.sortDescriptors = {{"denomination", true}, {"year", true}, {"mintMark", true}};
+    const auto copies = other.fetch<Coins>(all);
+    ASSERT_EQ(copies.size(), 200);
+    const auto sorted = fetch({}, {{"denomination", true}, {"year", true}, {"mintMark", true}});
+    for (int i = 0; i < 200; ++i) {
+        const Coins& a = *sorted[i];
+        const Coins& b = *copies[i];
+        SCOPED_TRACE(i);
+        EXPECT_EQ(a.denomination(), b.denomination());
+        EXPECT_EQ(a.country().isEmpty() ? QString() : a.country(), b.country());
+        EXPECT_EQ(a.notes(), b.notes());
+        EXPECT_EQ(a.diameter(), b.diameter());
+        EXPECT_EQ(a.weight(), b.weight());
+        EXPECT_EQ(a.value(), b.value());
+        EXPECT_EQ(a.totalValue(), b.totalValue());
+        EXPECT_EQ(a.quantity(), b.quantity());
+        EXPECT_EQ(a.year(), b.year());
+        EXPECT_EQ(b.id(), 0);
+        EXPECT_FALSE(b.hasValue(Coins::Attr::backImage));
+        if (a.hasValue(Coins::Attr::frontImage))
+            EXPECT_EQ(b.frontImage(), ImageCoding::jpeg(ImageCoding::decode(a.frontImage()), 0.6));
+        else
+            EXPECT_FALSE(b.hasValue(Coins::Attr::frontImage));
+    }
+    (void)original;
+}
