@@ -9,6 +9,8 @@
 #include <QSaveFile>
 #include <QStringDecoder>
 
+#include <utility>
+
 #include <cstdio>
 
 namespace Exchange {

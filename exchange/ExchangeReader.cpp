@@ -76,7 +76,7 @@ void apply(Coins& coin, const QStringList& fields, bool isNew) {
 
 } // namespace
 
-ImportResult mergeExchangeText(ManagedObjectContext& context, const QString& input) {
+ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
     ImportResult result;
     // A second container for the same model: opened and released, as the import always did.
     {
@@ -90,18 +90,28 @@ ImportResult mergeExchangeText(ManagedObjectContext& context, const QString& inp
             });
     }
 
-    QString text = input;
-    text.replace(u'\r', u'\n');
-    text.remove(u'\'');
-    text.replace(u',', u';');
-    QStringList lines = text.split(u'\n');
-    const QString marker = QString::fromLatin1(Marker);
+    // The three replacements touch ASCII characters only, so they are safe on UTF-8 bytes.
+    text.replace('\r', '\n');
+    text.replace("'", "");
+    text.replace(',', ';');
+    const QByteArrayView marker(Marker);
+    QList<QByteArrayView> lines;
+    for (qsizetype start = 0; start <= text.size();) {
+        qsizetype end = text.indexOf('\n', start);
+        if (end < 0)
+            end = text.size();
+        const QByteArrayView line(text.constData() + start, end - start);
+        if (!line.isEmpty())
+            lines.append(line);
+        start = end + 1;
+    }
     result.wrongFile = !lines.contains(marker);
-    lines.removeIf([&](const QString& l) { return l.isEmpty() || l == marker; });
+    lines.removeIf([&](QByteArrayView l) { return l == marker; });
     if (result.wrongFile)
         return result;
 
-    for (const QString& line : std::as_const(lines)) {
+    for (QByteArrayView bytes : std::as_const(lines)) {
+        const QString line = QString::fromUtf8(bytes);
         const QStringList fields = line.split(u'^');
         const QString theCountry = fields.value(0);
         const QString theDenomination = fields.value(1);

@@ -3,6 +3,7 @@
 // denomination, mint mark and year match no stored coin becomes a new coin (saved at once),
 // a line that matches exactly one coin rewrites it (left unsaved), a line that matches more
 // is skipped.
+#include <QByteArray>
 #include <QString>
 
 class ManagedObjectContext;
@@ -16,6 +17,10 @@ struct ImportResult {
     int skipped = 0;
 };
 
-ImportResult mergeExchangeText(ManagedObjectContext& context, const QString& text);
+// Works on the file's UTF-8 bytes line by line, so a large file is held once, not as text.
+ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray utf8);
+inline ImportResult mergeExchangeText(ManagedObjectContext& context, const QString& text) {
+    return mergeExchangeText(context, text.toUtf8());
+}
 
 } // namespace Exchange

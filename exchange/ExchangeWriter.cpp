@@ -26,7 +26,7 @@ QHash<QByteArray, QByteArray> reencodeAll(const QList<QByteArray>& pictures) {
         }
     const QList<QByteArray> encoded =
         QtConcurrent::blockingMapped(distinct, [](const QByteArray& bytes) {
-            const QImage image = ImageCoding::decode(bytes);
+            const QImage image = ImageCoding::decodeJpegQuickly(bytes);
             if (image.isNull())
                 fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional "
                                           "value"),

@@ -7,6 +7,10 @@
 namespace ImageCoding {
 // A null image when the bytes are no picture.
 QImage decode(const QByteArray& bytes);
+// The same pixels as decode() for a colour JPEG, read straight through libjpeg without the
+// image-plugin machinery (the export decodes tens of thousands of pictures); anything else
+// goes the ordinary way.
+QImage decodeJpegQuickly(const QByteArray& bytes);
 // The picture drawn onto a 100 x 100 canvas, stretched to the whole square whatever its shape.
 QImage redrawnForStorage(const QImage& image);
 // JPEG at a quality from 0 to 1; empty when encoding fails.

@@ -9,7 +9,7 @@ packages=(
   qt6-pdf-dev libqt6pdfwidgets6
   qt6-multimedia-dev libqt6multimediawidgets6
   qt6-image-formats-plugins qt6-svg-dev libqt6svg6
-  libsqlite3-dev
+  libsqlite3-dev libjpeg-dev
   libgtest-dev libgmock-dev
   fonts-liberation
   xvfb xauth poppler-utils

@@ -102,9 +102,11 @@ TEST_F(StoreTest, ReaderMergesByTheFourKeys) {
     EXPECT_FALSE(canada[0]->hasValue(Coins::Attr::diameter)); // bad number in an update clears
     EXPECT_EQ(fetch(eq("country == %@", "Ireland")).size(), 2);
 
-    EXPECT_DEATH(mergeExchangeText(ctx(), "[PELVANE]\nChile^1 Peso^^^1.2.3\n"), "Fatal error");
-    EXPECT_DEATH(mergeExchangeText(ctx(), "[PELVANE]\nX^^^^^^^^^^^^^^^^^^^^^^^^\n"), "Fatal error");
-    r = mergeExchangeText(ctx(), "Canada^1 Cent\n[pelvane]\n");
+    EXPECT_DEATH(mergeExchangeText(ctx(), QByteArray("[PELVANE]\nChile^1 Peso^^^1.2.3\n")),
+                 "Fatal error");
+    EXPECT_DEATH(mergeExchangeText(ctx(), QByteArray("[PELVANE]\nX^^^^^^^^^^^^^^^^^^^^^^^^\n")),
+                 "Fatal error");
+    r = mergeExchangeText(ctx(), QByteArray("Canada^1 Cent\n[pelvane]\n"));
     EXPECT_TRUE(r.wrongFile);
     EXPECT_EQ(r.created, 0);
 }

@@ -64,3 +64,27 @@ TEST(Platform, FakesReplaceTheDesktopAndGoBack) {
     Platform::reset();
     EXPECT_TRUE(Platform::messages().canSendText());
 }
+
+TEST(ImageCoding, QuickJpegDecodeGivesTheSamePixelsAndBytes) {
+    for (int seed = 0; seed < 40; ++seed) {
+        QImage img(seed % 3 ? 100 : 37, 100, QImage::Format_RGB32);
+        img.fill(QColor::fromHsv(seed * 9, 150, 220));
+        QPainter p(&img);
+        p.setPen(QColor::fromHsv(seed * 31 % 360, 220, 80));
+        p.drawEllipse(seed % 20, 10, 70, 60 + seed % 30);
+        p.drawText(10, 50, QString::number(seed * 1234567));
+        p.end();
+        const QByteArray stored = ImageCoding::jpeg(img, seed % 2 ? 0.5 : 0.93);
+        const QImage slow = ImageCoding::decode(stored);
+        const QImage quick = ImageCoding::decodeJpegQuickly(stored);
+        ASSERT_EQ(quick.format(), slow.format());
+        ASSERT_EQ(quick, slow) << seed;
+        EXPECT_EQ(ImageCoding::jpeg(quick, 0.6), ImageCoding::jpeg(slow, 0.6));
+    }
+    // Not a colour JPEG: the ordinary decoder answers.
+    QImage gray(20, 20, QImage::Format_Grayscale8);
+    gray.fill(128);
+    const QByteArray g = ImageCoding::jpeg(gray, 0.8);
+    EXPECT_EQ(ImageCoding::decodeJpegQuickly(g), ImageCoding::decode(g));
+    EXPECT_TRUE(ImageCoding::decodeJpegQuickly("\xFF\xD8 broken").isNull());
+}
