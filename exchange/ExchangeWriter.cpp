@@ -44,15 +44,21 @@ void appendText(QByteArray& out, const QString& text) {
 
 } // namespace
 
-QByteArray exchangeText(ManagedObjectContext& context, const Progress& progress) {
+QList<CoinPtr> coinsInFileOrder(ManagedObjectContext& context) {
     FetchRequest request(QStringLiteral("Coins"));
     request.sortDescriptors = {{QStringLiteral("denomination"), true},
                                {QStringLiteral("year"), true},
                                {QStringLiteral("mintMark"), true}};
     request.returnsObjectsAsFaults = false;
     StoreError error;
-    const QList<CoinPtr> coins = context.fetch<Coins>(request, &error);
+    return context.fetch<Coins>(request, &error);
+}
 
+QByteArray exchangeText(ManagedObjectContext& context, const Progress& progress) {
+    return exchangeText(coinsInFileOrder(context), progress);
+}
+
+QByteArray exchangeText(const QList<CoinPtr>& coins, const Progress& progress) {
     // Picture bytes are read here, on the store's thread; only the coding runs elsewhere.
     QList<QByteArray> pictures;
     pictures.reserve(coins.size() * 2);

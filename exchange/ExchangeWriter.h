@@ -4,6 +4,10 @@
 #include <QByteArray>
 #include <functional>
 
+#include "model/Records.h"
+
+#include <QList>
+
 class ManagedObjectContext;
 
 namespace Exchange {
@@ -13,4 +17,8 @@ using Progress = std::function<void(int written, int total)>;
 // Every coin, by denomination, year and mint mark. Pictures are re-encoded as JPEG at quality
 // 0.6; a stored picture that does not decode is a fatal error.
 QByteArray exchangeText(ManagedObjectContext& context, const Progress& progress = {});
+// The coins of the file, in file order, as the export fetches them.
+QList<CoinPtr> coinsInFileOrder(ManagedObjectContext& context);
+// The file for these coins, in the order given.
+QByteArray exchangeText(const QList<CoinPtr>& coins, const Progress& progress = {});
 } // namespace Exchange

@@ -35,9 +35,9 @@ NavigationController::NavigationController(ViewController* root, QWidget* parent
     rightItems_->setParent(nullptr);
     right->setLayout(rightItems_);
     rightItems_->setContentsMargins(0, 0, 0, 0);
-    barLayout->addWidget(left, 1);
-    barLayout->addWidget(title_, 2);
-    barLayout->addWidget(right, 1);
+    barLayout->addWidget(left, 2);
+    barLayout->addWidget(title_, 3);
+    barLayout->addWidget(right, 2);
     bar_->setMinimumHeight(44);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

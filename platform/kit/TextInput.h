@@ -6,7 +6,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 
-class PickerView;
+#include "platform/kit/PickerView.h"
 
 class TextInputDelegate {
 public:

@@ -1,0 +1,73 @@
+// Grabs the screens to PNG files for looking at them: shots DATA_DIR OUT_DIR [dark]
+#include "app/AppDelegate.h"
+#include "app/CommandLine.h"
+#include "app/Storyboard.h"
+#include "exchange/ExportViewController.h"
+#include "exchange/ImportViewController.h"
+#include "platform/fakes/Fakes.h"
+#include "platform/kit/AlertController.h"
+#include "platform/kit/Appearance.h"
+#include "platform/kit/NavigationController.h"
+#include "platform/kit/Window.h"
+#include "screens/menu/MainMenuViewController.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QThread>
+
+namespace {
+void settle(int ms) {
+    QElapsedTimer t;
+    t.start();
+    while (t.elapsed() < ms) {
+        QApplication::processEvents(QEventLoop::AllEvents, 10);
+        QThread::msleep(5);
+    }
+}
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    if (argc < 3)
+        return 2;
+    useDataDirectory(QString::fromLocal8Bit(argv[1]));
+    const QString out = QString::fromLocal8Bit(argv[2]);
+    const QString suffix = argc > 3 ? QStringLiteral("-dark") : QString();
+    if (argc > 3)
+        Appearance::setDark(true);
+    AppDelegate delegate;
+    Fakes fakes = Fakes::install();
+    AppStoryboard::install();
+    auto* menu = new MainMenuViewController;
+    Window window(menu);
+    window.show();
+    settle(100);
+    window.grab().save(out + "/menu-closed" + suffix + ".png");
+    menu->HandleButtonClick();
+    settle(400);
+    window.grab().save(out + "/menu-open" + suffix + ".png");
+
+    menu->performSegue("ImportExport");
+    auto* nav = window.navigationController();
+    nav->topViewController()->performSegue("ImportCoins");
+    auto* import = static_cast<ImportViewController*>(nav->topViewController());
+    fakes.documentPicker->next = QStringLiteral(PELVANE_SOURCE_DIR "/samples/Pelvane-sample.csv");
+    import->LoadFile();
+    settle(100);
+    window.grab().save(out + "/import-loaded" + suffix + ".png");
+    AlertController::current()->triggerAction("OK");
+    import->ImportTextFile();
+    settle(100);
+    window.grab().save(out + "/import-done" + suffix + ".png");
+    AlertController::current()->triggerAction("OK");
+
+    menu->performSegue("ImportExport");
+    nav->topViewController()->performSegue("ExportCoins");
+    auto* exporter = static_cast<ExportViewController*>(nav->topViewController());
+    exporter->CreateUpdateFile();
+    settle(300);
+    window.grab().save(out + "/export-built" + suffix + ".png");
+    settle(1000);
+    window.grab().save(out + "/export-alert" + suffix + ".png");
+    return 0;
+}
