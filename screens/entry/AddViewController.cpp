@@ -1,0 +1,36 @@
+#include "screens/entry/AddViewController.h"
+
+#include "platform/Console.h"
+#include "platform/kit/AlertController.h"
+#include "screens/Application.h"
+#include "screens/ProcessState.h"
+
+AddViewController::AddViewController(QWidget* parent)
+    : CoinFormViewController(parent) {
+    connect(SaveButton, &QPushButton::clicked, this, &AddViewController::SaveNewCardButtonClicked);
+    connect(FrontRemoveButton, &QPushButton::clicked, this, &AddViewController::RemoveFrontImage);
+    connect(RearRemoveButton, &QPushButton::clicked, this, &AddViewController::RemoveBackImage);
+}
+
+void AddViewController::viewDidLoad() {
+    setTitle(QStringLiteral("Add Coin"));
+    setUpForm();
+}
+
+void AddViewController::SaveNewCardButtonClicked() {
+    const CoinFormTexts texts = formTexts();
+    if (!CoinFormRules::hasRequiredFields(texts)) {
+        present(AlertController::okAlert(QStringLiteral("Record not Saved!"),
+                                         QStringLiteral("Required Fields in RED not Entered")));
+        return;
+    }
+    SaveButton->setText(QStringLiteral("Saved"));
+    managedObjectContext = Application::viewContext();
+    auto coin = managedObjectContext->insert<Coins>();
+    CoinFormRules::applyAddForm(*coin, texts, CoinID);
+    if (auto error = managedObjectContext->save())
+        Console::log(error->description());
+    Console::log(QStringLiteral("Back button Clicked"));
+    Console::log(CalledFromList);
+    performUnwind(QStringLiteral("unwindToList"));
+}

@@ -1,0 +1,332 @@
+#include "screens/entry/CoinFormViewController.h"
+
+#include "platform/Console.h"
+#include "platform/ImageCoding.h"
+#include "platform/Platform.h"
+#include "platform/kit/AlertController.h"
+#include "platform/kit/Appearance.h"
+#include "screens/Application.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFile>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace {
+const QString kDigits = QStringLiteral("0123456789");
+const QString kDecimal = QStringLiteral(".0123456789");
+const QString kNotes = QStringLiteral(".0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTU"
+                                      "VWXYZ,;:-=?!@#$%&*()[]{}/<>_+~`' ");
+} // namespace
+
+CoinFormViewController::CoinFormViewController(QWidget* parent)
+    : ViewController(parent)
+    , StrikeCharacterPickerView(new PickerView(this))
+    , GradePickerView(new PickerView(this))
+    , EdgePickerView(new PickerView(this)) {
+    auto* scroll = new QScrollArea(this);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    auto* content = new QWidget(scroll);
+    scroll->setWidget(content);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(scroll);
+    auto* column = new QVBoxLayout(content);
+    form_ = new QFormLayout;
+    form_->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    auto field = [&](const char* label, const char* name, bool required = false) {
+        auto* f = new TextField(content);
+        f->setObjectName(QString::fromLatin1(name));
+        auto* l = new QLabel(QString::fromLatin1(label), content);
+        if (required)
+            l->setStyleSheet(QStringLiteral("color: red;"));
+        form_->addRow(l, f);
+        return f;
+    };
+    DenominationTextField = field("Denomination", "DenominationTextField", true);
+    YearTextField = field("Year", "YearTextField", true);
+    QuantityTextField = field("Quantity", "QuantityTextField");
+    CountryTextField = field("Country", "CountryTextField");
+    MintMarkTextField = field("Mint Mark", "MintMarkTextField");
+    MintLocationTextField = field("Mint Location", "MintLocationTextField");
+    GradeNumberTextField = field("Grade", "GradeNumberTextField");
+    StrikeCharacterTextField = field("Strike", "StrikeCharacterTextField");
+    EdgeTextField = field("Edge", "EdgeTextField");
+    ValueTextField = field("Value", "ValueTextField");
+    DiameterTextField = field("Diameter", "DiameterTextField");
+    WeightTextField = field("Weight", "WeightTextField");
+    ThicknessTextField = field("Thickness", "ThicknessTextField");
+    SerialNumberTextField = field("Serial Number", "SerialNumberTextField");
+    PeriodTextField = field("Period", "PeriodTextField");
+    DesignerTextField = field("Designer", "DesignerTextField");
+    DescriptionTextField = field("Description", "DescriptionTextField");
+    NotesTextView = new TextView(content);
+    NotesTextView->setObjectName(QStringLiteral("NotesTextView"));
+    NotesTextView->setMaximumHeight(80);
+    form_->addRow(new QLabel(QStringLiteral("Notes"), content), NotesTextView);
+    column->addLayout(form_);
+
+    auto* pictures = new QGridLayout;
+    auto button = [&](const QString& title, const char* name) {
+        auto* b = new QPushButton(title, content);
+        b->setObjectName(QString::fromLatin1(name));
+        return b;
+    };
+    FrontImage = new ImageView(content);
+    BackImage = new ImageView(content);
+    FrontImage->setObjectName(QStringLiteral("FrontImage"));
+    BackImage->setObjectName(QStringLiteral("BackImage"));
+    FrontImage->setFixedSize(120, 120);
+    BackImage->setFixedSize(120, 120);
+    FrontCameraButton = button(QStringLiteral("Camera"), "FrontCameraButton");
+    FrontFolderButton = button(QStringLiteral("Folder"), "FrontFolderButton");
+    FrontPasteButton = button(QStringLiteral("Paste"), "FrontPasteButton");
+    FrontRemoveButton = button(QStringLiteral("Remove"), "FrontRemoveButton");
+    RearCameraButton = button(QStringLiteral("Camera"), "RearCameraButton");
+    RearFolderButton = button(QStringLiteral("Folder"), "RearFolderButton");
+    RearPasteButton = button(QStringLiteral("Paste"), "RearPasteButton");
+    RearRemoveButton = button(QStringLiteral("Remove"), "RearRemoveButton");
+    pictures->addWidget(new QLabel(QStringLiteral("Front"), content), 0, 0, Qt::AlignCenter);
+    pictures->addWidget(new QLabel(QStringLiteral("Back"), content), 0, 1, Qt::AlignCenter);
+    pictures->addWidget(FrontImage, 1, 0, Qt::AlignCenter);
+    pictures->addWidget(BackImage, 1, 1, Qt::AlignCenter);
+    int row = 2;
+    for (auto [f, b] : {std::pair{FrontCameraButton, RearCameraButton},
+                        {FrontFolderButton, RearFolderButton},
+                        {FrontPasteButton, RearPasteButton},
+                        {FrontRemoveButton, RearRemoveButton}}) {
+        pictures->addWidget(f, row, 0);
+        pictures->addWidget(b, row++, 1);
+    }
+    column->addLayout(pictures);
+    SaveButton = button(QStringLiteral("Save"), "SaveButton");
+    SaveButton->setMinimumHeight(44);
+    column->addWidget(SaveButton);
+    column->addStretch();
+
+    connect(FrontCameraButton, &QPushButton::clicked, this,
+            &CoinFormViewController::OpenFrontCamera);
+    connect(RearCameraButton, &QPushButton::clicked, this, &CoinFormViewController::OpenBackCamera);
+    connect(FrontFolderButton, &QPushButton::clicked, this,
+            &CoinFormViewController::AttachFrontImage);
+    connect(RearFolderButton, &QPushButton::clicked, this,
+            &CoinFormViewController::AttachBackImage);
+    connect(FrontPasteButton, &QPushButton::clicked, this, &CoinFormViewController::PasteFront);
+    connect(RearPasteButton, &QPushButton::clicked, this, &CoinFormViewController::PasteRear);
+}
+
+void CoinFormViewController::setUpForm() {
+    loadPickerLists();
+    isFrontImage = isBackImage = false;
+    const std::pair<PickerView*, TextField*> pickers[] = {
+        {StrikeCharacterPickerView, StrikeCharacterTextField},
+        {GradePickerView, GradeNumberTextField},
+        {EdgePickerView, EdgeTextField}};
+    int tag = 1;
+    for (auto [picker, field] : pickers) {
+        picker->setDataSource(this);
+        picker->setTag(tag++);
+        field->setInputView(picker);
+    }
+    // Whole numbers take digits only (tag 1); the decimal fields take digits and points.
+    YearTextField->setTag(1);
+    QuantityTextField->setTag(1);
+    for (TextField* f : {YearTextField, QuantityTextField, ValueTextField, DiameterTextField,
+                         WeightTextField, ThicknessTextField})
+        f->setDelegate(this);
+    NotesTextView->setDelegate(this);
+    for (QPushButton* b :
+         {FrontCameraButton, FrontFolderButton, FrontRemoveButton, FrontPasteButton,
+          RearCameraButton, RearFolderButton, RearRemoveButton, RearPasteButton, SaveButton})
+        Styling::round(b, 10, 2, Qt::black);
+}
+
+void CoinFormViewController::loadPickerLists() {
+    ManagedObjectContext* context = Application::viewContext();
+    auto load = [context](const char* entity, const char* key, QStringList& into) {
+        FetchRequest request(QString::fromLatin1(entity));
+        request.sortDescriptors = {{QString::fromLatin1(key), true}};
+        request.returnsObjectsAsFaults = false;
+        for (const ObjectPtr& record : context->fetch(request))
+            into.append(record->value(0).toString());
+    };
+    load("StrikeCharacters", "strike", StrikeCharacterList);
+    load("GradeNumbers", "grade", GradeNumbersList);
+    load("CoinEdge", "edge", EdgeList);
+}
+
+bool CoinFormViewController::shouldChangeCharacters(QObject* input, int, int,
+                                                    const QString& replacement) {
+    if (replacement.isEmpty())
+        return true;
+    QString allowed = kNotes;
+    if (auto* field = qobject_cast<TextField*>(input))
+        allowed = field->tag() == 1 ? kDigits : kDecimal;
+    for (QChar c : replacement)
+        if (!allowed.contains(c))
+            return false;
+    return true;
+}
+
+int CoinFormViewController::numberOfRows(PickerView* picker) {
+    switch (picker->tag()) {
+    case 1:
+        return int(StrikeCharacterList.size());
+    case 2:
+        return int(GradeNumbersList.size());
+    case 3:
+        return int(EdgeList.size());
+    default:
+        return 0;
+    }
+}
+
+QString CoinFormViewController::titleForRow(PickerView* picker, int row) {
+    switch (picker->tag()) {
+    case 1:
+        return StrikeCharacterList.value(row);
+    case 2:
+        return GradeNumbersList.value(row);
+    case 3:
+        return EdgeList.value(row);
+    default:
+        return {};
+    }
+}
+
+void CoinFormViewController::didSelectRow(PickerView* picker, int row) {
+    const QString value = titleForRow(picker, row);
+    if (picker->tag() == 1)
+        StrikeCharacterTextField->setText(value);
+    else if (picker->tag() == 2)
+        GradeNumberTextField->setText(value);
+    else if (picker->tag() == 3)
+        EdgeTextField->setText(value);
+}
+
+void CoinFormViewController::dismissKeyboard() {
+    if (QWidget* focus = QApplication::focusWidget())
+        focus->clearFocus();
+}
+
+void CoinFormViewController::openCamera(bool front) {
+    if (!Platform::imagePicker().isCameraAvailable()) {
+        present(AlertController::okAlert(QStringLiteral("Camera"),
+                                         QStringLiteral("There is no camera available")));
+        return;
+    }
+    isFrontImage = front;
+    isBackImage = !front;
+    isFromCamera = true;
+    QPointer<CoinFormViewController> self(this);
+    Platform::imagePicker().presentCamera(
+        this,
+        [self](const QImage& image) {
+            if (self)
+                self->imageTaken(image);
+        },
+        [self] {
+            if (self)
+                self->isFromCamera = false;
+        });
+}
+
+void CoinFormViewController::imageTaken(const QImage& image) {
+    if (isFrontImage) {
+        chosenFrontImage = image;
+        FrontImage->setImage(image);
+        isFrontImage = false;
+    } else if (isBackImage) {
+        chosenBackImage = image;
+        BackImage->setImage(image);
+        isBackImage = false;
+    }
+    isFromCamera = false;
+}
+
+void CoinFormViewController::attach(bool front) {
+    isFrontImage = front;
+    isBackImage = !front;
+    QPointer<CoinFormViewController> self(this);
+    Platform::documentPicker().open(
+        this, {QStringLiteral("Pictures (*.jpg *.jpeg *.png)"), QStringLiteral("All files (*)")},
+        [self](const QString& path) {
+            if (self)
+                self->documentPicked(path);
+        },
+        {});
+}
+
+void CoinFormViewController::documentPicked(const QString& path) {
+    Console::log(QStringLiteral("Chosen"));
+    if (path.isEmpty())
+        return;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    // Bytes that are no picture (a PDF, say) leave the view empty.
+    (isFrontImage ? FrontImage : BackImage)->setImage(ImageCoding::decode(file.readAll()));
+}
+
+void CoinFormViewController::paste(ImageView* view) {
+    const QImage image = QApplication::clipboard()->image();
+    if (!image.isNull()) {
+        view->setImage(image);
+        return;
+    }
+    present(AlertController::okAlert(QStringLiteral("Clipboard"),
+                                     QStringLiteral("There is no image in the Clipboard")));
+}
+
+CoinFormTexts CoinFormViewController::formTexts() const {
+    CoinFormTexts t;
+    t.denomination = DenominationTextField->text();
+    t.year = YearTextField->text();
+    t.quantity = QuantityTextField->text();
+    t.descrip = DescriptionTextField->text();
+    t.country = CountryTextField->text();
+    t.diameter = DiameterTextField->text();
+    t.weight = WeightTextField->text();
+    t.thickness = ThicknessTextField->text();
+    t.edge = EdgeTextField->text();
+    t.value = ValueTextField->text();
+    t.strikeCharacter = StrikeCharacterTextField->text();
+    t.gradeNumber = GradeNumberTextField->text();
+    t.mintMark = MintMarkTextField->text();
+    t.mintLocation = MintLocationTextField->text();
+    t.serialNumber = SerialNumberTextField->text();
+    t.period = PeriodTextField->text();
+    t.designer = DesignerTextField->text();
+    t.notes = NotesTextView->text();
+    if (FrontImage->hasImage())
+        t.frontImage = ImageCoding::coinPictureData(FrontImage->image());
+    if (BackImage->hasImage())
+        t.backImage = ImageCoding::coinPictureData(BackImage->image());
+    return t;
+}
+
+void CoinFormViewController::showTexts(const CoinFormTexts& t) {
+    DenominationTextField->setText(t.denomination);
+    YearTextField->setText(t.year);
+    QuantityTextField->setText(t.quantity);
+    DescriptionTextField->setText(t.descrip);
+    CountryTextField->setText(t.country);
+    DiameterTextField->setText(t.diameter);
+    WeightTextField->setText(t.weight);
+    ThicknessTextField->setText(t.thickness);
+    EdgeTextField->setText(t.edge);
+    ValueTextField->setText(t.value);
+    StrikeCharacterTextField->setText(t.strikeCharacter);
+    GradeNumberTextField->setText(t.gradeNumber);
+    MintMarkTextField->setText(t.mintMark);
+    MintLocationTextField->setText(t.mintLocation);
+    SerialNumberTextField->setText(t.serialNumber);
+    PeriodTextField->setText(t.period);
+    DesignerTextField->setText(t.designer);
+    NotesTextView->setText(t.notes);
+}

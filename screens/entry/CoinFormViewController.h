@@ -1,0 +1,68 @@
+#pragma once
+// What the add and edit screens share: the form's fields and their input filters, the three
+// pickers fed by the reference lists, and the picture actions of both sides.
+#include "model/Records.h"
+#include "platform/kit/PickerView.h"
+#include "platform/kit/TextInput.h"
+#include "platform/kit/ViewController.h"
+#include "platform/kit/Views.h"
+#include "screens/entry/CoinFormRules.h"
+
+#include <QPushButton>
+
+class QFormLayout;
+
+class CoinFormViewController : public ViewController,
+                               public TextInputDelegate,
+                               public PickerViewDataSource {
+    Q_OBJECT
+public:
+    explicit CoinFormViewController(QWidget* parent = nullptr);
+
+    TextField *DenominationTextField, *YearTextField, *QuantityTextField, *DescriptionTextField,
+        *CountryTextField, *DiameterTextField, *WeightTextField, *ThicknessTextField,
+        *StrikeCharacterTextField, *GradeNumberTextField, *EdgeTextField, *MintMarkTextField,
+        *MintLocationTextField, *SerialNumberTextField, *PeriodTextField, *DesignerTextField,
+        *ValueTextField;
+    TextView* NotesTextView;
+    ImageView *FrontImage, *BackImage;
+    QPushButton *FrontCameraButton, *FrontFolderButton, *FrontRemoveButton, *FrontPasteButton,
+        *RearCameraButton, *RearFolderButton, *RearRemoveButton, *RearPasteButton, *SaveButton;
+    PickerView *StrikeCharacterPickerView, *GradePickerView, *EdgePickerView;
+    ManagedObjectContext* managedObjectContext = nullptr;
+    QStringList StrikeCharacterList, GradeNumbersList, EdgeList;
+    bool isFrontImage = false, isBackImage = false, isFromCamera = false;
+    QImage chosenFrontImage, chosenBackImage;
+
+    // Input filters: digits for tag-1 fields, ".0123456789" for the other numeric fields,
+    // the notes' 91 characters.
+    bool shouldChangeCharacters(QObject* input, int start, int length,
+                                const QString& replacement) override;
+    int numberOfRows(PickerView* picker) override;
+    QString titleForRow(PickerView* picker, int row) override;
+    void didSelectRow(PickerView* picker, int row) override;
+
+    void OpenFrontCamera() { openCamera(true); }
+    void OpenBackCamera() { openCamera(false); }
+    void AttachFrontImage() { attach(true); }
+    void AttachBackImage() { attach(false); }
+    void PasteFront() { paste(FrontImage); }
+    void PasteRear() { paste(BackImage); }
+    // The image picker's and document picker's answers.
+    void imageTaken(const QImage& image);
+    void documentPicked(const QString& path);
+    void dismissKeyboard();
+
+protected:
+    // Loads the picker lists, wires the filters and pickers, styles the buttons.
+    void setUpForm();
+    void loadPickerLists();
+    CoinFormTexts formTexts() const;
+    void showTexts(const CoinFormTexts& texts);
+    QFormLayout* form_;
+
+private:
+    void openCamera(bool front);
+    void attach(bool front);
+    void paste(ImageView* view);
+};

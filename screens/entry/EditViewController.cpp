@@ -1,0 +1,182 @@
+#include "screens/entry/EditViewController.h"
+
+#include "platform/Console.h"
+#include "platform/ImageCoding.h"
+#include "platform/Platform.h"
+#include "platform/kit/AlertController.h"
+#include "platform/kit/Appearance.h"
+#include "screens/Application.h"
+#include "screens/ProcessState.h"
+
+#include <QFormLayout>
+#include <QMouseEvent>
+#include <QTimer>
+
+EditViewController::EditViewController(QWidget* parent)
+    : CoinFormViewController(parent)
+    , NotesButton(new QPushButton(QStringLiteral("Notes"), this))
+    , ShareButton(new QPushButton(QStringLiteral("Share"), this))
+    , reviewService([this] {
+        Platform::reviewRequester().requestReview(window());
+        return true;
+    }) {
+    NotesButton->setObjectName(QStringLiteral("NotesButton"));
+    form_->addRow(QString(), NotesButton);
+    connect(SaveButton, &QPushButton::clicked, this, &EditViewController::SaveButtonClicked);
+    connect(FrontRemoveButton, &QPushButton::clicked, this, &EditViewController::RemoveFrontImage);
+    connect(RearRemoveButton, &QPushButton::clicked, this, &EditViewController::RemoveBackImage);
+    connect(NotesButton, &QPushButton::clicked, this,
+            [this] { performSegue(QStringLiteral("Notes")); });
+    connect(ShareButton, &QPushButton::clicked, this, &EditViewController::shareButtonClicked);
+    registerUnwindAction(QStringLiteral("unwindToEdit"), [this](StoryboardSegue&) { fillForm(); });
+}
+
+void EditViewController::viewDidLoad() {
+    setTitle(QStringLiteral("Edit Coin"));
+    fillForm();
+    setUpForm();
+    Styling::round(NotesButton, 10, 2, Qt::black);
+    for (QWidget* w : {static_cast<QWidget*>(FrontImage), static_cast<QWidget*>(BackImage)})
+        Styling::round(w, 5, 1, Qt::black);
+    // Double click on the front picture zooms; a long press on the back picture or the value
+    // looks the coin up; a click elsewhere ends editing.
+    FrontImage->installEventFilter(this);
+    BackImage->installEventFilter(this);
+    ValueTextField->installEventFilter(this);
+    installEventFilter(this);
+    navigationItem().rightItems = {{QStringLiteral("Share"), [this] { shareButtonClicked(); },
+                                    nullptr, QStringLiteral("ShareButton")}};
+    ShareButton->hide();
+    updateNavigationBar();
+    // Asked five seconds after opening; nothing happens if the screen has gone by then.
+    after(5000, [this] { reviewService.requestReview(); });
+}
+
+bool EditViewController::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonDblClick && watched == FrontImage) {
+        TapFrontImage();
+        return true;
+    }
+    if ((watched == BackImage || watched == ValueTextField) &&
+        event->type() == QEvent::MouseButtonPress) {
+        if (!longPress_) {
+            longPress_ = new QTimer(this);
+            longPress_->setSingleShot(true);
+            longPress_->setInterval(1000);
+            connect(longPress_, &QTimer::timeout, this, &EditViewController::checkValue);
+        }
+        longPress_->start();
+    } else if (event->type() == QEvent::MouseButtonRelease && longPress_) {
+        longPress_->stop();
+    } else if (watched == this && event->type() == QEvent::MouseButtonPress) {
+        dismissKeyboard();
+    }
+    return false;
+}
+
+void EditViewController::fillForm() {
+    if (!detailItem)
+        return;
+    showTexts(CoinFormRules::textsFor(*detailItem));
+    FrontImage->setImage(detailItem->hasValue(Coins::Attr::frontImage)
+                             ? ImageCoding::decode(detailItem->frontImage())
+                             : QImage());
+    BackImage->setImage(detailItem->hasValue(Coins::Attr::backImage)
+                            ? ImageCoding::decode(detailItem->backImage())
+                            : QImage());
+}
+
+void EditViewController::SaveButtonClicked() {
+    managedObjectContext = Application::viewContext();
+    FetchRequest request(QStringLiteral("Coins"));
+    // The record saved to is the one whose id the main list noted, whichever list opened us.
+    request.predicate = Predicate::andPredicate(
+        {Predicate::format(QStringLiteral("id = %@"), QString::number(SelectedCoinID))});
+    request.returnsObjectsAsFaults = false;
+    Results = managedObjectContext->fetch<Coins>(request);
+    ResultsCount = int(Results.size());
+    if (ResultsCount > 0) {
+        CoinFormRules::applyEditForm(*Results.first(), formTexts());
+        managedObjectContext->save(); // a failure is dropped, as the screen always did
+    }
+    Console::log(CalledFromList);
+    static const QList<std::pair<QString, QString>> returns = {
+        {"MAINCOINLIST", "unwindToList"},
+        {"DenominationBreakdown", "unwindToDenominationTableView"},
+        {"CountryBreakdown", "unwindToCountryTableView"},
+        {"YearBreakdown", "unwindToYearTableView"}};
+    for (const auto& [origin, unwind] : returns)
+        if (CalledFromList == origin) {
+            performUnwind(unwind);
+            return;
+        }
+}
+
+void EditViewController::removeImage(bool front) {
+    auto* alert = new AlertController(front ? QStringLiteral("Remove Front Coin Image")
+                                            : QStringLiteral("Remove Back Coin Image"),
+                                      QStringLiteral("Do You Want to Remove This Image?"));
+    alert->addAction(QStringLiteral("Yes"), AlertController::ActionStyle::Default, [this, front] {
+        // Found by the values the opening list noted, not by the form's texts.
+        std::vector<Predicate> terms = {
+            Predicate::format(QStringLiteral("denomination = %@"), SelectedDenomination),
+            Predicate::format(QStringLiteral("year = %@"), QString::number(SelectedYear))};
+        if (!SelectedSerialNumber.isEmpty())
+            terms.push_back(
+                Predicate::format(QStringLiteral("serialNumber == %@"), SelectedSerialNumber));
+        else
+            terms.push_back(
+                Predicate::format(QStringLiteral("mintMark == %@"),
+                                  SelectedMintMark.isNull() ? QString("") : SelectedMintMark));
+        FetchRequest request(QStringLiteral("Coins"));
+        request.predicate = Predicate::andPredicate(terms);
+        request.returnsObjectsAsFaults = false;
+        const QList<CoinPtr> found = Application::viewContext()->fetch<Coins>(request);
+        if (found.isEmpty())
+            return;
+        found.first()->setValue(front ? Coins::Attr::frontImage : Coins::Attr::backImage,
+                                QVariant());
+        Application::saveRecord(found.first());
+        (front ? FrontImage : BackImage)->setImage({});
+    });
+    alert->addAction(QStringLiteral("No"), AlertController::ActionStyle::Cancel);
+    present(alert);
+}
+
+void EditViewController::TapFrontImage() {
+    performSegue(QStringLiteral("Zoom"));
+}
+
+QUrl EditViewController::valuationSearchUrl() const {
+    QString text = QStringLiteral("https://duckduckgo.com/?q=") +
+                   QStringLiteral(" how much is a  ") + YearTextField->text() + QLatin1Char(' ') +
+                   DenominationTextField->text() + QStringLiteral(" worth");
+    text.replace(u' ', u'+');
+    text.replace(QStringLiteral("++"), QStringLiteral("+"));
+    return QUrl(text, QUrl::StrictMode);
+}
+
+void EditViewController::checkValue() {
+    const QUrl url = valuationSearchUrl();
+    if (url.isValid())
+        Platform::browser().openInApp(url);
+}
+
+void EditViewController::shareButtonClicked() {
+    if (!Platform::messages().canSendText()) {
+        after(0, [this] {
+            present(AlertController::okAlert(QStringLiteral("Can't Send Text Message"),
+                                             QStringLiteral("Your device is not able to send text "
+                                                            "messages.")));
+        });
+        return;
+    }
+    const QImage shot = grab().toImage();
+    if (!shot.isNull()) {
+        Platform::photoLibrary().save(shot);
+        ScreenShotImage = ImageCoding::decode(ImageCoding::jpeg(shot, 1.0));
+    }
+    ShareItem item;
+    item.image = ScreenShotImage;
+    Platform::shareSheet().present({item}, {}, this);
+}

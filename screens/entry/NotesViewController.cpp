@@ -1,0 +1,51 @@
+#include "screens/entry/NotesViewController.h"
+
+#include "platform/kit/Appearance.h"
+#include "screens/Application.h"
+#include "screens/ProcessState.h"
+#include "screens/entry/CoinFormRules.h"
+
+#include <QVBoxLayout>
+
+NotesViewController::NotesViewController(QWidget* parent)
+    : ViewController(parent)
+    , NotesTextView(new TextView(this))
+    , SaveButton(new QPushButton(QStringLiteral("Save"), this)) {
+    NotesTextView->setObjectName(QStringLiteral("NotesTextView"));
+    SaveButton->setObjectName(QStringLiteral("SaveButton"));
+    SaveButton->setMinimumHeight(44);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 12, 16, 16);
+    layout->addWidget(NotesTextView, 1);
+    layout->addWidget(SaveButton);
+    connect(SaveButton, &QPushButton::clicked, this, &NotesViewController::SaveButtonClicked);
+}
+
+void NotesViewController::viewDidLoad() {
+    setTitle(QStringLiteral("Notes"));
+    Styling::round(NotesTextView, 5, 1, Appearance::isDark() ? Qt::white : Qt::black);
+    Styling::round(SaveButton, 10, 2, Qt::black);
+    NotesTextView->setText(SelectedNotes);
+}
+
+void NotesViewController::SaveButtonClicked() {
+    managedObjectContext = Application::viewContext();
+    FetchRequest request(QStringLiteral("Coins"));
+    // Found by denomination and year only: the first such coin gets the notes.
+    request.predicate = Predicate::andPredicate(
+        {Predicate::format(QStringLiteral("denomination = %@"), SelectedDenomination),
+         Predicate::format(QStringLiteral("year = %@"), QString::number(SelectedYear))});
+    request.returnsObjectsAsFaults = false;
+    StoreError error;
+    const QList<CoinPtr> found = managedObjectContext->fetch<Coins>(request, &error);
+    if (error.code == 0) {
+        Results = found;
+        ResultsCount = int(found.size());
+    }
+    if (ResultsCount >= 1) {
+        Results.first()->setNotes(NotesTextView->text());
+        managedObjectContext->save();
+    }
+    SelectedNotes = CoinFormRules::trimmed(NotesTextView->text());
+    performUnwind(QStringLiteral("unwindToEdit"));
+}

@@ -1,0 +1,198 @@
+#include "screens/list/MainListTableViewController.h"
+
+#include "platform/Console.h"
+#include "platform/Fatal.h"
+#include "platform/ImageCoding.h"
+#include "platform/kit/Appearance.h"
+#include "screens/Application.h"
+#include "screens/DetailReceiver.h"
+#include "screens/ProcessState.h"
+#include "screens/list/MainListSorting.h"
+#include "screens/list/MainListTableViewCell.h"
+
+#include <QVBoxLayout>
+
+MainListTableViewController::MainListTableViewController(QWidget* parent)
+    : ViewController(parent)
+    , searchController(new SearchController(this))
+    , tableView(new TableView(this))
+    , sortMenu(new QMenu(QStringLiteral("..."), this)) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(tableView);
+    tableView->registerCell(QStringLiteral("Cell"), [] { return new MainListTableViewCell; });
+    registerUnwindAction(QStringLiteral("unwindToList"),
+                         [this](StoryboardSegue&) { fetchCoins(); });
+}
+
+void MainListTableViewController::viewDidLoad() {
+    setTitle(QStringLiteral("Coins"));
+    searchController->searchResultsUpdater = [this](SearchController* s) {
+        updateSearchResults(s);
+    };
+    searchController->obscuresBackgroundDuringPresentation = false;
+    searchController->hidesNavigationBarDuringPresentation = false;
+    searchController->setPlaceholderText(QStringLiteral("Search by Denomination"));
+    tableView->setTableHeaderView(searchController);
+    ZoomImages.clear();
+    SortAsc = true;
+    tableView->setDataSource(this);
+    fetchCoins();
+    CalledFromList = QStringLiteral("MAINCOINLIST");
+    DarkMode = Appearance::isDark();
+    for (const SortChoice& choice : MainListSorting::choices()) {
+        const QString title = choice.menuTitle;
+        sortMenu->addAction(title, this, [this, title] { chooseSort(title); });
+    }
+    navigationItem().rightItems = {
+        {QStringLiteral("+"), [this] { performSegue(QStringLiteral("AddCoin")); }, nullptr,
+         QStringLiteral("AddButton")},
+        {QStringLiteral("Sort by"), {}, sortMenu, QStringLiteral("SortButton")}};
+    updateNavigationBar();
+}
+
+void MainListTableViewController::viewDidAppear(bool) {
+    CalledFromList = QStringLiteral("MAINCOINLIST");
+}
+void MainListTableViewController::viewWillDisappear(bool) {
+    searchController->dismiss(false);
+}
+void MainListTableViewController::viewDidDisappear(bool) {
+    searchController->setActive(false);
+}
+
+void MainListTableViewController::chooseSort(const QString& menuTitle) {
+    for (const SortChoice& choice : MainListSorting::choices()) {
+        if (choice.menuTitle != menuTitle)
+            continue;
+        Console::print(choice.consoleLine);
+        SortName = choice.sortName;
+        searchController->setPlaceholderText(choice.placeholder);
+        fetchCoins();
+    }
+}
+
+void MainListTableViewController::fetchCoins() {
+    CoinList.clear();
+    FilteredCoinList.clear();
+    if (!SortAsc)
+        fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value"),
+                   "Pelvane/MainListTableViewController", __LINE__);
+    // This fetch sorts in the direction held so far and leaves the opposite for the next one:
+    // the first display is in store order, the first sort descends, and every later fetch
+    // (another choice, or the return from the edit screen) reverses.
+    const bool ascending = *SortAsc;
+    SortAsc = !*SortAsc;
+    managedObjectContext = Application::viewContext();
+    FetchRequest request(QStringLiteral("Coins"));
+    request.returnsObjectsAsFaults = false;
+    if (const SortChoice* choice = MainListSorting::choiceFor(SortName.value_or(QString())))
+        request.sortDescriptors = {{choice->key, ascending}};
+    StoreError error;
+    const QList<CoinPtr> fetched = managedObjectContext->fetch<Coins>(request, &error);
+    if (fetched.isEmpty() && error.code != 0)
+        Console::print(QStringLiteral("Could not fetch. %1").arg(error.description()));
+    CoinCount = 0;
+    for (const CoinPtr& coin : fetched) {
+        CoinList.append(coin);
+        const int sum = int(CoinCount) + coin->quantity();
+        if (sum > 32767 || sum < -32768)
+            fatalError(QStringLiteral("Arithmetic overflow"), "Pelvane/MainListTableViewController",
+                       __LINE__);
+        CoinCount = qint16(sum);
+    }
+    tableView->reloadData();
+}
+
+void MainListTableViewController::updateSearchResults(SearchController* search) {
+    FilteredCoinList =
+        MainListSorting::filter(CoinList, SortName.value_or(QString()), search->text());
+    tableView->reloadData();
+}
+
+bool MainListTableViewController::searching() const {
+    return searchController->isActive() && !searchController->text().isEmpty();
+}
+
+const QList<CoinPtr>& MainListTableViewController::listInUse() const {
+    return searching() ? FilteredCoinList : CoinList;
+}
+
+int MainListTableViewController::numberOfRows(TableView*, int) {
+    return int(listInUse().size());
+}
+
+QString MainListTableViewController::titleForHeader(TableView*, int) {
+    return QStringLiteral("# Coins = %1 of %2").arg(listInUse().size()).arg(CoinList.size());
+}
+
+TableViewCell* MainListTableViewController::cellForRow(TableView* table, IndexPath path) {
+    auto* cell = static_cast<MainListTableViewCell*>(table->dequeueReusableCell("Cell"));
+    const Coins& coin = *listInUse().at(path.row);
+    cell->setDarkMode(DarkMode);
+    // Pictures are decoded only for the rows being drawn.
+    cell->FrontImage->setImage(
+        coin.hasValue(Coins::Attr::frontImage) ? ImageCoding::decode(coin.frontImage()) : QImage());
+    cell->DenominationLabel->setText(coin.denomination());
+    cell->Label2->setText(MainListSorting::yearLine(coin));
+    Qty = MainListSorting::shownQuantity(coin);
+    cell->Label3->setText(MainListSorting::quantityLine(coin));
+    cell->Label4->setText(MainListSorting::valueLine(coin));
+    cell->CountryLabel->setText(coin.country());
+    return cell;
+}
+
+void MainListTableViewController::didSelectRow(TableView* table, IndexPath path) {
+    const CoinPtr coin = listInUse().at(path.row);
+    SelectedCountry = coin->country();
+    SelectedDenomination = coin->denomination();
+    SelectedDescription = coin->descrip();
+    SelectedDesigner = coin->designer();
+    SelectedEdge = coin->edge();
+    SelectedGrade = coin->gradeNumber();
+    SelectedMintLocation = coin->mintLocation();
+    SelectedMintMark = coin->mintMark();
+    SelectedNotes = coin->notes();
+    SelectedPeriod = coin->period();
+    SelectedSerialNumber = coin->serialNumber();
+    SelectedStrikeCharacter = coin->strikeCharacter();
+    SelectedDiameter = coin->diameter();
+    SelectedThickness = coin->thickness();
+    SelectedWeight = coin->weight();
+    SelectedValue = coin->value();
+    SelectedTotalValue = coin->totalValue();
+    SelectedQuantity = coin->quantity();
+    SelectedYear = coin->year();
+    if (!QString::number(coin->id()).isEmpty())
+        SelectedCoinID = coin->id();
+    ShareFrontImageData = coin->frontImage();
+    ShareBackImageData = coin->backImage();
+    ZoomImages.clear();
+    if (coin->hasValue(Coins::Attr::frontImage))
+        ZoomImages.append(ImageCoding::decode(coin->frontImage()));
+    if (coin->hasValue(Coins::Attr::backImage))
+        ZoomImages.append(ImageCoding::decode(coin->backImage()));
+    table->deselectRow(path);
+    tapped_ = coin;
+    if (Storyboard::hasSegue(QStringLiteral("showDetails")))
+        performSegue(QStringLiteral("showDetails"), this);
+}
+
+void MainListTableViewController::prepareForSegue(StoryboardSegue& segue, QObject*) {
+    if (segue.identifier == QLatin1String("showDetails")) {
+        CalledFromList = QStringLiteral("MAINCOINLIST");
+        if (auto* receiver = dynamic_cast<DetailReceiver*>(segue.destination))
+            receiver->setDetailItem(tapped_);
+    }
+}
+
+QList<SwipeAction> MainListTableViewController::trailingSwipeActions(TableView*, IndexPath) {
+    return {{QStringLiteral("delete"), true, [this](IndexPath p) {
+                 QList<CoinPtr>& list = searching() ? FilteredCoinList : CoinList;
+                 const CoinPtr coin = list.at(p.row);
+                 Application::viewContext()->deleteObject(coin);
+                 Application::delegate().saveContext();
+                 list.removeAt(p.row);
+                 tableView->deleteRows({p});
+             }}};
+}

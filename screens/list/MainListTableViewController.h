@@ -1,0 +1,53 @@
+#pragma once
+// Every coin of the collection, with a sort menu, a search field whose meaning follows the sort,
+// a count header, swipe-to-delete, and a tap that opens the edit screen.
+#include "model/Records.h"
+#include "platform/kit/SearchController.h"
+#include "platform/kit/TableView.h"
+#include "platform/kit/ViewController.h"
+
+#include <QMenu>
+#include <optional>
+
+class MainListTableViewController : public ViewController, public TableViewDataSource {
+    Q_OBJECT
+public:
+    explicit MainListTableViewController(QWidget* parent = nullptr);
+
+    void viewDidLoad() override;
+    void viewDidAppear(bool animated) override;
+    void viewWillDisappear(bool animated) override;
+    void viewDidDisappear(bool animated) override;
+    void prepareForSegue(StoryboardSegue& segue, QObject* sender) override;
+
+    // Refetches; every fetch flips the direction first, so the same sort twice reverses it.
+    void fetchCoins();
+    // One of the five sort choices, by its menu title ("By Name", ...).
+    void chooseSort(const QString& menuTitle);
+    void updateSearchResults(SearchController* search);
+
+    int numberOfRows(TableView*, int section) override;
+    TableViewCell* cellForRow(TableView* table, IndexPath path) override;
+    int heightForRow(TableView*, IndexPath) override { return 100; }
+    QString titleForHeader(TableView*, int section) override;
+    void didSelectRow(TableView* table, IndexPath path) override;
+    QList<SwipeAction> trailingSwipeActions(TableView* table, IndexPath path) override;
+
+    QList<CoinPtr> CoinList;
+    QList<CoinPtr> FilteredCoinList;
+    std::optional<QString> SortName;
+    std::optional<bool> SortAsc;
+    qint16 CoinCount = 0;
+    qint16 Qty = 0;
+    bool DarkMode = false;
+    SearchController* searchController;
+    TableView* tableView;
+    QMenu* sortMenu;
+    ManagedObjectContext* context = nullptr;
+    ManagedObjectContext* managedObjectContext = nullptr;
+
+private:
+    bool searching() const;
+    const QList<CoinPtr>& listInUse() const;
+    CoinPtr tapped_;
+};

@@ -1,0 +1,50 @@
+#pragma once
+// A running program on the offscreen platform: delegate, storyboard, fakes, menu in a window.
+#include "AppFixture.h"
+#include "app/Storyboard.h"
+#include "platform/fakes/Fakes.h"
+#include "platform/kit/AlertController.h"
+#include "platform/kit/NavigationController.h"
+#include "platform/kit/Window.h"
+#include "screens/menu/MainMenuViewController.h"
+
+#include <QApplication>
+#include <QTest>
+
+class ScreenTest : public AppTest {
+protected:
+    void SetUp() override {
+        AppTest::SetUp();
+        fakes = Fakes::install();
+        AppStoryboard::install();
+        menu = new MainMenuViewController;
+        window = std::make_unique<Window>(menu);
+        window->show();
+    }
+    void TearDown() override {
+        if (auto* a = AlertController::current())
+            a->triggerAction(a->actionTitles().value(0));
+        window.reset();
+        QApplication::processEvents();
+        Platform::reset();
+        AppTest::TearDown();
+    }
+    ViewController* top() { return window->navigationController()->topViewController(); }
+    template <typename T> T* topAs() { return dynamic_cast<T*>(top()); }
+    CoinPtr addCoin(const QString& denomination, int year, int quantity = 1, float value = 1,
+                    const QString& country = QStringLiteral("Canada"),
+                    const QString& mintMark = QStringLiteral("P")) {
+        auto c = ctx().insert<Coins>();
+        c->setDenomination(denomination);
+        c->setYear(qint16(year));
+        c->setQuantity(qint16(quantity));
+        c->setValue(value);
+        c->setCountry(country);
+        c->setMintMark(mintMark);
+        EXPECT_FALSE(ctx().save().has_value());
+        return c;
+    }
+    Fakes fakes{};
+    MainMenuViewController* menu = nullptr;
+    std::unique_ptr<Window> window;
+};
