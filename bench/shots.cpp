@@ -9,7 +9,14 @@
 #include "platform/kit/Appearance.h"
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/Window.h"
+#include "screens/entry/AddViewController.h"
+#include "screens/entry/EditViewController.h"
+#include "screens/entry/ZoomViewController.h"
+#include "screens/list/MainListTableViewController.h"
 #include "screens/menu/MainMenuViewController.h"
+
+#include <QFocusEvent>
+#include <QPainter>
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -69,5 +76,52 @@ int main(int argc, char** argv) {
     window.grab().save(out + "/export-built" + suffix + ".png");
     settle(1000);
     window.grab().save(out + "/export-alert" + suffix + ".png");
+    AlertController::current()->triggerAction("OK");
+    nav->popToRootViewController(false);
+
+    auto shot = [&](const char* name) {
+        settle(150);
+        window.grab().save(out + "/" + name + suffix + ".png");
+    };
+    menu->performSegue("ListCoins");
+    auto* list = static_cast<MainListTableViewController*>(nav->topViewController());
+    list->chooseSort("By Year");
+    shot("list");
+    list->chooseSort("By Name");
+    list->searchController->setText("Cent");
+    shot("list-search");
+    list->searchController->clear();
+
+    list->performSegue("AddCoin");
+    auto* add = static_cast<AddViewController*>(nav->topViewController());
+    add->DenominationTextField->setText("Half Dollar");
+    add->YearTextField->setText("1964");
+    QFocusEvent focus(QEvent::FocusIn, Qt::MouseFocusReason);
+    QApplication::sendEvent(add->GradeNumberTextField, &focus);
+    {
+        // The picker is a popup window of its own: drawn onto the grab where it stands.
+        settle(150);
+        QPixmap composed = window.grab();
+        QPainter painter(&composed);
+        painter.drawPixmap(add->GradePickerView->pos() - window.mapToGlobal(QPoint(0, 0)),
+                           add->GradePickerView->grab());
+        painter.end();
+        composed.save(out + "/add-picker" + suffix + ".png");
+    }
+    add->GradePickerView->close();
+    nav->popViewController(false);
+
+    list->tableView->selectRow({0, 0});
+    auto* edit = static_cast<EditViewController*>(nav->topViewController());
+    shot("edit");
+    edit->NotesButton->click();
+    shot("notes");
+    nav->popViewController(false);
+    edit->TapFrontImage();
+    static_cast<ZoomViewController*>(nav->topViewController())->pinchedView(1.3);
+    shot("zoom");
+    nav->popToRootViewController(false);
+    menu->performSegue("RateShare");
+    shot("rate-share");
     return 0;
 }

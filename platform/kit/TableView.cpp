@@ -2,6 +2,7 @@
 
 #include <QAbstractListModel>
 #include <QApplication>
+#include <QLabel>
 #include <QLayout>
 #include <QMenu>
 #include <QMouseEvent>
@@ -46,7 +47,9 @@ public:
                 sec.start = total_;
                 sec.headerTitle = s->titleForHeader(table_, i);
                 sec.footerTitle = s->titleForFooter(table_, i);
-                sec.header = !sec.headerTitle.isEmpty();
+                // A lone section's header stands above the list, as a plain table's floating
+                // header does; it also keeps the rows of uniform height.
+                sec.header = !sec.headerTitle.isEmpty() && n > 1;
                 sec.footer = !sec.footerTitle.isEmpty();
                 sec.rows = s->numberOfRows(table_, i);
                 total_ += sec.rows + int(sec.header) + int(sec.footer);
@@ -148,10 +151,17 @@ public:
             cell->show(); // activates its layout; it never reaches the screen
         if (cell->layout())
             cell->layout()->activate();
+        // Rendered through a pixmap: rendering a widget straight onto the painter of another
+        // widget's paint event picks up that widget's offset in the window a second time.
+        const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+        QPixmap image(r.size() * ratio);
+        image.setDevicePixelRatio(ratio);
+        image.fill(Qt::transparent);
+        cell->render(&image, QPoint(), QRegion(),
+                     QWidget::DrawWindowBackground | QWidget::DrawChildren);
         painter->save();
         painter->setClipRect(QRect(r.left(), r.top(), r.width() - shift, r.height()));
-        cell->render(painter, QPoint(r.left() - shift, r.top()), QRegion(),
-                     QWidget::DrawWindowBackground | QWidget::DrawChildren);
+        painter->drawPixmap(r.left() - shift, r.top(), image);
         painter->restore();
     }
 
@@ -251,10 +261,15 @@ private:
 TableView::TableView(QWidget* parent)
     : QWidget(parent)
     , layout_(new QVBoxLayout(this))
+    , sectionHeader_(new QLabel(this))
     , list_(new QListView(this))
     , model_(new TableModel(this)) {
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setSpacing(0);
+    sectionHeader_->setAlignment(Qt::AlignCenter);
+    sectionHeader_->setFixedHeight(kHeaderHeight);
+    sectionHeader_->hide();
+    layout_->addWidget(sectionHeader_);
     layout_->addWidget(list_, 1);
     list_->setModel(model_);
     list_->setItemDelegate(new TableDelegate(this));
@@ -278,6 +293,15 @@ void TableView::setDataSource(TableViewDataSource* source) {
 void TableView::reloadData() {
     revealed_ = -1;
     model_->rebuild();
+    const bool floating =
+        model_->sections_.size() == 1 && !model_->sections_.front().headerTitle.isEmpty();
+    sectionHeader_->setVisible(floating);
+    if (floating) {
+        QFont f = sectionHeader_->font();
+        f.setPointSizeF(headerPoints_);
+        sectionHeader_->setFont(f);
+        sectionHeader_->setText(model_->sections_.front().headerTitle);
+    }
     list_->viewport()->update();
 }
 

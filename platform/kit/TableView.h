@@ -94,6 +94,7 @@ private:
     TableViewDataSource* source_ = nullptr;
     QVBoxLayout* layout_;
     QWidget* header_ = nullptr;
+    class QLabel* sectionHeader_;
     QListView* list_;
     class TableModel* model_;
     QHash<QString, std::function<TableViewCell*()>> factories_;

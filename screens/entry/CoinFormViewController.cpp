@@ -144,6 +144,9 @@ void CoinFormViewController::setUpForm() {
          {FrontCameraButton, FrontFolderButton, FrontRemoveButton, FrontPasteButton,
           RearCameraButton, RearFolderButton, RearRemoveButton, RearPasteButton, SaveButton})
         Styling::round(b, 10, 2, Qt::black);
+    // The empty picture slots show as frames.
+    for (ImageView* v : {FrontImage, BackImage})
+        Styling::round(v, 5, 1, Appearance::isDark() ? Qt::white : Qt::black);
 }
 
 void CoinFormViewController::loadPickerLists() {

@@ -36,8 +36,6 @@ void EditViewController::viewDidLoad() {
     fillForm();
     setUpForm();
     Styling::round(NotesButton, 10, 2, Qt::black);
-    for (QWidget* w : {static_cast<QWidget*>(FrontImage), static_cast<QWidget*>(BackImage)})
-        Styling::round(w, 5, 1, Qt::black);
     // Double click on the front picture zooms; a long press on the back picture or the value
     // looks the coin up; a click elsewhere ends editing.
     FrontImage->installEventFilter(this);

@@ -57,7 +57,9 @@ int ZoomViewController::numberOfItems() const {
 void ZoomViewController::layoutCells() {
     // Square items of side (width - 20) / 1.1, one under the other.
     const int side = int((width() - 20.0) / 1.1);
-    ZoomCollectionView->resize(width(), int(cells.size()) * (side + 10) + 10);
+    // The list covers the whole screen, so a grown or moved picture is clipped by the screen
+    // only.
+    ZoomCollectionView->setGeometry(rect());
     for (int i = 0; i < cells.size(); ++i)
         cells[i]->setGeometry((width() - side) / 2, 10 + i * (side + 10), side, side);
     // The gestures' transform acts on the whole list.
