@@ -45,7 +45,7 @@ const QStringList& dataColumns(const EntityDescription& e) {
 
 // The statements the context uses, per entity, built once.
 struct WriteSql {
-    QString select, insert, insertData, update, remove, removeData, loadData;
+    QString select, selectKeys, selectRow, insert, insertData, update, remove, removeData, loadData;
 };
 
 const WriteSql& writeSql(const EntityDescription& e) {
@@ -60,6 +60,9 @@ const WriteSql& writeSql(const EntityDescription& e) {
             WriteSql w;
             w.select = QStringLiteral("SELECT pk,%1 FROM %2 WHERE ")
                            .arg(cols.join(u','), quoted(entity->name));
+            w.selectKeys = QStringLiteral("SELECT pk FROM %1 WHERE ").arg(quoted(entity->name));
+            w.selectRow = QStringLiteral("SELECT pk,%1 FROM %2 WHERE pk=?")
+                              .arg(cols.join(u','), quoted(entity->name));
             w.insert = QStringLiteral("INSERT INTO %1 (%2) VALUES (?%3)")
                            .arg(quoted(entity->name), cols.join(u','),
                                 QStringLiteral(",?").repeated(cols.size() - 1));
@@ -322,13 +325,17 @@ void ManagedObjectContext::loadData(ManagedObject& o) {
     st.reset();
 }
 
+ObjectPtr ManagedObjectContext::liveObject(const EntityDescription& e, qint64 rowId) const {
+    const auto& map = identity_[std::size_t(e.index)];
+    auto it = map.find(rowId);
+    return it != map.end() ? it->lock() : nullptr;
+}
+
 ObjectPtr ManagedObjectContext::objectForRow(const EntityDescription& e, qint64 rowId,
                                              SqliteStatement& row) {
+    if (ObjectPtr live = liveObject(e, rowId))
+        return live;
     auto& map = identity_[std::size_t(e.index)];
-    auto it = map.find(rowId);
-    if (it != map.end())
-        if (ObjectPtr live = it->lock())
-            return live;
     ObjectPtr o = makeObject(e);
     o->context_ = this;
     o->rowId_ = rowId;
@@ -393,8 +400,13 @@ QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreE
 
     QVariantList binds;
     const QString where = request.predicate.sql(e, binds);
-    SqliteStatement& st =
-        db_->cached(writeSql(e).select + where + QLatin1String(" ORDER BY ") + order.join(u','));
+    // Once many objects of the entity are in memory (a long list sorted again), the row ids
+    // alone are read, in order, often from an index only; rows not in memory yet are read one
+    // by one.
+    const bool keysFirst = identity_[std::size_t(e.index)].size() >= kKeysFirstThreshold;
+    const WriteSql& w = writeSql(e);
+    SqliteStatement& st = db_->cached((keysFirst ? w.selectKeys : w.select) + where +
+                                      QLatin1String(" ORDER BY ") + order.join(u','));
     if (!st.isValid()) {
         if (error)
             *error = lastError();
@@ -415,7 +427,17 @@ QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreE
     QList<ObjectPtr> result;
     int rc;
     while ((rc = st.step()) == SQLITE_ROW) {
-        ObjectPtr o = objectForRow(e, st.columnInt(0), st);
+        const qint64 rowId = st.columnInt(0);
+        ObjectPtr o = keysFirst ? liveObject(e, rowId) : objectForRow(e, rowId, st);
+        if (!o) {
+            SqliteStatement& row = db_->cached(w.selectRow);
+            row.bind(1, rowId);
+            if (row.step() == SQLITE_ROW)
+                o = objectForRow(e, rowId, row);
+            row.reset();
+            if (!o)
+                continue;
+        }
         if (o->isDeleted() || (!inMemory.isEmpty() && inMemory.contains(o.get())))
             continue;
         result.append(std::move(o));

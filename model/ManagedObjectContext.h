@@ -45,7 +45,11 @@ public:
     }
     int count(const FetchRequest& request, StoreError* error = nullptr);
 
+    // From this many objects of an entity in memory on, fetches read row ids first.
+    static constexpr qsizetype kKeysFirstThreshold = 1024;
+
 private:
+    ObjectPtr liveObject(const EntityDescription& entity, qint64 rowId) const;
     friend class ManagedObject;
     void noteChange(ManagedObject& object, int attribute);
     void loadData(ManagedObject& object);

@@ -27,5 +27,6 @@ void SearchController::dismiss(bool) {
 
 void SearchController::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    active_ = true;
+    if (!active_)
+        setActive(true); // the updater hears of the search starting, before any keystroke
 }

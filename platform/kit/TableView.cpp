@@ -126,6 +126,7 @@ public:
             painter->restore();
             return;
         }
+        ++table_->cellsRequested_;
         TableViewCell* cell = source->cellForRow(table_, {section, row});
         if (!cell)
             return;

@@ -70,6 +70,8 @@ public:
     int numberOfRows(int section) const;
     // The title drawn above/below a section, as the data source gave it at the last reload.
     QString headerTitle(int section) const;
+    // How many cells the data source was asked for so far: one per row drawn.
+    int cellsRequested() const { return cellsRequested_; }
     QString footerTitle(int section) const;
     void deselectRow(IndexPath, bool animated = true);
     void selectRow(IndexPath path); // as a tap does
@@ -101,4 +103,5 @@ private:
     QHash<QString, TableViewCell*> reusable_;
     qreal headerPoints_ = 13;
     int revealed_ = -1;
+    int cellsRequested_ = 0;
 };

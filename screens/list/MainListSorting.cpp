@@ -25,43 +25,70 @@ const SortChoice* choiceFor(const QString& sortName) {
     return nullptr;
 }
 
+SearchIndex searchIndex(const QList<CoinPtr>& all, const QString& sortName) {
+    SearchIndex index;
+    index.sorted = choiceFor(sortName) != nullptr;
+    if (!index.sorted)
+        return index;
+    enum { Name, Country, Year, Qty, Value } key = Value;
+    if (sortName == QLatin1String("Name"))
+        key = Name;
+    else if (sortName == QLatin1String("Country"))
+        key = Country;
+    else if (sortName == QLatin1String("Year"))
+        key = Year;
+    else if (sortName == QLatin1String("Qty"))
+        key = Qty;
+    index.textKey = key == Name || key == Country;
+    index.keys.reserve(all.size());
+    for (const CoinPtr& coin : all) {
+        switch (key) {
+        case Name:
+            index.keys.append(coin->denomination().toLower());
+            break;
+        case Country: {
+            index.missingCountry |= !coin->hasValue(Coins::Attr::country);
+            const QString country = coin->country();
+            index.keys.append(country.isEmpty() ? QString() : country.toLower());
+            break;
+        }
+        case Year:
+            index.keys.append(QString::number(coin->year()));
+            break;
+        case Qty:
+            index.keys.append(QString::number(coin->quantity()));
+            break;
+        case Value:
+            index.keys.append(Numbers::formatFloat(coin->value()));
+            break;
+        }
+    }
+    return index;
+}
+
+QList<CoinPtr> filter(const QList<CoinPtr>& all, const SearchIndex& index, const QString& text) {
+    if (text.isEmpty())
+        return all;
+    if (!index.sorted)
+        return {};
+    // Read as required: a coin without a country cannot be searched by country.
+    if (index.missingCountry)
+        fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value"),
+                   "Pelvane/MainListTableViewController", __LINE__);
+    const QString wanted = index.textKey ? text.toLower() : text;
+    QList<CoinPtr> kept;
+    for (qsizetype i = 0; i < all.size(); ++i) {
+        const QString& key = index.keys.at(i);
+        if (!key.isNull() && key.contains(wanted))
+            kept.append(all.at(i));
+    }
+    return kept;
+}
+
 QList<CoinPtr> filter(const QList<CoinPtr>& all, const QString& sortName, const QString& text) {
     if (text.isEmpty())
         return all;
-    const SortChoice* choice = choiceFor(sortName);
-    if (!choice)
-        return {};
-    const QString lowered = text.toLower();
-    QList<CoinPtr> kept;
-    for (const CoinPtr& coin : all) {
-        QString key;
-        bool textKey = false;
-        if (sortName == QLatin1String("Name")) {
-            key = coin->denomination();
-            textKey = true;
-        } else if (sortName == QLatin1String("Country")) {
-            // Read as required: a coin without a country cannot be searched by country.
-            if (!coin->hasValue(Coins::Attr::country))
-                fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional "
-                                          "value"),
-                           "Pelvane/MainListTableViewController", __LINE__);
-            key = coin->country();
-            if (key.isEmpty())
-                continue;
-            textKey = true;
-        } else if (sortName == QLatin1String("Year")) {
-            key = QString::number(coin->year());
-        } else if (sortName == QLatin1String("Qty")) {
-            key = QString::number(coin->quantity());
-        } else {
-            key = Numbers::formatFloat(coin->value());
-        }
-        if (!textKey && key.isEmpty())
-            continue;
-        if (textKey ? key.toLower().contains(lowered) : key.contains(text))
-            kept.append(coin);
-    }
-    return kept;
+    return filter(all, searchIndex(all, sortName), text);
 }
 
 QString yearLine(const Coins& coin) {

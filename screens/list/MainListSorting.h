@@ -24,6 +24,17 @@ const SortChoice* choiceFor(const QString& sortName);
 // A coin without a country is a fatal error when searching by country.
 QList<CoinPtr> filter(const QList<CoinPtr>& all, const QString& sortName, const QString& text);
 
+// The key texts of a list for one sort, worked out once so that each keystroke of a search
+// only compares texts: lower-cased for the text keys, null for a coin the search skips.
+struct SearchIndex {
+    bool sorted = false; // a sort name was chosen
+    bool textKey = false;
+    bool missingCountry = false; // a coin has no country: searching by country is fatal
+    QStringList keys;            // one per coin of the list, in order
+};
+SearchIndex searchIndex(const QList<CoinPtr>& all, const QString& sortName);
+QList<CoinPtr> filter(const QList<CoinPtr>& all, const SearchIndex& index, const QString& text);
+
 // Row texts of the list cell.
 QString yearLine(const Coins& coin);     // "Year: 1965  Mint Mark: P"
 qint16 shownQuantity(const Coins& coin); // a quantity of 0 counts as one coin

@@ -73,7 +73,10 @@ void MainListTableViewController::chooseSort(const QString& menuTitle) {
 }
 
 void MainListTableViewController::fetchCoins() {
-    CoinList.clear();
+    searchIndex_.reset();
+    // The coins shown so far stay alive until the new fetch has them: a re-sort then finds
+    // them in memory instead of reading and building 30,000 objects again.
+    const QList<CoinPtr> shown = std::exchange(CoinList, {});
     FilteredCoinList.clear();
     if (!SortAsc)
         fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value"),
@@ -105,8 +108,12 @@ void MainListTableViewController::fetchCoins() {
 }
 
 void MainListTableViewController::updateSearchResults(SearchController* search) {
+    const QString text = search->text();
+    // The key texts are made as the search starts, so that keystrokes only compare.
+    if ((search->isActive() || !text.isEmpty()) && !searchIndex_)
+        searchIndex_ = MainListSorting::searchIndex(CoinList, SortName.value_or(QString()));
     FilteredCoinList =
-        MainListSorting::filter(CoinList, SortName.value_or(QString()), search->text());
+        text.isEmpty() ? CoinList : MainListSorting::filter(CoinList, *searchIndex_, text);
     tableView->reloadData();
 }
 
@@ -193,6 +200,7 @@ QList<SwipeAction> MainListTableViewController::trailingSwipeActions(TableView*,
                  Application::viewContext()->deleteObject(coin);
                  Application::delegate().saveContext();
                  list.removeAt(p.row);
+                 searchIndex_.reset();
                  tableView->deleteRows({p});
              }}};
 }

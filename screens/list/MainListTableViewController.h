@@ -5,6 +5,7 @@
 #include "platform/kit/SearchController.h"
 #include "platform/kit/TableView.h"
 #include "platform/kit/ViewController.h"
+#include "screens/list/MainListSorting.h"
 
 #include <QMenu>
 #include <optional>
@@ -50,4 +51,7 @@ private:
     bool searching() const;
     const QList<CoinPtr>& listInUse() const;
     CoinPtr tapped_;
+    // The key texts of CoinList for the current sort, made at the first keystroke after a
+    // fetch.
+    std::optional<MainListSorting::SearchIndex> searchIndex_;
 };

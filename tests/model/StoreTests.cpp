@@ -181,3 +181,45 @@ TEST(PredicateDeathTest, UnknownFormatIsFatal) {
     EXPECT_DEATH(Predicate::format(QStringLiteral("year > %@"), QVariant(1)), "Fatal error");
     EXPECT_DEATH(Predicate::format(QStringLiteral("year == %@"), QVariantList{}), "Fatal error");
 }
+
+// With a long list in memory, fetches read row ids first; the answers must be the same as
+// from whole rows, pending changes included, and rows not yet in memory still arrive.
+TEST_F(StoreTest, FetchesWithManyObjectsInMemoryAgreeWithAFreshStore) {
+    const int n = int(ManagedObjectContext::kKeysFirstThreshold) + 200;
+    for (int i = 0; i < n; ++i)
+        coin(i % 3 ? "Canada" : "Peru", QStringLiteral("D%1").arg(i % 17), 1900 + i % 50, "P",
+             i % 4, float(i % 23));
+    ASSERT_FALSE(ctx().save());
+    const auto byValue = [&](const Predicate& p) {
+        return fetch(p, {{"value", false}, {"year", true}});
+    };
+    const QList<CoinPtr> expected = byValue(eq("country == %@", "Peru")); // from whole rows
+    QStringList expectedKeys;
+    for (const auto& c : expected)
+        expectedKeys
+            << QStringLiteral("%1/%2/%3").arg(c->value()).arg(c->year()).arg(c->denomination());
+
+    reopen();
+    QList<CoinPtr> held = fetch(); // every coin in memory but a few
+    ASSERT_EQ(held.size(), n);
+    held.erase(held.begin(), held.begin() + 30);
+    const QList<CoinPtr> again = byValue(eq("country == %@", "Peru"));
+    QStringList keys;
+    for (const auto& c : again)
+        keys << QStringLiteral("%1/%2/%3").arg(c->value()).arg(c->year()).arg(c->denomination());
+    EXPECT_EQ(keys, expectedKeys);
+    EXPECT_EQ(again.first(), fetch(eq("country == %@", "Peru"), {{"value", false}, {"year", true}})
+                                 .first()); // the same objects
+
+    // Pending changes: an update moves a coin, an insert joins, a deletion leaves.
+    CoinPtr top = again.first();
+    top->setValue(-1);
+    auto extra = coin("Peru", "New", 2000, "P", 1, 99);
+    ctx().deleteObject(again.at(1));
+    const QList<CoinPtr> merged = byValue(eq("country == %@", "Peru"));
+    EXPECT_EQ(merged.size(), again.size());
+    EXPECT_EQ(merged.first(), extra);
+    EXPECT_EQ(merged.last(), top);
+    EXPECT_FALSE(merged.contains(again.at(1)));
+    EXPECT_EQ(fetch(eq("value == %@", "-1")).size(), 1);
+}

@@ -5,6 +5,8 @@
 #include "screens/list/MainListTableViewCell.h"
 #include "screens/list/MainListTableViewController.h"
 
+#include <QFocusEvent>
+
 namespace {
 QStringList names(const QList<CoinPtr>& coins) {
     QStringList out;
@@ -90,4 +92,35 @@ TEST_F(ScreenTest, RowTapFillsTheCurrentCoinAndOpensTheEditScreen) {
     EXPECT_EQ(top(), list);
     EXPECT_EQ(c->denomination(), "Wheat Cent");
     EXPECT_EQ(*list->SortAsc, true); // the return fetched again
+}
+
+TEST_F(ScreenTest, OnlyTheVisibleRowsAreDrawnAndASortKeepsTheCoinsInMemory) {
+    const QByteArray picture = ImageCoding::coinPictureData(QImage(50, 50, QImage::Format_RGB32));
+    for (int i = 0; i < 300; ++i) {
+        auto c = ctx().insert<Coins>();
+        c->setDenomination(QStringLiteral("Coin %1").arg(i));
+        c->setYear(qint16(1900 + i % 100));
+        c->setFrontImage(picture);
+    }
+    ASSERT_FALSE(ctx().save());
+    menu->performSegue("ListCoins");
+    auto* list = topAs<MainListTableViewController>();
+    QApplication::processEvents();
+    window->repaint();
+    const int drawn = list->tableView->cellsRequested();
+    EXPECT_GT(drawn, 0);
+    EXPECT_LE(drawn, 20); // a 844-point window holds about eight rows of 100
+
+    const CoinPtr first = list->CoinList.first();
+    list->chooseSort("By Year");
+    EXPECT_TRUE(list->CoinList.contains(first)); // the same object, not a copy read again
+    EXPECT_EQ(list->CoinList.first()->year(), 1999);
+
+    // The search starts when its field takes focus; every keystroke then filters.
+    QFocusEvent focus(QEvent::FocusIn, Qt::MouseFocusReason);
+    QApplication::sendEvent(list->searchController, &focus);
+    EXPECT_TRUE(list->searchController->isActive());
+    QTest::keyClicks(list->searchController, "199");
+    EXPECT_EQ(list->FilteredCoinList.size(), 30); // 1990 to 1999, three times each
+    EXPECT_EQ(list->tableView->headerTitle(0), "# Coins = 30 of 300");
 }
