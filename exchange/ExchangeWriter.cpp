@@ -31,7 +31,7 @@ QHash<QByteArray, QByteArray> reencodeAll(const QList<QByteArray>& pictures) {
                 fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional "
                                           "value"),
                            "Pelvane/ExportViewController", 160);
-            return ImageCoding::base64(ImageCoding::jpeg(image, 0.6));
+            return ImageCoding::base64(ImageCoding::jpegQuickly(image, 0.6));
         });
     for (qsizetype i = 0; i < distinct.size(); ++i)
         done[distinct[i]] = encoded[i];

@@ -15,6 +15,9 @@ QImage decodeJpegQuickly(const QByteArray& bytes);
 QImage redrawnForStorage(const QImage& image);
 // JPEG at a quality from 0 to 1; empty when encoding fails.
 QByteArray jpeg(const QImage& image, double quality);
+// The same bytes as jpeg(), written straight through libjpeg for the pictures decodeJpegQuickly
+// hands back; anything else goes the ordinary way.
+QByteArray jpegQuickly(const QImage& image, double quality);
 // What a coin stores for a picture: redrawn to 100 x 100, JPEG at quality 0.5.
 QByteArray coinPictureData(const QImage& image);
 // Standard alphabet with "=" padding, no line breaks.

@@ -3,6 +3,7 @@
 #include "platform/ImageCoding.h"
 #include "platform/fakes/Fakes.h"
 
+#include <QColorSpace>
 #include <QFile>
 #include <QPainter>
 
@@ -65,9 +66,19 @@ TEST(Platform, FakesReplaceTheDesktopAndGoBack) {
     EXPECT_TRUE(Platform::messages().canSendText());
 }
 
-TEST(ImageCoding, QuickJpegDecodeGivesTheSamePixelsAndBytes) {
-    for (int seed = 0; seed < 40; ++seed) {
+// The export's quick path must write exactly the bytes of the ordinary decode and encode.
+TEST(ImageCoding, QuickJpegDecodeAndEncodeGiveTheSamePixelsAndBytes) {
+    for (int seed = 0; seed < 48; ++seed) {
         QImage img(seed % 3 ? 100 : 37, 100, QImage::Format_RGB32);
+        // Resolutions in dots per inch, in dots per centimetre and odd ones travel along.
+        if (seed % 4 == 1)
+            img.setDotsPerMeterX(2835), img.setDotsPerMeterY(2835); // 72 dpi
+        if (seed % 4 == 2)
+            img.setDotsPerMeterX(4000), img.setDotsPerMeterY(3000);
+        if (seed % 8 == 3)
+            img.setText("Description", "struck off-centre"); // a comment marker
+        if (seed % 8 == 7)
+            img.setColorSpace(QColorSpace::SRgb); // a colour profile
         img.fill(QColor::fromHsv(seed * 9, 150, 220));
         QPainter p(&img);
         p.setPen(QColor::fromHsv(seed * 31 % 360, 220, 80));
@@ -79,7 +90,11 @@ TEST(ImageCoding, QuickJpegDecodeGivesTheSamePixelsAndBytes) {
         const QImage quick = ImageCoding::decodeJpegQuickly(stored);
         ASSERT_EQ(quick.format(), slow.format());
         ASSERT_EQ(quick, slow) << seed;
-        EXPECT_EQ(ImageCoding::jpeg(quick, 0.6), ImageCoding::jpeg(slow, 0.6));
+        ASSERT_EQ(quick.dotsPerMeterX(), slow.dotsPerMeterX()) << seed;
+        EXPECT_EQ(quick.textKeys(), slow.textKeys()) << seed;
+        const QByteArray expected = ImageCoding::jpeg(slow, 0.6);
+        EXPECT_EQ(ImageCoding::jpegQuickly(quick, 0.6), expected) << seed;
+        EXPECT_EQ(ImageCoding::jpegQuickly(slow, 0.6), expected) << seed;
     }
     // Not a colour JPEG: the ordinary decoder answers.
     QImage gray(20, 20, QImage::Format_Grayscale8);
