@@ -7,6 +7,7 @@
 #include "platform/kit/Appearance.h"
 #include "screens/Application.h"
 #include "screens/ProcessState.h"
+#include "screens/TextMessageAlert.h"
 
 #include <QFormLayout>
 #include <QMouseEvent>
@@ -162,11 +163,7 @@ void EditViewController::checkValue() {
 
 void EditViewController::shareButtonClicked() {
     if (!Platform::messages().canSendText()) {
-        after(0, [this] {
-            present(AlertController::okAlert(QStringLiteral("Can't Send Text Message"),
-                                             QStringLiteral("Your device is not able to send text "
-                                                            "messages.")));
-        });
+        TextMessageAlert::presentLater(this);
         return;
     }
     const QImage shot = grab().toImage();

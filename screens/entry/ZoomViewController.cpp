@@ -4,6 +4,7 @@
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
 #include "screens/ProcessState.h"
+#include "screens/TextMessageAlert.h"
 
 #include <QGestureEvent>
 #include <QMouseEvent>
@@ -111,11 +112,7 @@ void ZoomViewController::resizeEvent(QResizeEvent* event) {
 
 void ZoomViewController::shareButtonClicked() {
     if (!Platform::messages().canSendText()) {
-        after(0, [this] {
-            present(AlertController::okAlert(QStringLiteral("Can't Send Text Message"),
-                                             QStringLiteral("Your device is not able to send text "
-                                                            "messages.")));
-        });
+        TextMessageAlert::presentLater(this);
         return;
     }
     ShareItem front, back;

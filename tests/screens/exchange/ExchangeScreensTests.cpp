@@ -1,40 +1,17 @@
-#include "AppFixture.h"
-#include "app/Storyboard.h"
+#include "../ScreenFixture.h"
 #include "exchange/ExchangeWriter.h"
 #include "exchange/ExportViewController.h"
 #include "exchange/ImportViewController.h"
-#include "platform/fakes/Fakes.h"
-#include "platform/kit/AlertController.h"
-#include "platform/kit/NavigationController.h"
-#include "platform/kit/Window.h"
-#include "screens/menu/MainMenuViewController.h"
 
 #include <QFile>
-#include <QTest>
 
-class ExchangeScreenTest : public AppTest {
+class ExchangeScreenTest : public ScreenTest {
 protected:
-    void SetUp() override {
-        AppTest::SetUp();
-        fakes = Fakes::install();
-        AppStoryboard::install();
-        menu = new MainMenuViewController;
-        window = std::make_unique<Window>(menu);
-        window->show();
-    }
-    void TearDown() override {
-        window.reset();
-        Platform::reset();
-        AppTest::TearDown();
-    }
     template <typename T> T* open(const char* segue) {
         menu->performSegue("ImportExport");
-        window->navigationController()->topViewController()->performSegue(segue);
-        return static_cast<T*>(window->navigationController()->topViewController());
+        top()->performSegue(segue);
+        return static_cast<T*>(top());
     }
-    Fakes fakes{};
-    MainMenuViewController* menu = nullptr;
-    std::unique_ptr<Window> window;
 };
 
 TEST_F(ExchangeScreenTest, ExportBuildsTheFileAndHandsItOn) {
