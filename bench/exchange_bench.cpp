@@ -39,22 +39,21 @@ std::unique_ptr<PersistentContainer> open(const QString& dir) {
     return c;
 }
 
-// Peak resident memory since the last reset, in kB (Linux).
-long peakKb() {
+// A memory figure of /proc/self/status in kB (Linux): VmHWM is the peak resident memory since
+// the last reset, VmRSS the current one.
+long statusKb(const char* key) {
     QFile status(QStringLiteral("/proc/self/status"));
     status.open(QIODevice::ReadOnly);
     for (const QByteArray& line : status.readAll().split('\n'))
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').first().toLong();
+        if (line.startsWith(key))
+            return line.mid(qsizetype(qstrlen(key))).trimmed().split(' ').first().toLong();
     return 0;
 }
+long peakKb() {
+    return statusKb("VmHWM:");
+}
 long currentKb() {
-    QFile status(QStringLiteral("/proc/self/status"));
-    status.open(QIODevice::ReadOnly);
-    for (const QByteArray& line : status.readAll().split('\n'))
-        if (line.startsWith("VmRSS:"))
-            return line.mid(6).trimmed().split(' ').first().toLong();
-    return 0;
+    return statusKb("VmRSS:");
 }
 void resetPeak() {
     QFile clear(QStringLiteral("/proc/self/clear_refs"));
