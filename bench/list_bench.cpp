@@ -42,14 +42,17 @@ int main(int argc, char** argv) {
     t.start();
     menu->performSegue(QStringLiteral("ListCoins"));
     QApplication::processEvents(); // the list lays its rows out on the next turn
-    window.repaint();
-    const double open = ms(t);
     auto* list = static_cast<MainListTableViewController*>(
         window.navigationController()->topViewController());
+    const int drawnByEvents = list->tableView->cellsRequested();
+    window.repaint();
+    const double open = ms(t);
     if (list->CoinList.size() != n)
         return 1;
     print("list: open 32,000 coins (fetch + first paint)", open, "ms", "<= 200 ms");
-    print("list: rows drawn by the first paint", list->tableView->cellsRequested(), "", "visible");
+    print("list: rows drawn by the first paint", drawnByEvents, "", "visible");
+    print("list: rows drawn by the next paint", list->tableView->cellsRequested() - drawnByEvents,
+          "", "visible");
 
     auto keystrokes = [&](const QString& sort, const QString& typed) {
         list->chooseSort(sort);
