@@ -11,27 +11,44 @@
 
 #include <cstdio>
 
-int main(int argc, char** argv) {
-    QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Pelvane"));
-    QApplication::setOrganizationName(QStringLiteral("Pelvane"));
+namespace {
+void nameApplication() {
+    QCoreApplication::setApplicationName(QStringLiteral("Pelvane"));
+    QCoreApplication::setOrganizationName(QStringLiteral("Pelvane"));
+}
 
-    const LaunchOptions options = parseLaunchOptions(QApplication::arguments());
+// Export and import run without a window, so that scripts and backups work with no display.
+int runWithoutWindow(int argc, char** argv, const LaunchOptions& options) {
+    QCoreApplication app(argc, argv);
+    nameApplication();
+    if (!options.dataDir.isEmpty())
+        useDataDirectory(options.dataDir);
+    AppDelegate delegate;
+    delegate.didFinishLaunching();
+    ManagedObjectContext& context = *delegate.persistentContainer().viewContext();
+    return !options.exportFile.isEmpty() ? Exchange::runExport(context, options.exportFile)
+                                         : Exchange::runImport(context, options.importFile);
+}
+} // namespace
+
+int main(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const LaunchOptions options = parseLaunchOptions(arguments);
     if (!options.error.isEmpty()) {
         std::fprintf(stderr, "%s\n", qPrintable(options.error));
         return 2;
     }
+    if (!options.exportFile.isEmpty() || !options.importFile.isEmpty())
+        return runWithoutWindow(argc, argv, options);
+
+    QApplication app(argc, argv);
+    nameApplication();
     if (!options.dataDir.isEmpty())
         useDataDirectory(options.dataDir);
-
     AppDelegate delegate;
     delegate.didFinishLaunching();
-    if (!options.exportFile.isEmpty())
-        return Exchange::runExport(*delegate.persistentContainer().viewContext(),
-                                   options.exportFile);
-    if (!options.importFile.isEmpty())
-        return Exchange::runImport(*delegate.persistentContainer().viewContext(),
-                                   options.importFile);
     if (options.dark)
         Appearance::setDark(true);
     AppStoryboard::install();
