@@ -26,12 +26,12 @@ QHash<QByteArray, QByteArray> reencodeAll(const QList<QByteArray>& pictures) {
         }
     const QList<QByteArray> encoded =
         QtConcurrent::blockingMapped(distinct, [](const QByteArray& bytes) {
-            const QImage image = ImageCoding::decodeJpegQuickly(bytes);
-            if (image.isNull())
+            const QByteArray encoded = ImageCoding::reencodeJpeg(bytes, 0.6);
+            if (encoded.isEmpty())
                 fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional "
                                           "value"),
                            "Pelvane/ExportViewController", 160);
-            return ImageCoding::base64(ImageCoding::jpegQuickly(image, 0.6));
+            return ImageCoding::base64(encoded);
         });
     for (qsizetype i = 0; i < distinct.size(); ++i)
         done[distinct[i]] = encoded[i];

@@ -34,111 +34,142 @@ void jumpOnError(j_common_ptr info) {
 }
 void ignoreMessage(j_common_ptr) {}
 
-QImage quickDecode(const QByteArray& bytes) {
-    jpeg_decompress_struct info;
-    JpegError error;
-    info.err = jpeg_std_error(&error.manager);
-    error.manager.error_exit = jumpOnError;
-    error.manager.output_message = ignoreMessage;
-    QImage image;
-    if (setjmp(error.jump)) {
-        jpeg_destroy_decompress(&info);
-        return {};
-    }
-    jpeg_create_decompress(&info);
-    jpeg_mem_src(&info, reinterpret_cast<const unsigned char*>(bytes.constData()),
-                 static_cast<unsigned long>(bytes.size()));
-    // Comments, Exif and colour profiles change what the ordinary decoder hands back (texts,
-    // orientation, colour space): such pictures go the ordinary way.
-    jpeg_save_markers(&info, JPEG_COM, 1);
-    jpeg_save_markers(&info, JPEG_APP0 + 1, 1);
-    jpeg_save_markers(&info, JPEG_APP0 + 2, 1);
-    if (jpeg_read_header(&info, TRUE) != JPEG_HEADER_OK || info.num_components != 3 ||
-        info.jpeg_color_space != JCS_YCbCr || info.saw_Adobe_marker || info.marker_list) {
-        jpeg_destroy_decompress(&info);
-        return {};
-    }
-    info.out_color_space = JCS_EXT_BGRX; // the byte order of QImage::Format_RGB32
-    jpeg_start_decompress(&info);
-    image = QImage(int(info.output_width), int(info.output_height), QImage::Format_RGB32);
-    std::vector<JSAMPROW> rows(info.output_height);
-    for (int y = 0; y < image.height(); ++y)
-        rows[std::size_t(y)] = image.scanLine(y);
-    while (info.output_scanline < info.output_height)
-        jpeg_read_scanlines(&info, rows.data() + info.output_scanline,
-                            info.output_height - info.output_scanline);
-    jpeg_finish_decompress(&info);
-    // The resolution as the ordinary decoder reads it; the encoder writes it back.
-    if (info.density_unit == 1) {
-        image.setDotsPerMeterX(int(100. * info.X_density / 2.54));
-        image.setDotsPerMeterY(int(100. * info.Y_density / 2.54));
-    } else if (info.density_unit == 2) {
-        image.setDotsPerMeterX(int(100. * info.X_density));
-        image.setDotsPerMeterY(int(100. * info.Y_density));
-    }
-    jpeg_destroy_decompress(&info);
-    return image;
+// Density in dots per metre as the image plugin reads it from a JPEG header; 0 where it leaves
+// the image's default.
+int dotsPerMeter(UINT8 unit, UINT16 density) {
+    if (unit == 1)
+        return int(100. * density / 2.54);
+    if (unit == 2)
+        return int(100. * density);
+    return 0;
 }
 
-// The JPEG the image plugin writes for an RGB32 picture with no texts and no colour space:
-// the same settings, without the plugin machinery around them.
-QByteArray quickEncode(const QImage& image, int quality) {
-    jpeg_compress_struct info;
-    JpegError error;
-    info.err = jpeg_std_error(&error.manager);
-    error.manager.error_exit = jumpOnError;
-    error.manager.output_message = ignoreMessage;
-    unsigned char* buffer = nullptr;
-    unsigned long size = 0;
-    if (setjmp(error.jump)) {
-        jpeg_destroy_compress(&info);
+// The export re-encodes tens of thousands of pictures: one decoder and one encoder per thread,
+// kept for the next picture, and pixels handed from one to the other as plain RGB rows.
+class Recoder {
+public:
+    Recoder() {
+        in_.err = jpeg_std_error(&inError_.manager);
+        inError_.manager.error_exit = jumpOnError;
+        inError_.manager.output_message = ignoreMessage;
+        jpeg_create_decompress(&in_);
+        // Comments, Exif and colour profiles change what the ordinary decoder hands back
+        // (texts, orientation, colour space): such pictures go the ordinary way.
+        jpeg_save_markers(&in_, JPEG_COM, 1);
+        jpeg_save_markers(&in_, JPEG_APP0 + 1, 1);
+        jpeg_save_markers(&in_, JPEG_APP0 + 2, 1);
+        out_.err = jpeg_std_error(&outError_.manager);
+        outError_.manager.error_exit = jumpOnError;
+        outError_.manager.output_message = ignoreMessage;
+        jpeg_create_compress(&out_);
+    }
+    ~Recoder() {
+        jpeg_destroy_decompress(&in_);
+        jpeg_destroy_compress(&out_);
+    }
+    Recoder(const Recoder&) = delete;
+    Recoder& operator=(const Recoder&) = delete;
+
+    // False when the quick way does not apply; `encoded` is then left empty.
+    bool recode(const QByteArray& bytes, int quality, QByteArray& encoded) {
+        int dpmX = 0, dpmY = 0;
+        if (!decode(bytes, dpmX, dpmY))
+            return false;
+        if (dpmX <= 0 || dpmY <= 0) {
+            const QImage blank(1, 1, QImage::Format_RGB32); // the default resolution
+            dpmX = dpmX > 0 ? dpmX : blank.dotsPerMeterX();
+            dpmY = dpmY > 0 ? dpmY : blank.dotsPerMeterY();
+        }
+        return encode(quality, dpmX, dpmY, encoded);
+    }
+
+private:
+    bool decode(const QByteArray& bytes, int& dpmX, int& dpmY) {
+        if (setjmp(inError_.jump)) {
+            jpeg_abort_decompress(&in_);
+            return false;
+        }
+        jpeg_mem_src(&in_, reinterpret_cast<const unsigned char*>(bytes.constData()),
+                     static_cast<unsigned long>(bytes.size()));
+        if (jpeg_read_header(&in_, TRUE) != JPEG_HEADER_OK || in_.num_components != 3 ||
+            in_.jpeg_color_space != JCS_YCbCr || in_.saw_Adobe_marker || in_.marker_list) {
+            jpeg_abort_decompress(&in_);
+            return false;
+        }
+        in_.out_color_space = JCS_RGB;
+        jpeg_start_decompress(&in_);
+        width_ = in_.output_width;
+        height_ = in_.output_height;
+        pixels_.resize(std::size_t(width_) * height_ * 3);
+        rows_.resize(height_);
+        for (JDIMENSION y = 0; y < height_; ++y)
+            rows_[y] = pixels_.data() + std::size_t(y) * width_ * 3;
+        while (in_.output_scanline < height_)
+            jpeg_read_scanlines(&in_, rows_.data() + in_.output_scanline,
+                                height_ - in_.output_scanline);
+        jpeg_finish_decompress(&in_);
+        dpmX = dotsPerMeter(in_.density_unit, in_.X_density);
+        dpmY = dotsPerMeter(in_.density_unit, in_.Y_density);
+        return true;
+    }
+
+    // The settings the image plugin writes an RGB picture with, texts and profile aside.
+    bool encode(int quality, int dpmX, int dpmY, QByteArray& encoded) {
+        unsigned char* buffer = nullptr;
+        unsigned long size = 0;
+        if (setjmp(outError_.jump)) {
+            jpeg_abort_compress(&out_);
+            std::free(buffer);
+            return false;
+        }
+        jpeg_mem_dest(&out_, &buffer, &size);
+        out_.image_width = width_;
+        out_.image_height = height_;
+        out_.input_components = 3;
+        out_.in_color_space = JCS_RGB;
+        jpeg_set_defaults(&out_);
+        const double x = dpmX, y = dpmY;
+        const double diffInch = std::abs(x * 2.54 / 100. - qRound(x * 2.54 / 100.)) +
+                                std::abs(y * 2.54 / 100. - qRound(y * 2.54 / 100.));
+        const double diffCm =
+            (std::abs(x / 100. - qRound(x / 100.)) + std::abs(y / 100. - qRound(y / 100.))) * 2.54;
+        if (diffInch < diffCm) {
+            out_.density_unit = 1;
+            out_.X_density = UINT16(qRound(x * 2.54 / 100.));
+            out_.Y_density = UINT16(qRound(y * 2.54 / 100.));
+        } else {
+            out_.density_unit = 2;
+            out_.X_density = UINT16((dpmX + 50) / 100);
+            out_.Y_density = UINT16((dpmY + 50) / 100);
+        }
+        jpeg_set_quality(&out_, quality, TRUE);
+        jpeg_start_compress(&out_, TRUE);
+        while (out_.next_scanline < height_)
+            jpeg_write_scanlines(&out_, rows_.data() + out_.next_scanline,
+                                 height_ - out_.next_scanline);
+        jpeg_finish_compress(&out_);
+        encoded = QByteArray(reinterpret_cast<const char*>(buffer), qsizetype(size));
         std::free(buffer);
-        return {};
+        return true;
     }
-    jpeg_create_compress(&info);
-    jpeg_mem_dest(&info, &buffer, &size);
-    info.image_width = JDIMENSION(image.width());
-    info.image_height = JDIMENSION(image.height());
-    // Fed the pixels as they lie in memory; the colour conversion is the same as from RGB.
-    info.input_components = 4;
-    info.in_color_space = JCS_EXT_BGRX;
-    jpeg_set_defaults(&info);
-    const double dpmX = image.dotsPerMeterX(), dpmY = image.dotsPerMeterY();
-    const double diffInch = std::abs(dpmX * 2.54 / 100. - qRound(dpmX * 2.54 / 100.)) +
-                            std::abs(dpmY * 2.54 / 100. - qRound(dpmY * 2.54 / 100.));
-    const double diffCm = (std::abs(dpmX / 100. - qRound(dpmX / 100.)) +
-                           std::abs(dpmY / 100. - qRound(dpmY / 100.))) *
-                          2.54;
-    if (diffInch < diffCm) {
-        info.density_unit = 1;
-        info.X_density = UINT16(qRound(dpmX * 2.54 / 100.));
-        info.Y_density = UINT16(qRound(dpmY * 2.54 / 100.));
-    } else {
-        info.density_unit = 2;
-        info.X_density = UINT16((image.dotsPerMeterX() + 50) / 100);
-        info.Y_density = UINT16((image.dotsPerMeterY() + 50) / 100);
-    }
-    jpeg_set_quality(&info, quality, TRUE);
-    jpeg_start_compress(&info, TRUE);
-    std::vector<JSAMPROW> rows(std::size_t(image.height()));
-    for (int y = 0; y < image.height(); ++y)
-        rows[std::size_t(y)] = const_cast<JSAMPROW>(image.constScanLine(y));
-    while (info.next_scanline < info.image_height)
-        jpeg_write_scanlines(&info, rows.data() + info.next_scanline,
-                             info.image_height - info.next_scanline);
-    jpeg_finish_compress(&info);
-    jpeg_destroy_compress(&info);
-    QByteArray out(reinterpret_cast<const char*>(buffer), qsizetype(size));
-    std::free(buffer);
-    return out;
-}
+
+    jpeg_decompress_struct in_;
+    jpeg_compress_struct out_;
+    JpegError inError_, outError_;
+    std::vector<unsigned char> pixels_;
+    std::vector<JSAMPROW> rows_;
+    JDIMENSION width_ = 0, height_ = 0;
+};
 } // namespace
 
-QImage decodeJpegQuickly(const QByteArray& bytes) {
-    if (bytes.startsWith("\xFF\xD8") && QSysInfo::ByteOrder == QSysInfo::LittleEndian)
-        if (QImage image = quickDecode(bytes); !image.isNull())
-            return image;
-    return decode(bytes);
+QByteArray reencodeJpeg(const QByteArray& bytes, double quality) {
+    if (bytes.startsWith("\xFF\xD8")) {
+        thread_local Recoder recoder;
+        QByteArray encoded;
+        if (recoder.recode(bytes, qRound(quality * 100), encoded))
+            return encoded;
+    }
+    return jpeg(decode(bytes), quality);
 }
 
 QImage redrawnForStorage(const QImage& image) {
@@ -161,14 +192,6 @@ QByteArray jpeg(const QImage& image, double quality) {
     if (!writer.write(image))
         return {};
     return out;
-}
-
-QByteArray jpegQuickly(const QImage& image, double quality) {
-    if (image.format() == QImage::Format_RGB32 && image.textKeys().isEmpty() &&
-        !image.colorSpace().isValid() && !image.isNull())
-        if (QByteArray bytes = quickEncode(image, qRound(quality * 100)); !bytes.isEmpty())
-            return bytes;
-    return jpeg(image, quality);
 }
 
 QByteArray coinPictureData(const QImage& image) {

@@ -7,17 +7,14 @@
 namespace ImageCoding {
 // A null image when the bytes are no picture.
 QImage decode(const QByteArray& bytes);
-// The same pixels as decode() for a colour JPEG, read straight through libjpeg without the
-// image-plugin machinery (the export decodes tens of thousands of pictures); anything else
-// goes the ordinary way.
-QImage decodeJpegQuickly(const QByteArray& bytes);
 // The picture drawn onto a 100 x 100 canvas, stretched to the whole square whatever its shape.
 QImage redrawnForStorage(const QImage& image);
 // JPEG at a quality from 0 to 1; empty when encoding fails.
 QByteArray jpeg(const QImage& image, double quality);
-// The same bytes as jpeg(), written straight through libjpeg for the pictures decodeJpegQuickly
-// hands back; anything else goes the ordinary way.
-QByteArray jpegQuickly(const QImage& image, double quality);
+// The bytes of jpeg(decode(bytes), quality), for the export: a plain colour JPEG goes straight
+// through libjpeg with the image plugin's settings, anything else the ordinary way. Empty when
+// the bytes are no picture.
+QByteArray reencodeJpeg(const QByteArray& bytes, double quality);
 // What a coin stores for a picture: redrawn to 100 x 100, JPEG at quality 0.5.
 QByteArray coinPictureData(const QImage& image);
 // Standard alphabet with "=" padding, no line breaks.
