@@ -27,7 +27,9 @@ QHash<QByteArray, QByteArray> reencodeAll(const QList<QByteArray>& pictures) {
     const QList<QByteArray> encoded =
         QtConcurrent::blockingMapped(distinct, [](const QByteArray& bytes) {
             const QByteArray encoded = ImageCoding::reencodeJpeg(bytes, 0.6);
-            if (encoded.isEmpty())
+            // Bytes that are no picture stop the export; an encoder that gives nothing leaves
+            // the field empty.
+            if (encoded.isEmpty() && ImageCoding::decode(bytes).isNull())
                 fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional "
                                           "value"),
                            "Pelvane/ExportViewController", 160);

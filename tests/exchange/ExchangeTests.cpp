@@ -66,6 +66,10 @@ TEST_F(StoreTest, WriterLayoutIsByteExact) {
     const QImage decoded = ImageCoding::decode(*ImageCoding::strictBase64Decode(back));
     EXPECT_EQ(decoded.size(), QSize(100, 100));
     EXPECT_EQ(lines[5], "");
+
+    // A stored picture that is no picture stops the export.
+    cent->setFrontImage("%PDF-1.4 not a picture");
+    EXPECT_DEATH(exchangeText(ctx()), "ExportViewController:160: Fatal error");
 }
 
 TEST_F(StoreTest, ReaderMergesByTheFourKeys) {
