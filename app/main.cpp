@@ -12,17 +12,18 @@
 #include <cstdio>
 
 namespace {
-void nameApplication() {
+// The settings and data folders follow the program's name, unless a data folder is given.
+void prepare(const LaunchOptions& options) {
     QCoreApplication::setApplicationName(QStringLiteral("Pelvane"));
     QCoreApplication::setOrganizationName(QStringLiteral("Pelvane"));
+    if (!options.dataDir.isEmpty())
+        useDataDirectory(options.dataDir);
 }
 
 // Export and import run without a window, so that scripts and backups work with no display.
 int runWithoutWindow(int argc, char** argv, const LaunchOptions& options) {
     QCoreApplication app(argc, argv);
-    nameApplication();
-    if (!options.dataDir.isEmpty())
-        useDataDirectory(options.dataDir);
+    prepare(options);
     AppDelegate delegate;
     delegate.didFinishLaunching();
     ManagedObjectContext& context = *delegate.persistentContainer().viewContext();
@@ -44,9 +45,7 @@ int main(int argc, char** argv) {
         return runWithoutWindow(argc, argv, options);
 
     QApplication app(argc, argv);
-    nameApplication();
-    if (!options.dataDir.isEmpty())
-        useDataDirectory(options.dataDir);
+    prepare(options);
     AppDelegate delegate;
     delegate.didFinishLaunching();
     if (options.dark)
