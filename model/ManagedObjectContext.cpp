@@ -1,5 +1,8 @@
 #include "model/ManagedObjectContext.h"
 
+#include <QCoreApplication>
+#include <QTimer>
+
 #include "model/Records.h"
 #include "model/Sqlite.h"
 #include "platform/Fatal.h"
@@ -107,12 +110,17 @@ const EntityDescription& checkedEntity(const QString& name) {
 
 ManagedObjectContext::ManagedObjectContext(SqliteDatabase* db)
     : db_(db)
-    , identity_(Model::entities().size()) {
+    , identity_(Model::entities().size())
+    , batchEnd_(std::make_unique<QTimer>()) {
     for (auto* e : Model::entities())
         dirtyByAttribute_.emplace_back(e->attributes.size());
+    batchEnd_->setSingleShot(true);
+    batchEnd_->setInterval(0);
+    QObject::connect(batchEnd_.get(), &QTimer::timeout, [this] { endReadBatch(); });
 }
 
 ManagedObjectContext::~ManagedObjectContext() {
+    endReadBatch();
     for (auto& map : identity_)
         for (auto& weak : map)
             if (auto o = weak.lock())
@@ -214,6 +222,7 @@ std::optional<StoreError> ManagedObjectContext::save() {
         if (o->entity_->hasData() && (o->dirty_ & dataMask(*o->entity_)))
             loadData(*o);
 
+    endReadBatch();
     SqliteStatement& begin = db_->cached(QStringLiteral("BEGIN IMMEDIATE"));
     if (begin.step() != SQLITE_DONE)
         return lastError();
@@ -302,11 +311,31 @@ std::optional<StoreError> ManagedObjectContext::save() {
     return std::nullopt;
 }
 
+void ManagedObjectContext::beginReadBatch() {
+    if (readBatch_ || !sqlite3_get_autocommit(db_->handle()))
+        return;
+    SqliteStatement& begin = db_->cached(QStringLiteral("BEGIN"));
+    if (begin.step() != SQLITE_DONE)
+        return; // the reads then run one by one, as without a batch
+    readBatch_ = true;
+    if (QCoreApplication::instance())
+        batchEnd_->start();
+}
+
+void ManagedObjectContext::endReadBatch() {
+    if (!readBatch_)
+        return;
+    readBatch_ = false;
+    batchEnd_->stop();
+    db_->resetAll(); // no statement may still be reading
+    if (!db_->exec(QStringLiteral("COMMIT")))
+        db_->exec(QStringLiteral("ROLLBACK"));
+}
+
 void ManagedObjectContext::loadData(ManagedObject& o) {
     const EntityDescription& e = *o.entity_;
-    const QStringList dcols = dataColumns(e);
-    SqliteStatement& st = db_->cached(QStringLiteral("SELECT %1 FROM %2 WHERE pk=?")
-                                          .arg(dcols.join(u','), quoted(e.dataTable())));
+    beginReadBatch();
+    SqliteStatement& st = db_->cached(writeSql(e).loadData);
     st.bindInt(1, o.rowId_);
     const bool found = st.step() == SQLITE_ROW;
     int col = 0;
@@ -377,6 +406,7 @@ int compareBy(const ManagedObject& a, const ManagedObject& b, int attr, Attribut
 
 QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreError* error) {
     const EntityDescription& e = checkedEntity(request.entityName);
+    beginReadBatch();
     struct Key {
         int attr;
         AttributeType type;

@@ -9,9 +9,11 @@
 #include <QHash>
 #include <QList>
 #include <QSet>
+#include <memory>
 #include <optional>
 
 class SqliteDatabase;
+class QTimer;
 
 class ManagedObjectContext {
 public:
@@ -57,6 +59,11 @@ private:
     ObjectPtr objectForRow(const EntityDescription& entity, qint64 rowId,
                            class SqliteStatement& row);
     bool hasPendingChanges(const EntityDescription& entity) const;
+    // Reads between two turns of the event loop share one read transaction: a loop of
+    // thousands of fetches (an import) then takes the file's locks once, not once a fetch.
+    // A save ends it first; so does the next turn of the event loop.
+    void beginReadBatch();
+    void endReadBatch();
     StoreError lastError() const;
 
     SqliteDatabase* db_;
@@ -70,4 +77,6 @@ private:
     std::vector<std::vector<QSet<ManagedObject*>>> dirtyByAttribute_;
     QList<ObjectPtr> deleted_;
     quint64 nextInsertSeq_ = 1;
+    bool readBatch_ = false;
+    std::unique_ptr<QTimer> batchEnd_;
 };

@@ -1,5 +1,6 @@
 #include "StoreFixture.h"
 
+#include <QCoreApplication>
 #include <sqlite3.h>
 
 TEST_F(StoreTest, EveryQueryFormMatchesStoredRecords) {
@@ -154,6 +155,38 @@ TEST_F(StoreTest, FailedSaveRollsBackAndKeepsChangesPending) {
     ASSERT_FALSE(ctx().save());
     reopen();
     EXPECT_EQ(denominations(fetch({}, {{"year", true}})), QStringList({"5 Pesos", "1 Peso"}));
+}
+
+// Reads share one transaction until the event loop turns or the context saves: another
+// writer's coin is seen from then on, and saving in the middle of a batch works.
+TEST_F(StoreTest, ReadsBetweenTurnsOfTheEventLoopShareOneTransaction) {
+    coin("Chile", "1 Peso", 1990);
+    ASSERT_FALSE(ctx().save());
+    ASSERT_EQ(fetch().size(), 1);
+    sqlite3* db = nullptr;
+    ASSERT_EQ(sqlite3_open(path("Pelvane.sqlite").toUtf8().constData(), &db), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(db,
+                           "INSERT INTO Coins (country, denomination, year) VALUES "
+                           "('Peru', '1 Sol', 1994)",
+                           nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    EXPECT_EQ(fetch().size(), 1); // the batch still reads what it began with
+    QCoreApplication::processEvents();
+    EXPECT_EQ(fetch().size(), 2);
+
+    coin("Chile", "5 Pesos", 1991);
+    ASSERT_FALSE(ctx().save()); // with a batch open
+    EXPECT_EQ(fetch().size(), 3);
+    // The other writer is not kept waiting by a batch that has ended.
+    QCoreApplication::processEvents();
+    EXPECT_EQ(
+        sqlite3_exec(db, "DELETE FROM Coins WHERE country = 'Peru'", nullptr, nullptr, nullptr),
+        SQLITE_OK);
+    EXPECT_EQ(sqlite3_wal_checkpoint_v2(db, nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr),
+              SQLITE_OK);
+    sqlite3_close(db);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(fetch().size(), 2);
 }
 
 TEST_F(StoreTest, StoreFromANewerVersionIsRefusedAndLeftAlone) {
