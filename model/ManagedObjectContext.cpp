@@ -152,6 +152,10 @@ ObjectPtr ManagedObjectContext::insertNewObject(const QString& entityName) {
 }
 
 void ManagedObjectContext::noteChange(ManagedObject& o, int attribute) {
+    if (o.state_ == ManagedObject::State::Inserted) {
+        reindexPending(o, attribute);
+        return;
+    }
     if (o.state_ == ManagedObject::State::Clean) {
         o.state_ = ManagedObject::State::Updated;
         updated_.insert(&o, o.shared_from_this());
@@ -169,6 +173,7 @@ void ManagedObjectContext::deleteObject(const ObjectPtr& o) {
     if (!o || o->context_ != this || o->isDeleted())
         return;
     if (o->state_ == ManagedObject::State::Inserted) {
+        unindexPending(*o);
         inserted_.removeOne(o);
         o->state_ = ManagedObject::State::Gone;
         o->context_ = nullptr;
@@ -306,9 +311,60 @@ std::optional<StoreError> ManagedObjectContext::save() {
         for (auto& set : perEntity)
             set.clear();
     inserted_.clear();
+    pendingIndexes_.clear();
     updated_.clear();
     deleted_.clear();
     return std::nullopt;
+}
+
+bool ManagedObjectContext::pendingCandidates(const EntityDescription& e, const Predicate& predicate,
+                                             QList<ManagedObject*>& candidates) {
+    for (const Predicate::Term& t : predicate.terms()) {
+        const int i = e.indexOf(t.key);
+        if (i < 0 || e.attributes[std::size_t(i)].type != AttributeType::Text)
+            continue;
+        bool nil = false;
+        const QVariant want = PredicateDetail::comparable(AttributeType::Text, t.argument, nil);
+        if (nil || !want.isValid())
+            continue;
+        const quint32 key = quint32(e.index) << 16 | quint32(i);
+        auto it = pendingIndexes_.find(key);
+        if (it == pendingIndexes_.end()) {
+            it = pendingIndexes_.insert(key, {});
+            for (const auto& o : std::as_const(inserted_))
+                if (o->entity_ == &e && o->hasValue(i)) {
+                    const QString value = o->value(i).toString();
+                    it->byValue.insert(value, o.get());
+                    it->valueOf.insert(o.get(), value);
+                }
+        }
+        candidates = it->byValue.values(want.toString());
+        return true;
+    }
+    return false;
+}
+
+void ManagedObjectContext::reindexPending(ManagedObject& o, int attribute) {
+    auto it = pendingIndexes_.find(quint32(o.entity_->index) << 16 | quint32(attribute));
+    if (it == pendingIndexes_.end())
+        return;
+    if (auto old = it->valueOf.find(&o); old != it->valueOf.end()) {
+        it->byValue.remove(*old, &o);
+        it->valueOf.erase(old);
+    }
+    if (o.hasValue(attribute)) {
+        const QString value = o.value(attribute).toString();
+        it->byValue.insert(value, &o);
+        it->valueOf.insert(&o, value);
+    }
+}
+
+void ManagedObjectContext::unindexPending(ManagedObject& o) {
+    for (auto it = pendingIndexes_.begin(); it != pendingIndexes_.end(); ++it)
+        if (auto old = it->valueOf.find(&o); old != it->valueOf.end()) {
+            it->byValue.remove(*old, &o);
+            it->valueOf.erase(old);
+        }
 }
 
 void ManagedObjectContext::beginReadBatch() {
@@ -486,11 +542,21 @@ QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreE
             result.append(o->shared_from_this());
             merged = true;
         }
-    for (const auto& o : std::as_const(inserted_))
-        if (o->entity_ == &e && request.predicate.evaluate(*o)) {
-            result.append(o);
-            merged = true;
-        }
+    QList<ManagedObject*> candidates;
+    if (inserted_.size() >= kPendingIndexThreshold &&
+        pendingCandidates(e, request.predicate, candidates)) {
+        for (ManagedObject* o : std::as_const(candidates))
+            if (request.predicate.evaluate(*o)) {
+                result.append(o->shared_from_this());
+                merged = true;
+            }
+    } else {
+        for (const auto& o : std::as_const(inserted_))
+            if (o->entity_ == &e && request.predicate.evaluate(*o)) {
+                result.append(o);
+                merged = true;
+            }
+    }
     if (merged)
         std::stable_sort(result.begin(), result.end(), [&](const ObjectPtr& a, const ObjectPtr& b) {
             for (const Key& k : keys) {

@@ -64,6 +64,14 @@ private:
     // A save ends it first; so does the next turn of the event loop.
     void beginReadBatch();
     void endReadBatch();
+    // Pending inserts whose text attribute holds one value, found through an index made the
+    // first time a fetch filters many pending inserts by that attribute and kept up to date
+    // from then on: an import's duplicate test then looks among thousands of new coins
+    // without reading each. False when the predicate names no text value to look up.
+    bool pendingCandidates(const EntityDescription& entity, const Predicate& predicate,
+                           QList<ManagedObject*>& candidates);
+    void reindexPending(ManagedObject& object, int attribute);
+    void unindexPending(ManagedObject& object);
     StoreError lastError() const;
 
     SqliteDatabase* db_;
@@ -77,6 +85,12 @@ private:
     std::vector<std::vector<QSet<ManagedObject*>>> dirtyByAttribute_;
     QList<ObjectPtr> deleted_;
     quint64 nextInsertSeq_ = 1;
+    struct PendingTextIndex {
+        QMultiHash<QString, ManagedObject*> byValue;
+        QHash<ManagedObject*, QString> valueOf;
+    };
+    QHash<quint32, PendingTextIndex> pendingIndexes_; // by entity << 16 | attribute
+    static constexpr qsizetype kPendingIndexThreshold = 64;
     bool readBatch_ = false;
     std::unique_ptr<QTimer> batchEnd_;
 };

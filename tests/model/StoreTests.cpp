@@ -256,3 +256,41 @@ TEST_F(StoreTest, FetchesWithManyObjectsInMemoryAgreeWithAFreshStore) {
     EXPECT_FALSE(merged.contains(again.at(1)));
     EXPECT_EQ(fetch(eq("value == %@", "-1")).size(), 1);
 }
+
+// Many unsaved coins are looked up through an index of their texts; it must answer as
+// reading each would, through later changes, deletions, absent and empty values, and in the
+// order the coins were made.
+TEST_F(StoreTest, FetchesAmongManyUnsavedCoinsFollowTheirChanges) {
+    QList<CoinPtr> made;
+    for (int i = 0; i < 200; ++i)
+        made << coin(QStringLiteral("C%1").arg(i % 10), QStringLiteral("D%1").arg(i % 7), 1900);
+    made[0]->setValue(Coins::Attr::country, QVariant()); // absent
+    made[10]->setCountry(QString(""));                   // empty
+    auto count = [&](const char* country) { return fetch(eq("country == %@", country)).size(); };
+    EXPECT_EQ(count("C3"), 20);
+    const QList<CoinPtr> threes = fetch(eq("country == %@", "C3"));
+    EXPECT_TRUE(std::is_sorted(threes.begin(), threes.end(), [&](const auto& a, const auto& b) {
+        return made.indexOf(a) < made.indexOf(b);
+    }));
+    made[3]->setCountry("C4"); // after the index was made
+    EXPECT_EQ(count("C3"), 19);
+    EXPECT_EQ(count("C4"), 21);
+    ctx().deleteObject(made[4]);
+    EXPECT_EQ(count("C4"), 20);
+    EXPECT_EQ(count(""), 1);
+    EXPECT_EQ(count("C0"), 18);
+    EXPECT_EQ(
+        fetch(Predicate::andPredicate({eq("country == %@", "C5"), eq("denomination = %@", "D1")}))
+            .size(),
+        3);
+    auto late = coin("C3", "D9", 2000); // made after the index
+    EXPECT_EQ(count("C3"), 20);
+    EXPECT_EQ(fetch(eq("country == %@", "C3")).last(), late);
+
+    ASSERT_FALSE(ctx().save());
+    reopen();
+    EXPECT_EQ(count("C3"), 20);
+    EXPECT_EQ(count("C4"), 20);
+    EXPECT_EQ(count(""), 1);
+    EXPECT_EQ(count("C0"), 18);
+}
