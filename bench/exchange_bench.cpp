@@ -61,6 +61,20 @@ void resetPeak() {
         clear.write("5");
 }
 
+// The coins of the benchmark; the yardstick inserts the same records.
+void fill(Coins& coin, int i, const QList<QByteArray>& pics) {
+    coin.setCountry(QStringLiteral("Country %1").arg(i % 40));
+    coin.setDenomination(QStringLiteral("%1 Cents").arg(i)); // every coin its own keys
+    coin.setMintMark(QStringLiteral("M%1").arg(i % 5));
+    coin.setYear(qint16(1800 + i % 225));
+    coin.setQuantity(qint16(1 + i % 4));
+    coin.setValue(float(i % 997) / 4);
+    coin.setNotes(QStringLiteral("line one\nline two"));
+    coin.setGradeNumber(QStringLiteral("VF-20"));
+    coin.setFrontImage(pics[2 * i]);
+    coin.setBackImage(pics[2 * i + 1]);
+}
+
 void print(const char* name, double value, const char* unit, const char* target) {
     std::printf("%-56s %10.2f %-3s (target %s)\n", name, value, unit, target);
 }
@@ -82,19 +96,8 @@ int main(int argc, char** argv) {
     QByteArray file;
     {
         auto c = open(root.filePath("source"));
-        for (int i = 0; i < n; ++i) {
-            auto coin = c->viewContext()->insert<Coins>();
-            coin->setCountry(QStringLiteral("Country %1").arg(i % 40));
-            coin->setDenomination(QStringLiteral("%1 Cents").arg(i)); // every coin its own keys
-            coin->setMintMark(QStringLiteral("M%1").arg(i % 5));
-            coin->setYear(qint16(1800 + i % 225));
-            coin->setQuantity(qint16(1 + i % 4));
-            coin->setValue(float(i % 997) / 4);
-            coin->setNotes(QStringLiteral("line one\nline two"));
-            coin->setGradeNumber(QStringLiteral("VF-20"));
-            coin->setFrontImage(pics[2 * i]);
-            coin->setBackImage(pics[2 * i + 1]);
-        }
+        for (int i = 0; i < n; ++i)
+            fill(*c->viewContext()->insert<Coins>(), i, pics);
         c->viewContext()->save();
         c.reset();
         c = open(root.filePath("source"));
@@ -111,14 +114,8 @@ int main(int argc, char** argv) {
         auto c = open(root.filePath("yardstick"));
         QElapsedTimer t;
         t.start();
-        for (int i = 0; i < n; ++i) {
-            auto coin = c->viewContext()->insert<Coins>();
-            coin->setCountry(QStringLiteral("Country %1").arg(i % 40));
-            coin->setDenomination(QStringLiteral("%1 Cents").arg(i)); // every coin its own keys
-            coin->setMintMark(QStringLiteral("M%1").arg(i % 5));
-            coin->setYear(qint16(1800 + i % 225));
-            coin->setFrontImage(pics[2 * i]);
-        }
+        for (int i = 0; i < n; ++i)
+            fill(*c->viewContext()->insert<Coins>(), i, pics);
         c->viewContext()->save();
         oneTransaction = double(t.nsecsElapsed()) / 1e9;
     }

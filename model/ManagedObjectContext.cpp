@@ -219,33 +219,15 @@ static void bindDataValues(SqliteStatement& st, const ManagedObject& o, int firs
             st.bind(first++, o.hasValue(int(i)) ? o.value(int(i)) : QVariant());
 }
 
-std::optional<StoreError> ManagedObjectContext::save() {
-    if (!hasChanges())
-        return std::nullopt;
-    // Pictures of changed records must be complete before they are rewritten.
-    for (auto& o : updated_)
-        if (o->entity_->hasData() && (o->dirty_ & dataMask(*o->entity_)))
-            loadData(*o);
-
-    endReadBatch();
-    SqliteStatement& begin = db_->cached(QStringLiteral("BEGIN IMMEDIATE"));
-    if (begin.step() != SQLITE_DONE)
-        return lastError();
-    auto fail = [this]() {
-        StoreError err = lastError();
-        db_->exec(QStringLiteral("ROLLBACK"));
-        db_->resetAll();
-        return err;
-    };
-
-    std::vector<qint64> newIds;
+bool ManagedObjectContext::writePending(std::vector<qint64>& newIds) {
+    newIds.clear();
     newIds.reserve(std::size_t(inserted_.size()));
     for (const auto& o : inserted_) {
         const EntityDescription& e = *o->entity_;
         SqliteStatement& st = db_->cached(writeSql(e).insert);
         bindMainValues(st, *o);
         if (st.step() != SQLITE_DONE)
-            return fail();
+            return false;
         const qint64 id = db_->lastInsertRowId();
         newIds.push_back(id);
         if (e.hasData() && (o->present_ & dataMask(e))) {
@@ -253,7 +235,7 @@ std::optional<StoreError> ManagedObjectContext::save() {
             ds.bindInt(1, id);
             bindDataValues(ds, *o, 2);
             if (ds.step() != SQLITE_DONE)
-                return fail();
+                return false;
         }
     }
     for (const auto& o : std::as_const(updated_)) {
@@ -262,13 +244,13 @@ std::optional<StoreError> ManagedObjectContext::save() {
         bindMainValues(st, *o);
         st.bindInt(int(mainColumns(e).size()) + 1, o->rowId_);
         if (st.step() != SQLITE_DONE)
-            return fail();
+            return false;
         if (e.hasData() && (o->dirty_ & dataMask(e))) {
             SqliteStatement& ds = db_->cached(writeSql(e).insertData);
             ds.bindInt(1, o->rowId_);
             bindDataValues(ds, *o, 2);
             if (ds.step() != SQLITE_DONE)
-                return fail();
+                return false;
         }
     }
     for (const auto& o : deleted_) {
@@ -276,19 +258,60 @@ std::optional<StoreError> ManagedObjectContext::save() {
         SqliteStatement& st = db_->cached(writeSql(e).remove);
         st.bindInt(1, o->rowId_);
         if (st.step() != SQLITE_DONE)
-            return fail();
+            return false;
         if (e.hasData()) {
             SqliteStatement& ds = db_->cached(writeSql(e).removeData);
             ds.bindInt(1, o->rowId_);
             if (ds.step() != SQLITE_DONE)
-                return fail();
+                return false;
         }
     }
+    return true;
+}
+
+std::optional<StoreError> ManagedObjectContext::save() {
+    if (!hasChanges())
+        return std::nullopt;
+    // Pictures of changed records must be complete before they are rewritten.
+    for (auto& o : updated_)
+        if (o->entity_->hasData() && (o->dirty_ & dataMask(*o->entity_)))
+            loadData(*o);
+
+    // A read batch still open becomes the write transaction, which spares ending one
+    // transaction only to begin the next. Should another writer have changed the file since the
+    // batch began, the batch cannot write: the changes are written again in a fresh one.
+    const bool upgrade = readBatch_;
+    if (upgrade) {
+        readBatch_ = false;
+        batchEnd_->stop();
+        db_->resetAll();
+    } else {
+        SqliteStatement& begin = db_->cached(QStringLiteral("BEGIN IMMEDIATE"));
+        if (begin.step() != SQLITE_DONE)
+            return lastError();
+        begin.reset();
+    }
+    auto fail = [this]() {
+        StoreError err = lastError();
+        db_->exec(QStringLiteral("ROLLBACK"));
+        db_->resetAll();
+        return err;
+    };
+    std::vector<qint64> newIds;
+    bool written = writePending(newIds);
+    if (!written && upgrade && (sqlite3_errcode(db_->handle()) & 0xff) == SQLITE_BUSY) {
+        db_->exec(QStringLiteral("ROLLBACK"));
+        db_->resetAll();
+        if (!db_->exec(QStringLiteral("BEGIN IMMEDIATE")))
+            return lastError();
+        written = writePending(newIds);
+    }
+    if (!written)
+        return fail();
     SqliteStatement& commit = db_->cached(QStringLiteral("COMMIT"));
     if (commit.step() != SQLITE_DONE)
         return fail();
     commit.reset();
-    begin.reset();
 
     // Only now that the transaction is in does memory follow it.
     for (qsizetype i = 0; i < inserted_.size(); ++i) {

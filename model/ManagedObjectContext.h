@@ -62,6 +62,9 @@ private:
     // Reads between two turns of the event loop share one read transaction: a loop of
     // thousands of fetches (an import) then takes the file's locks once, not once a fetch.
     // A save ends it first; so does the next turn of the event loop.
+    // The pending inserts, updates and deletes, in the open transaction; false at the first
+    // statement that fails.
+    bool writePending(std::vector<qint64>& newIds);
     void beginReadBatch();
     void endReadBatch();
     // Pending inserts whose text attribute holds one value, found through an index made the

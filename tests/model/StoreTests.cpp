@@ -174,9 +174,15 @@ TEST_F(StoreTest, ReadsBetweenTurnsOfTheEventLoopShareOneTransaction) {
     QCoreApplication::processEvents();
     EXPECT_EQ(fetch().size(), 2);
 
+    // The other writer changes the file while a batch is open: the save, which would write
+    // in that batch, writes in a fresh transaction instead.
+    ASSERT_EQ(sqlite3_exec(db, "UPDATE Coins SET year = 1995 WHERE country = 'Peru'", nullptr,
+                           nullptr, nullptr),
+              SQLITE_OK);
     coin("Chile", "5 Pesos", 1991);
-    ASSERT_FALSE(ctx().save()); // with a batch open
+    ASSERT_FALSE(ctx().save());
     EXPECT_EQ(fetch().size(), 3);
+    EXPECT_EQ(fetch(eq("year == %@", "1995")).size(), 1);
     // The other writer is not kept waiting by a batch that has ended.
     QCoreApplication::processEvents();
     EXPECT_EQ(
