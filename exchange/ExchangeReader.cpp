@@ -10,6 +10,7 @@
 #include "platform/ImageCoding.h"
 
 #include <QStringList>
+#include <QVarLengthArray>
 
 namespace Exchange {
 
@@ -22,17 +23,49 @@ const QStringList kAttributes = {
     "serialNumber", "strikeCharacter", "thickness", "totalValue", "value",    "weight",
     "year",         "frontImage",      "backImage", "id"};
 
+// The fields of one line as views of its bytes; "^" is ASCII, so no character is ever cut.
+using Fields = QVarLengthArray<QByteArrayView, 24>;
+Fields splitFields(QByteArrayView line) {
+    Fields fields;
+    qsizetype start = 0;
+    for (qsizetype caret; (caret = line.indexOf('^', start)) >= 0; start = caret + 1)
+        fields.append(line.sliced(start, caret - start));
+    fields.append(line.sliced(start));
+    return fields;
+}
+
+// A field's text: null for a field the line does not have, empty for an empty one.
+QString fieldText(const Fields& fields, qsizetype position) {
+    return position < fields.size() ? QString::fromUtf8(fields[position]) : QString();
+}
+
 // The attribute value a field gives; an invalid QVariant with *parsed false when a number
-// does not parse. Pictures that are no valid base64 give no value.
-QVariant convert(AttributeType type, const QString& attribute, const QString& text, bool* parsed) {
+// does not parse. Pictures that are no valid base64 give no value. Double quotes are dropped
+// first; a field left empty gives nothing to set (*skip).
+QVariant convert(AttributeType type, const QString& attribute, QByteArrayView field, bool* parsed,
+                 bool* skip, QString* shown) {
     *parsed = true;
-    switch (type) {
-    case AttributeType::Text:
-        return attribute == QLatin1String("notes") ? QString(text).replace(u'~', u'\n') : text;
-    case AttributeType::Data: {
-        auto bytes = ImageCoding::strictBase64Decode(text.toLatin1());
+    if (type == AttributeType::Data) {
+        // Pictures are read from the bytes: base64 is ASCII, so nothing else can be valid.
+        QByteArray unquoted;
+        if (field.contains('"')) {
+            unquoted = field.toByteArray();
+            unquoted.replace("\"", "");
+            field = unquoted;
+        }
+        *skip = field.isEmpty();
+        auto bytes = ImageCoding::strictBase64Decode(field);
         return bytes ? QVariant(*bytes) : QVariant();
     }
+    QString text = QString::fromUtf8(field);
+    text.remove(u'"');
+    *skip = text.isEmpty();
+    *shown = text;
+    switch (type) {
+    case AttributeType::Text:
+        return attribute == QLatin1String("notes") ? text.replace(u'~', u'\n') : text;
+    case AttributeType::Data:
+        break;
     case AttributeType::Int16:
         if (auto v = Numbers::parseInt16(text))
             return int(*v);
@@ -50,19 +83,18 @@ QVariant convert(AttributeType type, const QString& attribute, const QString& te
     return {};
 }
 
-void apply(Coins& coin, const QStringList& fields, bool isNew) {
+void apply(Coins& coin, const Fields& fields, bool isNew) {
     const EntityDescription& entity = coin.entity();
     for (qsizetype p = 0; p < fields.size(); ++p) {
         if (p >= kAttributes.size())
             fatalError(QStringLiteral("Index out of range"), "Pelvane/ImportViewController", 262);
-        QString text = fields[p];
-        text.remove(u'"');
-        if (text.isEmpty())
-            continue;
         const int attribute = entity.indexOf(kAttributes[p]);
         const AttributeType type = entity.attributes[std::size_t(attribute)].type;
-        bool parsed = true;
-        const QVariant value = convert(type, kAttributes[p], text, &parsed);
+        bool parsed = true, skip = false;
+        QString text;
+        const QVariant value = convert(type, kAttributes[p], fields[p], &parsed, &skip, &text);
+        if (skip)
+            continue;
         if (!parsed && isNew)
             fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value "
                                       "(\"%1\" for %2)")
@@ -111,12 +143,11 @@ ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
         return result;
 
     for (QByteArrayView bytes : std::as_const(lines)) {
-        const QString line = QString::fromUtf8(bytes);
-        const QStringList fields = line.split(u'^');
-        const QString theCountry = fields.value(0);
-        const QString theDenomination = fields.value(1);
-        const QString theMintMark = fields.value(8);
-        const QString theYear = fields.value(18);
+        const Fields fields = splitFields(bytes);
+        const QString theCountry = fieldText(fields, 0);
+        const QString theDenomination = fieldText(fields, 1);
+        const QString theMintMark = fieldText(fields, 8);
+        const QString theYear = fieldText(fields, 18);
         FetchRequest request(QStringLiteral("Coins"));
         request.predicate = Predicate::andPredicate(
             {Predicate::format(QStringLiteral("country == %@"), theCountry),

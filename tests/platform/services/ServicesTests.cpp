@@ -37,6 +37,14 @@ TEST(ImageCoding, StrictBase64) {
     // A picture's base64 followed by a record number is (usually) no longer base64.
     EXPECT_FALSE(ImageCoding::strictBase64Decode("TWFu7").has_value());
     EXPECT_TRUE(ImageCoding::strictBase64Decode("1234").has_value());
+    for (const char* bad : {"====", "A===", "TW==TWFu", "TWé="})
+        EXPECT_FALSE(ImageCoding::strictBase64Decode(bad).has_value()) << bad;
+    // Whatever the bytes, decoding gives them back.
+    QByteArray bytes;
+    for (int n = 0; n < 300; ++n) {
+        EXPECT_EQ(ImageCoding::strictBase64Decode(bytes.toBase64()), bytes) << n;
+        bytes.append(char(n * 37 + 11));
+    }
 }
 
 TEST_F(PelvaneTest, FilesWriteAtomicallyAndReadAnyUnicode) {
