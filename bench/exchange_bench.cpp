@@ -108,16 +108,18 @@ int main(int argc, char** argv) {
         std::printf("%-56s %10.1f MB\n", "exchange file size", double(file.size()) / 1e6);
     }
 
-    // The same records inserted in one transaction, as the yardstick for the import.
-    double oneTransaction = 0;
-    {
-        auto c = open(root.filePath("yardstick"));
+    // The same records inserted in one transaction, as the yardstick for the import: the best
+    // of two runs, each into a fresh store, so that a slow disk moment does not flatter the
+    // ratio.
+    double oneTransaction = 1e9;
+    for (const char* name : {"yardstick", "yardstick2"}) {
+        auto c = open(root.filePath(QString::fromLatin1(name)));
         QElapsedTimer t;
         t.start();
         for (int i = 0; i < n; ++i)
             fill(*c->viewContext()->insert<Coins>(), i, pics);
         c->viewContext()->save();
-        oneTransaction = double(t.nsecsElapsed()) / 1e9;
+        oneTransaction = std::min(oneTransaction, double(t.nsecsElapsed()) / 1e9);
     }
     auto c = open(root.filePath("device"));
     // The import's own memory: from the file's bytes in memory to the end of the merge.
