@@ -122,10 +122,16 @@ ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
             });
     }
 
-    // The three replacements touch ASCII characters only, so they are safe on UTF-8 bytes.
-    text.replace('\r', '\n');
-    text.replace("'", "");
-    text.replace(',', ';');
+    // The three replacements (carriage returns to line feeds, apostrophes dropped, commas to
+    // semicolons) touch ASCII characters only, so they are safe on UTF-8 bytes; one pass does
+    // them all.
+    char* write = text.data();
+    for (const char c : std::as_const(text)) {
+        if (c == '\'')
+            continue;
+        *write++ = c == '\r' ? '\n' : (c == ',' ? ';' : c);
+    }
+    text.truncate(write - text.constData());
     const QByteArrayView marker(Marker);
     QList<QByteArrayView> lines;
     for (qsizetype start = 0; start <= text.size();) {
