@@ -7,6 +7,7 @@
 #include "platform/kit/ViewController.h"
 #include "screens/list/MainListSorting.h"
 
+#include <QCache>
 #include <QMenu>
 #include <optional>
 
@@ -51,6 +52,8 @@ private:
     bool searching() const;
     const QList<CoinPtr>& listInUse() const;
     CoinPtr tapped_;
+    // Decoded row pictures by their stored bytes, for the rows drawn lately.
+    QCache<QByteArray, QImage> pictures_{64};
     // The key texts of CoinList for the current sort, made at the first keystroke after a
     // fetch.
     std::optional<MainListSorting::SearchIndex> searchIndex_;
