@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QThread>
+#include <sqlite3.h>
 
 void PelvaneTest::SetUp() {
     ASSERT_TRUE(tmp_.isValid());
@@ -27,4 +28,16 @@ bool waitUntil(const std::function<bool()>& pred, int timeoutMs) {
         QThread::msleep(1);
     }
     return true;
+}
+
+OtherConnection::OtherConnection(const QString& file) {
+    EXPECT_EQ(sqlite3_open(file.toUtf8().constData(), &db_), SQLITE_OK);
+}
+
+OtherConnection::~OtherConnection() {
+    sqlite3_close(db_);
+}
+
+int OtherConnection::exec(const char* sql) {
+    return sqlite3_exec(db_, sql, nullptr, nullptr, nullptr);
 }

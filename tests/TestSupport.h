@@ -18,3 +18,21 @@ private:
 
 // Spins the event loop until pred() holds or the time is up; true when it holds.
 bool waitUntil(const std::function<bool()>& pred, int timeoutMs = 3000);
+
+// A second connection to a store file, as another program (or a disk that refuses writes)
+// would have; closed when it goes.
+class OtherConnection {
+public:
+    explicit OtherConnection(const QString& file);
+    ~OtherConnection();
+    OtherConnection(const OtherConnection&) = delete;
+    OtherConnection& operator=(const OtherConnection&) = delete;
+    // The SQLite result code of running the statements.
+    int exec(const char* sql);
+    struct sqlite3* handle() const {
+        return db_;
+    }
+
+private:
+    struct sqlite3* db_ = nullptr;
+};

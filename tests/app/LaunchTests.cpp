@@ -97,14 +97,10 @@ TEST_F(AppTest, FailedSaveContextIsFatal) {
     auto c = ctx().insert<Coins>();
     c->setDenomination("1 Cent");
     ASSERT_FALSE(ctx().save());
-    sqlite3* db = nullptr;
-    ASSERT_EQ(sqlite3_open(path("Pelvane.sqlite").toUtf8().constData(), &db), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(db,
-                           "CREATE TRIGGER refuse BEFORE UPDATE ON Coins BEGIN "
-                           "SELECT RAISE(ABORT, 'disk says no'); END;",
-                           nullptr, nullptr, nullptr),
+    ASSERT_EQ(OtherConnection(path("Pelvane.sqlite"))
+                  .exec("CREATE TRIGGER refuse BEFORE UPDATE ON Coins BEGIN "
+                        "SELECT RAISE(ABORT, 'disk says no'); END;"),
               SQLITE_OK);
-    sqlite3_close(db);
     c->setDenomination("2 Cents");
     EXPECT_DEATH(delegate->saveContext(),
                  "Pelvane/AppDelegate:63: Fatal error: Unresolved error .*disk says no");

@@ -121,17 +121,11 @@ TEST_F(StoreTest, OneObjectPerRowAndPicturesOnFirstAccess) {
 TEST_F(StoreTest, FailedSaveRollsBackAndKeepsChangesPending) {
     coin("Chile", "1 Peso", 1990);
     ASSERT_FALSE(ctx().save());
-    {
-        // Another writer of the same file refuses one value, as a broken disk would refuse all.
-        sqlite3* db = nullptr;
-        ASSERT_EQ(sqlite3_open(path("Pelvane.sqlite").toUtf8().constData(), &db), SQLITE_OK);
-        ASSERT_EQ(sqlite3_exec(db,
-                               "CREATE TRIGGER refuse BEFORE INSERT ON Coins WHEN "
-                               "NEW.country = 'FAIL' BEGIN SELECT RAISE(ABORT, 'refused'); END;",
-                               nullptr, nullptr, nullptr),
-                  SQLITE_OK);
-        sqlite3_close(db);
-    }
+    // Another writer of the same file refuses one value, as a broken disk would refuse all.
+    ASSERT_EQ(OtherConnection(path("Pelvane.sqlite"))
+                  .exec("CREATE TRIGGER refuse BEFORE INSERT ON Coins WHEN "
+                        "NEW.country = 'FAIL' BEGIN SELECT RAISE(ABORT, 'refused'); END;"),
+              SQLITE_OK);
     auto good = coin("Chile", "5 Pesos", 1991);
     auto bad = coin("FAIL", "10 Pesos", 1992);
     fetch().first()->setYear(1999);
@@ -163,12 +157,9 @@ TEST_F(StoreTest, ReadsBetweenTurnsOfTheEventLoopShareOneTransaction) {
     coin("Chile", "1 Peso", 1990);
     ASSERT_FALSE(ctx().save());
     ASSERT_EQ(fetch().size(), 1);
-    sqlite3* db = nullptr;
-    ASSERT_EQ(sqlite3_open(path("Pelvane.sqlite").toUtf8().constData(), &db), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(db,
-                           "INSERT INTO Coins (country, denomination, year) VALUES "
-                           "('Peru', '1 Sol', 1994)",
-                           nullptr, nullptr, nullptr),
+    auto other = std::make_unique<OtherConnection>(path("Pelvane.sqlite"));
+    ASSERT_EQ(other->exec("INSERT INTO Coins (country, denomination, year) VALUES "
+                          "('Peru', '1 Sol', 1994)"),
               SQLITE_OK);
     EXPECT_EQ(fetch().size(), 1); // the batch still reads what it began with
     QCoreApplication::processEvents();
@@ -176,31 +167,25 @@ TEST_F(StoreTest, ReadsBetweenTurnsOfTheEventLoopShareOneTransaction) {
 
     // The other writer changes the file while a batch is open: the save, which would write
     // in that batch, writes in a fresh transaction instead.
-    ASSERT_EQ(sqlite3_exec(db, "UPDATE Coins SET year = 1995 WHERE country = 'Peru'", nullptr,
-                           nullptr, nullptr),
-              SQLITE_OK);
+    ASSERT_EQ(other->exec("UPDATE Coins SET year = 1995 WHERE country = 'Peru'"), SQLITE_OK);
     coin("Chile", "5 Pesos", 1991);
     ASSERT_FALSE(ctx().save());
     EXPECT_EQ(fetch().size(), 3);
     EXPECT_EQ(fetch(eq("year == %@", "1995")).size(), 1);
     // The other writer is not kept waiting by a batch that has ended.
     QCoreApplication::processEvents();
-    EXPECT_EQ(
-        sqlite3_exec(db, "DELETE FROM Coins WHERE country = 'Peru'", nullptr, nullptr, nullptr),
-        SQLITE_OK);
-    EXPECT_EQ(sqlite3_wal_checkpoint_v2(db, nullptr, SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr),
+    EXPECT_EQ(other->exec("DELETE FROM Coins WHERE country = 'Peru'"), SQLITE_OK);
+    EXPECT_EQ(sqlite3_wal_checkpoint_v2(other->handle(), nullptr, SQLITE_CHECKPOINT_TRUNCATE,
+                                        nullptr, nullptr),
               SQLITE_OK);
-    sqlite3_close(db);
+    other.reset();
     QCoreApplication::processEvents();
     EXPECT_EQ(fetch().size(), 2);
 }
 
 TEST_F(StoreTest, StoreFromANewerVersionIsRefusedAndLeftAlone) {
     container.reset();
-    sqlite3* db = nullptr;
-    ASSERT_EQ(sqlite3_open(path("Pelvane.sqlite").toUtf8().constData(), &db), SQLITE_OK);
-    sqlite3_exec(db, "PRAGMA user_version=99", nullptr, nullptr, nullptr);
-    sqlite3_close(db);
+    OtherConnection(path("Pelvane.sqlite")).exec("PRAGMA user_version=99");
     const QByteArray before = [&] {
         QFile f(path("Pelvane.sqlite"));
         f.open(QIODevice::ReadOnly);
