@@ -19,6 +19,11 @@ static int attributeIndex(const EntityDescription& e, const QString& key) {
     return i;
 }
 
+ManagedObject::~ManagedObject() {
+    if (context_ && rowId_)
+        context_->forget(*entity_, rowId_);
+}
+
 QVariant ManagedObject::value(const QString& key) const {
     return value(attributeIndex(*entity_, key));
 }

@@ -15,7 +15,7 @@ class ManagedObjectContext;
 class ManagedObject : public std::enable_shared_from_this<ManagedObject> {
 public:
     explicit ManagedObject(const EntityDescription& entity);
-    virtual ~ManagedObject() = default;
+    virtual ~ManagedObject();
     ManagedObject(const ManagedObject&) = delete;
     ManagedObject& operator=(const ManagedObject&) = delete;
 

@@ -280,16 +280,22 @@ std::optional<StoreError> ManagedObjectContext::save() {
     // A read batch still open becomes the write transaction, which spares ending one
     // transaction only to begin the next. Should another writer have changed the file since the
     // batch began, the batch cannot write: the changes are written again in a fresh one.
+    // The error of a write transaction that could not begin, if any.
+    auto beginWrite = [this]() -> std::optional<StoreError> {
+        SqliteStatement& begin = db_->cached(QStringLiteral("BEGIN IMMEDIATE"));
+        std::optional<StoreError> error;
+        if (begin.step() != SQLITE_DONE)
+            error = lastError();
+        begin.reset();
+        return error;
+    };
     const bool upgrade = readBatch_;
     if (upgrade) {
         readBatch_ = false;
         batchEnd_->stop();
         db_->resetAll();
-    } else {
-        SqliteStatement& begin = db_->cached(QStringLiteral("BEGIN IMMEDIATE"));
-        if (begin.step() != SQLITE_DONE)
-            return lastError();
-        begin.reset();
+    } else if (auto error = beginWrite()) {
+        return error;
     }
     auto fail = [this]() {
         StoreError err = lastError();
@@ -302,8 +308,8 @@ std::optional<StoreError> ManagedObjectContext::save() {
     if (!written && upgrade && (sqlite3_errcode(db_->handle()) & 0xff) == SQLITE_BUSY) {
         db_->exec(QStringLiteral("ROLLBACK"));
         db_->resetAll();
-        if (!db_->exec(QStringLiteral("BEGIN IMMEDIATE")))
-            return lastError();
+        if (auto error = beginWrite())
+            return error;
         written = writePending(newIds);
     }
     if (!written)
@@ -433,6 +439,13 @@ void ManagedObjectContext::loadData(ManagedObject& o) {
     st.reset();
 }
 
+void ManagedObjectContext::forget(const EntityDescription& e, qint64 rowId) {
+    auto& map = identity_[std::size_t(e.index)];
+    // The row id may already stand for a newer object (a deleted last row's id is reused).
+    if (auto it = map.find(rowId); it != map.end() && it->expired())
+        map.erase(it);
+}
+
 ObjectPtr ManagedObjectContext::liveObject(const EntityDescription& e, qint64 rowId) const {
     const auto& map = identity_[std::size_t(e.index)];
     auto it = map.find(rowId);
@@ -509,7 +522,7 @@ QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreE
 
     QVariantList binds;
     const QString where = request.predicate.sql(e, binds);
-    // Once many objects of the entity are in memory (a long list sorted again), the row ids
+    // Once many objects of the entity are alive (a long list sorted again), the row ids
     // alone are read, in order, often from an index only; rows not in memory yet are read one
     // by one.
     const bool keysFirst = identity_[std::size_t(e.index)].size() >= kKeysFirstThreshold;

@@ -52,6 +52,9 @@ public:
 
 private:
     ObjectPtr liveObject(const EntityDescription& entity, qint64 rowId) const;
+    // A stored object has gone from memory: its entry leaves the identity map, so that the
+    // map counts the objects alive.
+    void forget(const EntityDescription& entity, qint64 rowId);
     friend class ManagedObject;
     void noteChange(ManagedObject& object, int attribute);
     void loadData(ManagedObject& object);
