@@ -1,4 +1,5 @@
 #include "exchange/ExchangeReader.h"
+#include "model/PrintedFetch.h"
 
 #include "exchange/ExchangeWriter.h"
 #include "model/ManagedObjectContext.h"
@@ -34,9 +35,10 @@ Fields splitFields(QByteArrayView line) {
     return fields;
 }
 
-// A field's text: null for a field the line does not have, empty for an empty one.
+// A key field's text; a field the line does not have is the empty text, which matches only a
+// stored empty text, never an absent one.
 QString fieldText(const Fields& fields, qsizetype position) {
-    return position < fields.size() ? QString::fromUtf8(fields[position]) : QString();
+    return position < fields.size() ? QString::fromUtf8(fields[position]) : QStringLiteral("");
 }
 
 // The attribute value a field gives; an invalid QVariant with *parsed false when a number
@@ -86,8 +88,6 @@ QVariant convert(AttributeType type, const QString& attribute, QByteArrayView fi
 void apply(Coins& coin, const Fields& fields, bool isNew) {
     const EntityDescription& entity = coin.entity();
     for (qsizetype p = 0; p < fields.size(); ++p) {
-        if (p >= kAttributes.size())
-            fatalError(QStringLiteral("Index out of range"), "Pelvane/ImportViewController", 262);
         const int attribute = entity.indexOf(kAttributes[p]);
         const AttributeType type = entity.attributes[std::size_t(attribute)].type;
         bool parsed = true, skip = false;
@@ -150,6 +150,10 @@ ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
 
     for (QByteArrayView bytes : std::as_const(lines)) {
         const Fields fields = splitFields(bytes);
+        // A line with more fields than there are attributes is no line of ours, whether it
+        // would create, update or be skipped.
+        if (fields.size() > kAttributes.size())
+            fatalError(QStringLiteral("Index out of range"), "Pelvane/ImportViewController", 262);
         const QString theCountry = fieldText(fields, 0);
         const QString theDenomination = fieldText(fields, 1);
         const QString theMintMark = fieldText(fields, 8);
@@ -161,8 +165,7 @@ ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
              Predicate::format(QStringLiteral("mintMark == %@"), theMintMark),
              Predicate::format(QStringLiteral("year == %@"), theYear)});
         request.returnsObjectsAsFaults = false;
-        StoreError error;
-        const QList<CoinPtr> results = context.fetch<Coins>(request, &error);
+        const QList<CoinPtr> results = fetchOrPrint<Coins>(context, request);
         if (results.isEmpty()) {
             auto coin = context.insert<Coins>();
             apply(*coin, fields, true);

@@ -1,4 +1,5 @@
 #include "exchange/ExchangeWriter.h"
+#include "model/PrintedFetch.h"
 
 #include "model/ManagedObjectContext.h"
 #include "model/Numbers.h"
@@ -52,8 +53,7 @@ QList<CoinPtr> coinsInFileOrder(ManagedObjectContext& context) {
                                {QStringLiteral("year"), true},
                                {QStringLiteral("mintMark"), true}};
     request.returnsObjectsAsFaults = false;
-    StoreError error;
-    return context.fetch<Coins>(request, &error);
+    return fetchOrPrint<Coins>(context, request);
 }
 
 QByteArray exchangeText(ManagedObjectContext& context, const Progress& progress) {

@@ -27,6 +27,7 @@ EntityDescription make(const char* name, int index,
             break;
         default:
             a.slot = e.numberCount++;
+            e.scalarMask |= 1u << e.attributes.size();
             break;
         }
         e.positions.insert(a.name, int(e.attributes.size()));

@@ -3,6 +3,7 @@
 // sorting and the exchange file.
 #include <QHash>
 #include <QString>
+#include <QtGlobal>
 #include <vector>
 
 enum class AttributeType { Text, Data, Int16, Double, Float };
@@ -19,7 +20,8 @@ struct EntityDescription {
     int textCount = 0;
     int dataCount = 0;
     int numberCount = 0;
-    int index = 0; // position in the model
+    quint32 scalarMask = 0; // bit per attribute: a number, which always holds a value
+    int index = 0;          // position in the model
     QHash<QString, int> positions;
 
     // -1 when the entity has no attribute of that name.

@@ -7,7 +7,8 @@ ManagedObject::ManagedObject(const EntityDescription& entity)
     : entity_(&entity)
     , texts_(std::size_t(entity.textCount))
     , data_(std::size_t(entity.dataCount))
-    , numbers_(std::size_t(entity.numberCount), 0.0) {}
+    , numbers_(std::size_t(entity.numberCount), 0.0)
+    , present_(entity.scalarMask) {}
 
 static int attributeIndex(const EntityDescription& e, const QString& key) {
     const int i = e.indexOf(key);
@@ -63,9 +64,12 @@ void ManagedObject::setValue(int attribute, const QVariant& v) {
     const quint32 bit = 1u << attribute;
     const auto slot = std::size_t(a.slot);
     // A null QString is Qt's way of saying "no text"; it clears the attribute like nil would.
-    const bool absent = !v.isValid() ||
-                        (v.typeId() == QMetaType::QString && v.toString().isNull()) ||
-                        (v.typeId() == QMetaType::QByteArray && v.toByteArray().isNull());
+    // A number given no value becomes 0: numbers are never absent, so that "year = 0" finds
+    // every coin whose year was never set.
+    const bool isNumber = entity_->scalarMask & bit;
+    const bool absent =
+        !isNumber && (!v.isValid() || (v.typeId() == QMetaType::QString && v.toString().isNull()) ||
+                      (v.typeId() == QMetaType::QByteArray && v.toByteArray().isNull()));
     const bool had = present_ & bit;
     const QVariant before = (a.type == AttributeType::Data || !had) ? QVariant() : value(attribute);
     if (absent)
@@ -81,13 +85,13 @@ void ManagedObject::setValue(int attribute, const QVariant& v) {
         dataLoaded_ |= bit;
         break;
     case AttributeType::Int16:
-        numbers_[slot] = absent ? 0.0 : double(qint16(v.toInt()));
+        numbers_[slot] = double(qint16(v.toInt()));
         break;
     case AttributeType::Double:
-        numbers_[slot] = absent ? 0.0 : v.toDouble();
+        numbers_[slot] = v.toDouble();
         break;
     case AttributeType::Float:
-        numbers_[slot] = absent ? 0.0 : double(v.toFloat());
+        numbers_[slot] = double(v.toFloat());
         break;
     }
     // Writing back an equal value is no change: the import rewrites every field of the coins

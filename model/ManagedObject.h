@@ -25,13 +25,14 @@ public:
     ManagedObjectContext* managedObjectContext() const { return context_; }
 
     // Generic access by attribute name (a programming error for an unknown name).
-    // Absent texts and data read as an invalid QVariant; absent scalars read as 0.
+    // Absent texts and data read as an invalid QVariant. Numbers are never absent: one never
+    // set, or set to "no value", holds 0 and is stored as 0.
     QVariant value(const QString& key) const;
     void setValue(const QString& key, const QVariant& value);
     // By position in the entity's attribute table.
     QVariant value(int attribute) const;
     void setValue(int attribute, const QVariant& value);
-    // True when the attribute holds a value (a scalar set to "no value" has none).
+    // True when the attribute holds a value; always true for a number.
     bool hasValue(int attribute) const;
 
     bool isInserted() const { return state_ == State::Inserted; }

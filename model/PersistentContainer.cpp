@@ -14,6 +14,7 @@ QString& directoryOverride() {
     return dir;
 }
 
+// Numbers are never absent: a column of numbers holds 0 where nothing was set.
 QString columnType(AttributeType t) {
     switch (t) {
     case AttributeType::Text:
@@ -21,10 +22,22 @@ QString columnType(AttributeType t) {
     case AttributeType::Data:
         return QStringLiteral("BLOB");
     case AttributeType::Int16:
-        return QStringLiteral("INTEGER");
+        return QStringLiteral("INTEGER NOT NULL DEFAULT 0");
     default:
-        return QStringLiteral("REAL");
+        return QStringLiteral("REAL NOT NULL DEFAULT 0");
     }
+}
+
+// From schema 1 to 2: stores written before numbers were kept as 0 hold NULL for every number
+// never set, which an equality such as "year = 0" cannot find. Only those values change.
+QStringList numbersNeverNull() {
+    QStringList sql;
+    for (const EntityDescription* e : Model::entities())
+        for (const auto& a : e->attributes)
+            if (e->scalarMask & (1u << e->indexOf(a.name)))
+                sql << QStringLiteral("UPDATE \"%1\" SET \"%2\" = 0 WHERE \"%2\" IS NULL")
+                           .arg(e->name, a.name);
+    return sql;
 }
 
 // Tables and the indexes behind every query the screens make. Serial number and mint mark are
@@ -106,9 +119,12 @@ std::optional<StoreError> PersistentContainer::open(const QString& path) {
     const qint64 current = version.columnInt(0);
     version = SqliteStatement();
     if (current > SchemaVersion)
-        return failure(134100, QStringLiteral("The model used to open the store is incompatible "
-                                              "with the one used to create the store (version %1)")
-                                   .arg(current));
+        return failure(134100,
+                       QStringLiteral("The model used to open the store is incompatible with the "
+                                      "one used to create the store: it was written by a newer "
+                                      "Pelvane (store version %1; this one reads up to %2)")
+                           .arg(current)
+                           .arg(SchemaVersion));
     // Small pages keep the bytes each single-coin commit writes low: a commit rewrites every
     // index page it touches.
     if (current == 0)
@@ -121,15 +137,20 @@ std::optional<StoreError> PersistentContainer::open(const QString& path) {
         // Reading through a memory map spares a system call and a copy per page.
         !db_->exec(QStringLiteral("PRAGMA mmap_size=1073741824")))
         return failure(db_->errorCode(), db_->errorMessage());
-    if (current == 0) {
-        if (!db_->exec(QStringLiteral("BEGIN")))
+    if (current < SchemaVersion) {
+        // A new store gets the whole schema, an older one the steps it lacks; either way in
+        // one transaction, so a failure leaves the file as it was.
+        const QStringList steps = current == 0 ? schema() : numbersNeverNull();
+        if (!db_->exec(QStringLiteral("BEGIN IMMEDIATE")))
             return failure(db_->errorCode(), db_->errorMessage());
-        for (const QString& statement : schema())
+        for (const QString& statement :
+             steps + QStringList{QStringLiteral("PRAGMA user_version=%1").arg(SchemaVersion)})
             if (!db_->exec(statement)) {
-                const StoreError e = failure(db_->errorCode(), db_->errorMessage());
-                return e;
+                const int code = db_->errorCode();
+                const QString message = db_->errorMessage();
+                db_->exec(QStringLiteral("ROLLBACK"));
+                return failure(code, message);
             }
-        db_->exec(QStringLiteral("PRAGMA user_version=%1").arg(SchemaVersion));
         if (!db_->exec(QStringLiteral("COMMIT")))
             return failure(db_->errorCode(), db_->errorMessage());
     }

@@ -18,7 +18,7 @@ struct StoreDescription {
 class PersistentContainer {
 public:
     // The schema this build writes; a store with a newer one is refused, not touched.
-    static constexpr int SchemaVersion = 1;
+    static constexpr int SchemaVersion = 2;
 
     explicit PersistentContainer(QString name);
     ~PersistentContainer();

@@ -1,17 +1,20 @@
 #include "screens/ProcessState.h"
 
-QString SelectedCountry;
-QString SelectedDenomination;
-QString SelectedDescription;
-QString SelectedDesigner;
-QString SelectedEdge;
-QString SelectedGrade;
-QString SelectedMintLocation;
-QString SelectedMintMark;
-QString SelectedNotes;
-QString SelectedPeriod;
-QString SelectedSerialNumber;
-QString SelectedStrikeCharacter;
+#include "model/Records.h"
+#include "platform/ImageCoding.h"
+
+QString SelectedCountry = QStringLiteral("");
+QString SelectedDenomination = QStringLiteral("");
+QString SelectedDescription = QStringLiteral("");
+QString SelectedDesigner = QStringLiteral("");
+QString SelectedEdge = QStringLiteral("");
+QString SelectedGrade = QStringLiteral("");
+QString SelectedMintLocation = QStringLiteral("");
+QString SelectedMintMark = QStringLiteral("");
+QString SelectedNotes = QStringLiteral("");
+QString SelectedPeriod = QStringLiteral("");
+QString SelectedSerialNumber = QStringLiteral("");
+QString SelectedStrikeCharacter = QStringLiteral("");
 
 double SelectedDiameter = 0;
 double SelectedThickness = 0;
@@ -29,12 +32,47 @@ QByteArray ShareBackImageData;
 QString CalledFromList;
 bool SortAscending = true;
 
+namespace {
+QString text(const QString& value) {
+    return value.isNull() ? QStringLiteral("") : value;
+}
+} // namespace
+
+void copyIntoCurrentCoin(const Coins& coin) {
+    SelectedCountry = text(coin.country());
+    SelectedDenomination = text(coin.denomination());
+    SelectedDescription = text(coin.descrip());
+    SelectedDesigner = text(coin.designer());
+    SelectedEdge = text(coin.edge());
+    SelectedGrade = text(coin.gradeNumber());
+    SelectedMintLocation = text(coin.mintLocation());
+    SelectedMintMark = text(coin.mintMark());
+    SelectedNotes = text(coin.notes());
+    SelectedPeriod = text(coin.period());
+    SelectedSerialNumber = text(coin.serialNumber());
+    SelectedStrikeCharacter = text(coin.strikeCharacter());
+    SelectedDiameter = coin.diameter();
+    SelectedThickness = coin.thickness();
+    SelectedWeight = coin.weight();
+    SelectedValue = coin.value();
+    SelectedTotalValue = coin.totalValue();
+    SelectedQuantity = coin.quantity();
+    SelectedYear = coin.year();
+    ShareFrontImageData = coin.frontImage();
+    ShareBackImageData = coin.backImage();
+    ZoomImages.clear();
+    if (coin.hasValue(Coins::Attr::frontImage))
+        ZoomImages.append(ImageCoding::decode(coin.frontImage()));
+    if (coin.hasValue(Coins::Attr::backImage))
+        ZoomImages.append(ImageCoding::decode(coin.backImage()));
+}
+
 void resetProcessState() {
     for (QString* s :
          {&SelectedCountry, &SelectedDenomination, &SelectedDescription, &SelectedDesigner,
           &SelectedEdge, &SelectedGrade, &SelectedMintLocation, &SelectedMintMark, &SelectedNotes,
           &SelectedPeriod, &SelectedSerialNumber, &SelectedStrikeCharacter, &CalledFromList})
-        s->clear();
+        *s = QStringLiteral("");
     SelectedDiameter = SelectedThickness = SelectedWeight = 0;
     SelectedValue = SelectedTotalValue = 0;
     SelectedQuantity = SelectedYear = SelectedCoinID = 0;

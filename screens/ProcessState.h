@@ -6,7 +6,10 @@
 #include <QList>
 #include <QString>
 
-// One text variable per text attribute of the current coin.
+class Coins;
+
+// One text variable per text attribute of the current coin. They are texts, never absent: an
+// absent attribute is copied as "", which a predicate matches only with a stored "".
 extern QString SelectedCountry;
 extern QString SelectedDenomination;
 extern QString SelectedDescription;
@@ -41,6 +44,10 @@ extern QByteArray ShareBackImageData;
 extern QString CalledFromList;
 // Written by the group screens' sort buttons, read by the print screen.
 extern bool SortAscending;
+
+// Every attribute of the coin opened from a coin list (not SelectedCoinID, which the main list
+// alone writes), with its decoded pictures.
+void copyIntoCurrentCoin(const Coins& coin);
 
 // Back to the values at process start.
 void resetProcessState();

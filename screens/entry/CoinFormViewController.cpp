@@ -1,4 +1,5 @@
 #include "screens/entry/CoinFormViewController.h"
+#include "model/PrintedFetch.h"
 
 #include "platform/Console.h"
 #include "platform/ImageCoding.h"
@@ -155,7 +156,7 @@ void CoinFormViewController::loadPickerLists() {
         FetchRequest request(QString::fromLatin1(entity));
         request.sortDescriptors = {{QString::fromLatin1(key), true}};
         request.returnsObjectsAsFaults = false;
-        for (const ObjectPtr& record : context->fetch(request))
+        for (const ObjectPtr& record : fetchOrPrint(*context, request))
             into.append(record->value(0).toString());
     };
     load("StrikeCharacters", "strike", StrikeCharacterList);
@@ -210,6 +211,11 @@ void CoinFormViewController::didSelectRow(PickerView* picker, int row) {
         GradeNumberTextField->setText(value);
     else if (picker->tag() == 3)
         EdgeTextField->setText(value);
+}
+
+void CoinFormViewController::mousePressEvent(QMouseEvent* event) {
+    dismissKeyboard();
+    ViewController::mousePressEvent(event);
 }
 
 void CoinFormViewController::dismissKeyboard() {

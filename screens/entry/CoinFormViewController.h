@@ -54,6 +54,8 @@ public:
     void dismissKeyboard();
 
 protected:
+    // A click on the form outside its fields ends editing.
+    void mousePressEvent(QMouseEvent* event) override;
     // Loads the picker lists, wires the filters and pickers, styles the buttons.
     void setUpForm();
     void loadPickerLists();

@@ -1,4 +1,5 @@
 #include "screens/entry/EditViewController.h"
+#include "model/PrintedFetch.h"
 
 #include "platform/Console.h"
 #include "platform/ImageCoding.h"
@@ -38,11 +39,10 @@ void EditViewController::viewDidLoad() {
     setUpForm();
     Styling::round(NotesButton, 10, 2, Qt::black);
     // Double click on the front picture zooms; a long press on the back picture or the value
-    // looks the coin up; a click elsewhere ends editing.
+    // looks the coin up.
     FrontImage->installEventFilter(this);
     BackImage->installEventFilter(this);
     ValueTextField->installEventFilter(this);
-    installEventFilter(this);
     navigationItem().rightItems = {{QStringLiteral("Share"), [this] { shareButtonClicked(); },
                                     nullptr, QStringLiteral("ShareButton")}};
     ShareButton->hide();
@@ -67,8 +67,6 @@ bool EditViewController::eventFilter(QObject* watched, QEvent* event) {
         longPress_->start();
     } else if (event->type() == QEvent::MouseButtonRelease && longPress_) {
         longPress_->stop();
-    } else if (watched == this && event->type() == QEvent::MouseButtonPress) {
-        dismissKeyboard();
     }
     return false;
 }
@@ -92,7 +90,7 @@ void EditViewController::SaveButtonClicked() {
     request.predicate = Predicate::andPredicate(
         {Predicate::format(QStringLiteral("id = %@"), QString::number(SelectedCoinID))});
     request.returnsObjectsAsFaults = false;
-    Results = managedObjectContext->fetch<Coins>(request);
+    Results = fetchOrPrint<Coins>(*managedObjectContext, request);
     ResultsCount = int(Results.size());
     if (ResultsCount > 0) {
         CoinFormRules::applyEditForm(*Results.first(), formTexts());
@@ -124,13 +122,11 @@ void EditViewController::removeImage(bool front) {
             terms.push_back(
                 Predicate::format(QStringLiteral("serialNumber == %@"), SelectedSerialNumber));
         else
-            terms.push_back(
-                Predicate::format(QStringLiteral("mintMark == %@"),
-                                  SelectedMintMark.isNull() ? QString("") : SelectedMintMark));
+            terms.push_back(Predicate::format(QStringLiteral("mintMark == %@"), SelectedMintMark));
         FetchRequest request(QStringLiteral("Coins"));
         request.predicate = Predicate::andPredicate(terms);
         request.returnsObjectsAsFaults = false;
-        const QList<CoinPtr> found = Application::viewContext()->fetch<Coins>(request);
+        const QList<CoinPtr> found = fetchOrPrint<Coins>(*Application::viewContext(), request);
         if (found.isEmpty())
             return;
         found.first()->setValue(front ? Coins::Attr::frontImage : Coins::Attr::backImage,

@@ -1,4 +1,5 @@
 #include "screens/entry/NotesViewController.h"
+#include "model/PrintedFetch.h"
 
 #include "platform/kit/Appearance.h"
 #include "screens/Application.h"
@@ -37,7 +38,7 @@ void NotesViewController::SaveButtonClicked() {
          Predicate::format(QStringLiteral("year = %@"), QString::number(SelectedYear))});
     request.returnsObjectsAsFaults = false;
     StoreError error;
-    const QList<CoinPtr> found = managedObjectContext->fetch<Coins>(request, &error);
+    const QList<CoinPtr> found = fetchOrPrint<Coins>(*managedObjectContext, request, &error);
     if (error.code == 0) {
         Results = found;
         ResultsCount = int(found.size());

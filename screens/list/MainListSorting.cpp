@@ -67,10 +67,9 @@ SearchIndex searchIndex(const QList<CoinPtr>& all, const QString& sortName) {
 }
 
 QList<CoinPtr> filter(const QList<CoinPtr>& all, const SearchIndex& index, const QString& text) {
-    if (text.isEmpty())
+    // Before a sort is chosen the search has no key: every coin stays shown.
+    if (text.isEmpty() || !index.sorted)
         return all;
-    if (!index.sorted)
-        return {};
     // Read as required: a coin without a country cannot be searched by country.
     if (index.missingCountry)
         fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value"),

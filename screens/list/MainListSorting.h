@@ -20,7 +20,8 @@ const QList<SortChoice>& choices();
 // nullptr for an absent or unknown sort name.
 const SortChoice* choiceFor(const QString& sortName);
 // The coins of `all` (in order) whose key text for the sort contains `text`. Text keys compare
-// case-insensitively, numeric keys on the number's text. No sort name: nothing is filtered.
+// case-insensitively, numeric keys on the number's text. No sort name: nothing is filtered,
+// every coin stays.
 // A coin without a country is a fatal error when searching by country.
 QList<CoinPtr> filter(const QList<CoinPtr>& all, const QString& sortName, const QString& text);
 

@@ -32,9 +32,10 @@ MainListTableViewCell::MainListTableViewCell(QWidget* parent)
 }
 
 void MainListTableViewCell::setDarkMode(bool dark) {
-    // The pale row background stays in both appearances, so the labels must be dark on it.
+    // The pale row background stays in both appearances, so the four text lines turn dark on
+    // it; the country label keeps the appearance's colour.
     const QString colour = dark ? QStringLiteral("color: black;") : QString();
-    for (QLabel* l : {DenominationLabel, Label2, Label3, Label4, CountryLabel})
+    for (QLabel* l : {DenominationLabel, Label2, Label3, Label4})
         l->setStyleSheet(QStringLiteral("border: none; padding: 0px; background: transparent; ") +
                          colour);
 }

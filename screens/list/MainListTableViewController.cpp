@@ -1,4 +1,5 @@
 #include "screens/list/MainListTableViewController.h"
+#include "model/PrintedFetch.h"
 
 #include "platform/Console.h"
 #include "platform/Fatal.h"
@@ -91,10 +92,7 @@ void MainListTableViewController::fetchCoins() {
     request.returnsObjectsAsFaults = false;
     if (const SortChoice* choice = MainListSorting::choiceFor(SortName.value_or(QString())))
         request.sortDescriptors = {{choice->key, ascending}};
-    StoreError error;
-    const QList<CoinPtr> fetched = managedObjectContext->fetch<Coins>(request, &error);
-    if (fetched.isEmpty() && error.code != 0)
-        Console::print(QStringLiteral("Could not fetch. %1").arg(error.description()));
+    const QList<CoinPtr> fetched = fetchOrPrint<Coins>(*managedObjectContext, request);
     CoinCount = 0;
     for (const CoinPtr& coin : fetched) {
         CoinList.append(coin);
@@ -161,34 +159,9 @@ TableViewCell* MainListTableViewController::cellForRow(TableView* table, IndexPa
 
 void MainListTableViewController::didSelectRow(TableView* table, IndexPath path) {
     const CoinPtr coin = listInUse().at(path.row);
-    SelectedCountry = coin->country();
-    SelectedDenomination = coin->denomination();
-    SelectedDescription = coin->descrip();
-    SelectedDesigner = coin->designer();
-    SelectedEdge = coin->edge();
-    SelectedGrade = coin->gradeNumber();
-    SelectedMintLocation = coin->mintLocation();
-    SelectedMintMark = coin->mintMark();
-    SelectedNotes = coin->notes();
-    SelectedPeriod = coin->period();
-    SelectedSerialNumber = coin->serialNumber();
-    SelectedStrikeCharacter = coin->strikeCharacter();
-    SelectedDiameter = coin->diameter();
-    SelectedThickness = coin->thickness();
-    SelectedWeight = coin->weight();
-    SelectedValue = coin->value();
-    SelectedTotalValue = coin->totalValue();
-    SelectedQuantity = coin->quantity();
-    SelectedYear = coin->year();
+    copyIntoCurrentCoin(*coin);
     if (!QString::number(coin->id()).isEmpty())
         SelectedCoinID = coin->id();
-    ShareFrontImageData = coin->frontImage();
-    ShareBackImageData = coin->backImage();
-    ZoomImages.clear();
-    if (coin->hasValue(Coins::Attr::frontImage))
-        ZoomImages.append(ImageCoding::decode(coin->frontImage()));
-    if (coin->hasValue(Coins::Attr::backImage))
-        ZoomImages.append(ImageCoding::decode(coin->backImage()));
     table->deselectRow(path);
     tapped_ = coin;
     if (Storyboard::hasSegue(QStringLiteral("showDetails")))

@@ -1,4 +1,5 @@
 #include "screens/menu/LaunchHousekeeping.h"
+#include "model/PrintedFetch.h"
 
 #include "platform/Console.h"
 #include "platform/Fatal.h"
@@ -72,9 +73,8 @@ void LaunchHousekeeping::fixIDs() {
     ManagedObjectContext* context = Application::viewContext();
     FetchRequest request(QStringLiteral("Coins"));
     request.returnsObjectsAsFaults = false;
-    StoreError error;
     // Appended, not replaced: a second repair in the same life renumbers the earlier ones too.
-    CoinList.append(context->fetch<Coins>(request, &error));
+    CoinList.append(fetchOrPrint<Coins>(*context, request));
     qint16 counter = 0;
     for (const CoinPtr& coin : std::as_const(CoinList)) {
         if (counter == 32767)

@@ -195,6 +195,8 @@ TEST_F(StoreTest, StoreFromANewerVersionIsRefusedAndLeftAlone) {
     std::optional<StoreError> failure;
     c.loadPersistentStores([&](const StoreDescription&, const auto& e) { failure = e; });
     ASSERT_TRUE(failure.has_value());
+    EXPECT_TRUE(failure->message.contains("written by a newer Pelvane (store version 99"))
+        << failure->message.toStdString();
     EXPECT_EQ(c.viewContext(), nullptr);
     QFile f(path("Pelvane.sqlite"));
     f.open(QIODevice::ReadOnly);

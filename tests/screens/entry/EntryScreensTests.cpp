@@ -1,4 +1,5 @@
 #include "../ScreenFixture.h"
+#include "exchange/ExchangeReader.h"
 #include "platform/ImageCoding.h"
 #include "screens/entry/AddViewController.h"
 #include "screens/entry/EditViewController.h"
@@ -158,7 +159,7 @@ TEST_F(EntryScreenTest, EditSavesByTheNotedIdAndReturnsWhereItCameFrom) {
     EXPECT_EQ(top(), list);
     EXPECT_TRUE(a->hasValue(Coins::Attr::diameter));
     EXPECT_EQ(a->diameter(), 0.0);
-    EXPECT_FALSE(a->hasValue(Coins::Attr::weight));
+    EXPECT_EQ(a->weight(), 0.0);
     EXPECT_EQ(a->mintMark(), "None");
 
     // Opened from the second coin, removing the back picture finds the first coin with the
@@ -293,4 +294,65 @@ TEST_F(EntryScreenTest, RateShareRows) {
     dismissAlert();
     rate->tableView->selectRow({0, 4});
     EXPECT_EQ(alertText(), "Can't Send Email / Your Device is not able to send Email.");
+}
+
+// A coin imported without a year has year 0, and the screens that find the opened coin again
+// by its noted values find it; texts are matched as texts, so an absent denomination is not
+// found by the empty text.
+TEST_F(EntryScreenTest, ImportedCoinWithoutYearKeepsNotesAndLosesOnlyTheRemovedPicture) {
+    const QByteArray front = picture(Qt::red).toBase64(), back = picture(Qt::blue).toBase64();
+    Exchange::mergeExchangeText(ctx(), QByteArray("[PELVANE]\nPeru^Sol^^^^^^^P") +
+                                           QByteArray(11, '^') + front + '^' + back +
+                                           "\nChile^^^^^^^^^^^^^^^^^^1990\n");
+    const auto coins = all<Coins>();
+    ASSERT_EQ(coins.size(), 2);
+    const CoinPtr peru = coins[0], chile = coins[1];
+    ASSERT_EQ(peru->year(), 0);
+    ASSERT_FALSE(chile->hasValue(Coins::Attr::denomination));
+
+    openList();
+    auto* edit = openFromList(peru);
+    edit->NotesButton->click();
+    auto* notes = topAs<NotesViewController>();
+    ASSERT_NE(notes, nullptr);
+    notes->NotesTextView->setText("Bought in Lima");
+    notes->SaveButton->click();
+    EXPECT_EQ(peru->notes(), "Bought in Lima");
+    EXPECT_FALSE(ctx().hasChanges());
+
+    edit->RearRemoveButton->click();
+    AlertController::current()->triggerAction("Yes");
+    EXPECT_FALSE(peru->hasValue(Coins::Attr::backImage));
+    EXPECT_TRUE(peru->hasValue(Coins::Attr::frontImage));
+
+    // The coin without a denomination: its noted denomination is "", which no stored text
+    // equals, so the notes editor changes nothing.
+    edit->performUnwind("unwindToList");
+    edit = openFromList(chile);
+    EXPECT_FALSE(SelectedDenomination.isNull());
+    edit->NotesButton->click();
+    topAs<NotesViewController>()->NotesTextView->setText("lost, as the form says");
+    topAs<NotesViewController>()->SaveButton->click();
+    EXPECT_FALSE(chile->hasValue(Coins::Attr::notes));
+}
+
+TEST_F(EntryScreenTest, AClickOutsideTheFieldsEndsEditingOnBothForms) {
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    const CoinPtr dime = addCoin("Dime", 1964);
+    auto* list = openList();
+    list->performSegue("AddCoin");
+    auto* add = topAs<AddViewController>();
+    add->YearTextField->setFocus();
+    ASSERT_TRUE(add->YearTextField->hasFocus());
+    QTest::mouseClick(add, Qt::LeftButton, {}, QPoint(2, add->height() - 2));
+    EXPECT_FALSE(add->YearTextField->hasFocus());
+    add->performUnwind("unwindToList");
+
+    auto* edit = openFromList(dime);
+    ASSERT_NE(edit, nullptr);
+    edit->DenominationTextField->setFocus();
+    ASSERT_TRUE(edit->DenominationTextField->hasFocus());
+    QTest::mouseClick(edit, Qt::LeftButton, {}, QPoint(2, edit->height() - 2));
+    EXPECT_FALSE(edit->DenominationTextField->hasFocus());
 }
