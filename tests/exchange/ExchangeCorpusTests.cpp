@@ -17,7 +17,7 @@ struct CorpusCase {
     const char* file;
     int created, updated, skipped;
     bool wrongFile;
-    // What the store holds afterwards; `only` is the one coin when there is exactly one.
+    // What the store holds afterwards, when the file gives one coin.
     std::function<void(StoreTest&, const CoinPtr& only)> check;
 };
 } // namespace
@@ -69,8 +69,10 @@ TEST_F(StoreTest, ExchangeFileCorpus) {
         EXPECT_EQ(r.skipped, k.skipped);
         const auto all = fetch();
         EXPECT_EQ(all.size(), k.created);
-        if (k.check)
-            k.check(*this, all.size() == 1 ? all.first() : CoinPtr());
+        if (k.check) {
+            ASSERT_EQ(all.size(), 1);
+            k.check(*this, all.first());
+        }
     }
     // A line with more fields than attributes stops the import, whatever the line would do:
     // here it matches two stored coins and would otherwise be skipped.
