@@ -137,19 +137,7 @@ TableViewCell* MainListTableViewController::cellForRow(TableView* table, IndexPa
     auto* cell = static_cast<MainListTableViewCell*>(table->dequeueReusableCell("Cell"));
     const Coins& coin = *listInUse().at(path.row);
     cell->setDarkMode(DarkMode);
-    // Pictures are decoded only for the rows being drawn, and kept for a while: a search or a
-    // scroll draws the same rows again and again.
-    QImage picture;
-    if (coin.hasValue(Coins::Attr::frontImage)) {
-        const QByteArray bytes = coin.frontImage();
-        if (const QImage* known = pictures_.object(bytes)) {
-            picture = *known;
-        } else {
-            picture = ImageCoding::decode(bytes);
-            pictures_.insert(bytes, new QImage(picture));
-        }
-    }
-    cell->FrontImage->setImage(picture);
+    cell->FrontImage->setImage(pictures_.front(coin));
     cell->DenominationLabel->setText(coin.denomination());
     cell->Label2->setText(MainListSorting::yearLine(coin));
     Qty = MainListSorting::shownQuantity(coin);
