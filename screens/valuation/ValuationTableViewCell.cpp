@@ -5,4 +5,7 @@ ValuationTableViewCell::ValuationTableViewCell(QWidget* parent)
     , CoinImage(picture())
     , DenominationLabel(line(0))
     , SecondLabel(line(1))
-    , ThirdLabel(line(2)) {}
+    , ThirdLabel(line(2)) {
+    // A long denomination and the year take two lines on a phone.
+    DenominationLabel->setWordWrap(true);
+}

@@ -166,6 +166,10 @@ void ValuationViewController::didSelectRow(TableView* table, IndexPath path) {
     DenominationTextField->setText(Denomination);
     SaveButton->setEnabled(true);
     Styling::round(SaveButton, 10, 2, Qt::black, Qt::cyan);
+    // Dark text on the light background in both appearances.
+    QPalette palette = SaveButton->palette();
+    palette.setColor(QPalette::ButtonText, Qt::black);
+    SaveButton->setPalette(palette);
     table->deselectRow(path);
 }
 
