@@ -5,6 +5,7 @@
 #include "platform/ImageCoding.h"
 #include "platform/kit/Appearance.h"
 #include "screens/Application.h"
+#include "screens/CoinCount.h"
 #include "screens/DetailReceiver.h"
 #include "screens/ProcessState.h"
 #include "screens/list/MainListSorting.h"
@@ -98,11 +99,8 @@ void MainListTableViewController::fetchCoins() {
     CoinCount = 0;
     for (const CoinPtr& coin : fetched) {
         CoinList.append(coin);
-        const int sum = int(CoinCount) + coin->quantity();
-        if (sum > 32767 || sum < -32768)
-            fatalError(QStringLiteral("Arithmetic overflow"), "Pelvane/MainListTableViewController",
-                       __LINE__);
-        CoinCount = qint16(sum);
+        CoinCount = CoinCount::add(CoinCount, coin->quantity(),
+                                   "Pelvane/MainListTableViewController", __LINE__);
     }
     tableView->reloadData();
 }

@@ -2,11 +2,11 @@
 
 #include "model/Numbers.h"
 #include "platform/Console.h"
-#include "platform/Fatal.h"
 #include "platform/Platform.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
 #include "screens/Application.h"
+#include "screens/CoinCount.h"
 #include "screens/Currency.h"
 #include "screens/TextMessageAlert.h"
 #include "screens/WebSearch.h"
@@ -129,11 +129,8 @@ void ValuationViewController::loadCoins() {
     // Quantities and values only: no picture is read or decoded for the totals.
     for (const CoinPtr& coin : fetched) {
         CoinList.append(coin);
-        const int sum = int(CoinCount) + coin->quantity();
-        if (sum > 32767 || sum < -32768)
-            fatalError(QStringLiteral("Arithmetic overflow"), "Pelvane/ValuationViewController",
-                       __LINE__);
-        CoinCount = qint16(sum);
+        CoinCount = CoinCount::add(CoinCount, coin->quantity(), "Pelvane/ValuationViewController",
+                                   __LINE__);
         CoinValue += coin->value() * float(coin->quantity());
     }
     QuantityTextField->setText(QString::number(CoinCount));

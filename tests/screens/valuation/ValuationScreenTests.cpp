@@ -20,6 +20,15 @@ protected:
         menu->performSegue("CoinValuation");
         return topAs<ValuationViewController>();
     }
+    // The alert the screen shows now, with one "OK", which is then pressed.
+    void expectOkAlert(ValuationViewController* screen, const char* title, const char* message) {
+        AlertController* alert = screen->presentedAlert();
+        ASSERT_NE(alert, nullptr);
+        EXPECT_EQ(alert->title(), title);
+        EXPECT_EQ(alert->message(), message);
+        EXPECT_EQ(alert->actionTitles(), QStringList({"OK"}));
+        alert->triggerAction("OK");
+    }
     ValuationTableViewCell* row(ValuationViewController* screen, int i) {
         return static_cast<ValuationTableViewCell*>(
             screen->cellForRow(screen->ValueTableView, {0, i}));
@@ -75,12 +84,7 @@ TEST_F(ValuationTest, RevaluesEveryCoinOfTheTappedDenominationAndYear) {
     auto* screen = open();
 
     screen->SaveNewCardButtonClicked();
-    AlertController* alert = screen->presentedAlert();
-    ASSERT_NE(alert, nullptr);
-    EXPECT_EQ(alert->title(), "Record not Saved!");
-    EXPECT_EQ(alert->message(), "New Value not Entered");
-    EXPECT_EQ(alert->actionTitles(), QStringList({"OK"}));
-    alert->triggerAction("OK");
+    expectOkAlert(screen, "Record not Saved!", "New Value not Entered");
 
     screen->ValueTableView->selectRow({0, 1});
     EXPECT_EQ(screen->YearTextField->text(), "1909");
@@ -125,16 +129,10 @@ TEST_F(ValuationTest, LooksPricesUpOnTheWebAndInThePriceGuides) {
     addCoin("Lincoln   Cent", 1909);
     auto* screen = open();
     screen->FindValueOnWeb();
-    AlertController* alert = screen->presentedAlert();
-    ASSERT_NE(alert, nullptr);
-    EXPECT_EQ(alert->title(), "No Search");
-    EXPECT_EQ(alert->message(), "Required Fields Year and Denomination Not Entered");
-    EXPECT_EQ(alert->actionTitles(), QStringList({"OK"}));
-    alert->triggerAction("OK");
+    expectOkAlert(screen, "No Search", "Required Fields Year and Denomination Not Entered");
     screen->YearTextField->setText("1909");
     screen->SearchButton->click(); // the denomination is still empty
-    ASSERT_NE(screen->presentedAlert(), nullptr);
-    screen->presentedAlert()->triggerAction("OK");
+    expectOkAlert(screen, "No Search", "Required Fields Year and Denomination Not Entered");
     EXPECT_TRUE(fakes.browser->inApp.isEmpty());
 
     // Three blanks in a row leave two plus signs: "++" is replaced in one pass only.
@@ -161,11 +159,8 @@ TEST_F(ValuationTest, SharesAPictureOfTheWholeScreen) {
     auto* screen = open();
     fakes.messages->canSend = false;
     screen->shareButtonClicked();
-    AlertController* alert = screen->presentedAlert();
-    ASSERT_NE(alert, nullptr);
-    EXPECT_EQ(alert->title(), "Can't Send Text Message");
-    EXPECT_EQ(alert->message(), "Your device is not able to send text messages.");
-    alert->triggerAction("OK");
+    expectOkAlert(screen, "Can't Send Text Message",
+                  "Your device is not able to send text messages.");
     EXPECT_TRUE(fakes.shareSheet->presented.isEmpty());
 
     fakes.messages->canSend = true;
