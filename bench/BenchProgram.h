@@ -19,8 +19,10 @@ inline double ms(const QElapsedTimer& t) {
     return double(t.nsecsElapsed()) / 1e6;
 }
 
+// Owns the application object too, started on the offscreen platform.
 struct Program {
-    explicit Program(int coins) {
+    Program(int& argc, char** argv, int coins)
+        : app(offscreen(argc), argv) {
         build(dir.path(), coins);
         useDataDirectory(dir.path());
         delegate = std::make_unique<AppDelegate>();
@@ -31,6 +33,11 @@ struct Program {
         window->show();
         QApplication::processEvents();
     }
+    static int& offscreen(int& argc) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        return argc;
+    }
+    QApplication app;
     QTemporaryDir dir;
     std::unique_ptr<AppDelegate> delegate;
     MainMenuViewController* menu = nullptr;

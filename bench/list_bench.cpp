@@ -7,10 +7,8 @@
 using namespace BenchCollection;
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
     const int n = 32000;
-    Program program(n);
+    Program program(argc, argv, n);
     Window& window = *program.window;
     MainMenuViewController* menu = program.menu;
 
