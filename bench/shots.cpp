@@ -137,6 +137,7 @@ int main(int argc, char** argv) {
     }
     menu->performSegue("CoinValuation");
     auto* valuation = static_cast<ValuationViewController*>(nav->topViewController());
+    shot("valuation-open");
     valuation->ValueTableView->selectRow({0, 2});
     valuation->NewValueTextField->setText("12.50");
     shot("valuation");
