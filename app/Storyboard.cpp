@@ -9,6 +9,7 @@
 #include "screens/entry/ZoomViewController.h"
 #include "screens/feedback/RateShareTableViewController.h"
 #include "screens/list/MainListTableViewController.h"
+#include "screens/valuation/ValuationViewController.h"
 
 namespace AppStoryboard {
 void install() {
@@ -26,5 +27,6 @@ void install() {
     push("ImportExport", [] { return new ImportExportViewController; });
     push("ExportCoins", [] { return new ExportViewController; });
     push("ImportCoins", [] { return new ImportViewController; });
+    push("CoinValuation", [] { return new ValuationViewController; });
 }
 } // namespace AppStoryboard

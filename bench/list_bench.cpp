@@ -1,41 +1,16 @@
 // Main-list figures on a collection of 32,000 coins with pictures: opening the list, one
 // search keystroke for a text key and a numeric key, a sort choice. One figure per line.
-#include "BenchCollection.h"
-#include "app/AppDelegate.h"
-#include "app/CommandLine.h"
-#include "app/Storyboard.h"
-#include "platform/fakes/Fakes.h"
+#include "BenchProgram.h"
 #include "platform/kit/NavigationController.h"
-#include "platform/kit/Window.h"
 #include "screens/list/MainListTableViewController.h"
-#include "screens/menu/MainMenuViewController.h"
-
-#include <QApplication>
-#include <QElapsedTimer>
-#include <QTemporaryDir>
 
 using namespace BenchCollection;
 
-namespace {
-double ms(const QElapsedTimer& t) {
-    return double(t.nsecsElapsed()) / 1e6;
-}
-} // namespace
-
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
     const int n = 32000;
-    QTemporaryDir dir;
-    build(dir.path(), n);
-    useDataDirectory(dir.path());
-    AppDelegate delegate;
-    Fakes::install();
-    AppStoryboard::install();
-    auto* menu = new MainMenuViewController;
-    Window window(menu);
-    window.show();
-    QApplication::processEvents();
+    Program program(argc, argv, n);
+    Window& window = *program.window;
+    MainMenuViewController* menu = program.menu;
 
     // Open: the fetch of every coin, then the first paint of the window.
     QElapsedTimer t;

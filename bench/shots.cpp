@@ -14,6 +14,7 @@
 #include "screens/entry/ZoomViewController.h"
 #include "screens/list/MainListTableViewController.h"
 #include "screens/menu/MainMenuViewController.h"
+#include "screens/valuation/ValuationViewController.h"
 
 #include <QFocusEvent>
 #include <QPainter>
@@ -123,5 +124,25 @@ int main(int argc, char** argv) {
     nav->popToRootViewController(false);
     menu->performSegue("RateShare");
     shot("rate-share");
+
+    // Valuation, with two coins whose front picture is taken away (not saved) so that the plain
+    // coin shows, at phone and desktop widths.
+    nav->popToRootViewController(false);
+    {
+        FetchRequest request(QStringLiteral("Coins"));
+        const auto coins = delegate.persistentContainer().viewContext()->fetch<Coins>(request);
+        for (int i : {1, 3})
+            if (i < coins.size())
+                coins[i]->setFrontImage(QByteArray());
+    }
+    menu->performSegue("CoinValuation");
+    auto* valuation = static_cast<ValuationViewController*>(nav->topViewController());
+    shot("valuation-open");
+    valuation->ValueTableView->selectRow({0, 2});
+    valuation->NewValueTextField->setText("12.50");
+    shot("valuation");
+    window.resize(1280, 800);
+    shot("valuation-wide");
+    window.resize(390, 844);
     return 0;
 }

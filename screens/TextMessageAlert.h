@@ -3,6 +3,8 @@
 class ViewController;
 
 namespace TextMessageAlert {
-// "Can't Send Text Message", shown on the next turn of the event loop.
+// "Can't Send Text Message", shown now.
+void present(ViewController* screen);
+// The same, shown on the next turn of the event loop.
 void presentLater(ViewController* screen);
 } // namespace TextMessageAlert

@@ -19,6 +19,13 @@ void difference(const QString& before, const QString& after, int& start, int& le
     length = int(before.size()) - prefix - suffix;
     replacement = after.mid(prefix, after.size() - prefix - suffix);
 }
+
+bool onlyCharactersFrom(const QString& replacement, const QString& allowed) {
+    for (QChar c : replacement)
+        if (!allowed.contains(c))
+            return false;
+    return true;
+}
 } // namespace TextInput
 
 TextField::TextField(QWidget* parent)

@@ -24,6 +24,9 @@ namespace TextInput {
 // The single replacement that turns `before` into `after`.
 void difference(const QString& before, const QString& after, int& start, int& length,
                 QString& replacement);
+// An input filter's usual answer: every character of the replacement is one of `allowed`
+// (deleting is always allowed).
+bool onlyCharactersFrom(const QString& replacement, const QString& allowed);
 } // namespace TextInput
 
 class TextField : public QLineEdit {

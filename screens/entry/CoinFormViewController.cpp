@@ -171,10 +171,7 @@ bool CoinFormViewController::shouldChangeCharacters(QObject* input, int, int,
     QString allowed = kNotes;
     if (auto* field = qobject_cast<TextField*>(input))
         allowed = field->tag() == 1 ? kDigits : kDecimal;
-    for (QChar c : replacement)
-        if (!allowed.contains(c))
-            return false;
-    return true;
+    return TextInput::onlyCharactersFrom(replacement, allowed);
 }
 
 int CoinFormViewController::numberOfRows(PickerView* picker) {

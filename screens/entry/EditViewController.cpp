@@ -9,6 +9,7 @@
 #include "screens/Application.h"
 #include "screens/ProcessState.h"
 #include "screens/TextMessageAlert.h"
+#include "screens/WebSearch.h"
 
 #include <QFormLayout>
 #include <QMouseEvent>
@@ -143,12 +144,7 @@ void EditViewController::TapFrontImage() {
 }
 
 QUrl EditViewController::valuationSearchUrl() const {
-    QString text = QStringLiteral("https://duckduckgo.com/?q=") +
-                   QStringLiteral(" how much is a  ") + YearTextField->text() + QLatin1Char(' ') +
-                   DenominationTextField->text() + QStringLiteral(" worth");
-    text.replace(u' ', u'+');
-    text.replace(QStringLiteral("++"), QStringLiteral("+"));
-    return QUrl(text, QUrl::StrictMode);
+    return WebSearch::valuationQuery(YearTextField->text(), DenominationTextField->text());
 }
 
 void EditViewController::checkValue() {

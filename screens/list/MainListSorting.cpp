@@ -2,8 +2,7 @@
 
 #include "model/Numbers.h"
 #include "platform/Fatal.h"
-
-#include <QLocale>
+#include "screens/Currency.h"
 
 namespace MainListSorting {
 
@@ -102,15 +101,10 @@ QString quantityLine(const Coins& coin) {
     return QStringLiteral("Qty: %1").arg(shownQuantity(coin));
 }
 
-QString currency(double amount) {
-    const QString text = QLocale().toCurrencyString(amount);
-    return text.isEmpty() ? QStringLiteral("0") : text;
-}
-
 QString valueLine(const Coins& coin) {
     const double value = double(coin.value());
     return QStringLiteral("Value: %1  Total Value: %2")
-        .arg(currency(value), currency(double(shownQuantity(coin)) * value));
+        .arg(Currency::text(value), Currency::text(double(shownQuantity(coin)) * value));
 }
 
 } // namespace MainListSorting

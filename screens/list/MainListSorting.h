@@ -41,6 +41,4 @@ QString yearLine(const Coins& coin);     // "Year: 1965  Mint Mark: P"
 qint16 shownQuantity(const Coins& coin); // a quantity of 0 counts as one coin
 QString quantityLine(const Coins& coin); // "Qty: 2"
 QString valueLine(const Coins& coin);    // "Value: $0.50  Total Value: $1.00"
-// Money in the currency style of the user's locale.
-QString currency(double amount);
 } // namespace MainListSorting

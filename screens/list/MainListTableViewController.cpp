@@ -6,6 +6,7 @@
 #include "platform/ImageCoding.h"
 #include "platform/kit/Appearance.h"
 #include "screens/Application.h"
+#include "screens/CoinCount.h"
 #include "screens/DetailReceiver.h"
 #include "screens/ProcessState.h"
 #include "screens/list/MainListSorting.h"
@@ -96,11 +97,8 @@ void MainListTableViewController::fetchCoins() {
     CoinCount = 0;
     for (const CoinPtr& coin : fetched) {
         CoinList.append(coin);
-        const int sum = int(CoinCount) + coin->quantity();
-        if (sum > 32767 || sum < -32768)
-            fatalError(QStringLiteral("Arithmetic overflow"), "Pelvane/MainListTableViewController",
-                       __LINE__);
-        CoinCount = qint16(sum);
+        CoinCount = CoinCount::add(CoinCount, coin->quantity(),
+                                   "Pelvane/MainListTableViewController", __LINE__);
     }
     tableView->reloadData();
 }
@@ -135,19 +133,7 @@ TableViewCell* MainListTableViewController::cellForRow(TableView* table, IndexPa
     auto* cell = static_cast<MainListTableViewCell*>(table->dequeueReusableCell("Cell"));
     const Coins& coin = *listInUse().at(path.row);
     cell->setDarkMode(DarkMode);
-    // Pictures are decoded only for the rows being drawn, and kept for a while: a search or a
-    // scroll draws the same rows again and again.
-    QImage picture;
-    if (coin.hasValue(Coins::Attr::frontImage)) {
-        const QByteArray bytes = coin.frontImage();
-        if (const QImage* known = pictures_.object(bytes)) {
-            picture = *known;
-        } else {
-            picture = ImageCoding::decode(bytes);
-            pictures_.insert(bytes, new QImage(picture));
-        }
-    }
-    cell->FrontImage->setImage(picture);
+    cell->FrontImage->setImage(pictures_.front(coin));
     cell->DenominationLabel->setText(coin.denomination());
     cell->Label2->setText(MainListSorting::yearLine(coin));
     Qty = MainListSorting::shownQuantity(coin);
