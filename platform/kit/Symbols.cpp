@@ -30,7 +30,7 @@ bool exists(const QString& name) {
     return QFile::exists(pathOf(name));
 }
 
-QIcon icon(const QString& name, int size) {
+QIcon icon(const QString& name, int size, const QColor& colour) {
     if (!exists(name))
         return {};
     QSvgRenderer renderer(pathOf(name));
@@ -43,7 +43,9 @@ QIcon icon(const QString& name, int size) {
     renderer.render(&painter, QRectF(0, 0, size, size));
     // The drawing keeps its shape and takes the text colour, so it reads in both appearances.
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(QRectF(0, 0, size, size), QApplication::palette().color(QPalette::ButtonText));
+    painter.fillRect(QRectF(0, 0, size, size),
+                     colour.isValid() ? colour
+                                      : QApplication::palette().color(QPalette::ButtonText));
     painter.end();
     return QIcon(pixmap);
 }

@@ -6,7 +6,7 @@
 #include "screens/reference/ReferenceListViewController.h"
 #include "screens/reference/ReferenceValueScreens.h"
 
-#include <QToolButton>
+#include <QAction>
 
 namespace {
 
@@ -137,7 +137,7 @@ TEST_P(ReferenceListTest, ListFetchesSearchesSortsAndDeletes) {
     // round: ascending first, and the full list is not fetched again.
     QTest::keyClicks(list->searchController, "ms");
     EXPECT_EQ(shown(list), QStringList({"MS/PF-65"}));
-    list->searchController->clear();
+    list->searchController->findChild<QAction*>("ClearButton")->trigger();
     EXPECT_EQ(shown(list).size(), 4);
     QTest::keyClicks(list->searchController, "F");
     EXPECT_EQ(shown(list), QStringList({"MS/PF-65", "VF"}));
