@@ -1,33 +1,15 @@
 // Grabs the reference-list screens to PNG files for looking at them: reference_shots OUT_DIR
 // [dark]. Runs on a fresh collection of its own, so the lists hold the values a first launch
 // puts in.
-#include "app/AppDelegate.h"
-#include "app/CommandLine.h"
-#include "app/Storyboard.h"
-#include "platform/fakes/Fakes.h"
+#include "BenchProgram.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
-#include "platform/kit/NavigationController.h"
-#include "platform/kit/Window.h"
-#include "screens/menu/MainMenuViewController.h"
 #include "screens/reference/ReferenceListScreens.h"
 #include "screens/reference/ReferenceValueScreens.h"
 
-#include <QApplication>
-#include <QElapsedTimer>
 #include <QTemporaryDir>
-#include <QThread>
 
-namespace {
-void settle(int ms) {
-    QElapsedTimer t;
-    t.start();
-    while (t.elapsed() < ms) {
-        QApplication::processEvents(QEventLoop::AllEvents, 10);
-        QThread::msleep(5);
-    }
-}
-} // namespace
+using BenchProgram::settle;
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
@@ -38,19 +20,15 @@ int main(int argc, char** argv) {
     const QString suffix = dark ? QStringLiteral("-dark") : QString();
     Appearance::setDark(dark);
     QTemporaryDir dir;
-    useDataDirectory(dir.path());
-    AppDelegate delegate;
-    Fakes::install();
-    AppStoryboard::install();
-    auto* menu = new MainMenuViewController;
-    Window window(menu);
-    window.show();
+    BenchProgram::Running program(dir.path());
+    MainMenuViewController* menu = program.menu;
+    Window& window = program.window;
     settle(100);
     auto shot = [&](const char* name) {
         settle(150);
         window.grab().save(out + "/" + name + suffix + ".png");
     };
-    NavigationController* nav = window.navigationController();
+    NavigationController* nav = program.nav();
 
     menu->performSegue("ReferenceLists");
     shot("reference-hub");

@@ -1,7 +1,6 @@
 // The three reference lists through their table of differences: the same checks over the grade,
 // strike character and edge rows, with the texts as the lists are meant to show them.
-#include "../ScreenFixture.h"
-#include "platform/kit/TextTableViewCell.h"
+#include "ReferenceFixture.h"
 #include "screens/reference/ReferenceListScreens.h"
 #include "screens/reference/ReferenceListViewController.h"
 #include "screens/reference/ReferenceValueScreens.h"
@@ -54,7 +53,8 @@ const ListRow kRows[] = {
 
 } // namespace
 
-class ReferenceListTest : public ScreenTest, public ::testing::WithParamInterface<ListRow> {
+class ReferenceListTest : public ReferenceScreenTest,
+                          public ::testing::WithParamInterface<ListRow> {
 protected:
     const ListRow& row() const { return GetParam(); }
     // The list holds exactly these values (stored in this order) and nothing seeded.
@@ -68,30 +68,12 @@ protected:
                 ->setValue(QString::fromLatin1(row().attribute), v);
         ASSERT_FALSE(ctx().save().has_value());
     }
-    QStringList stored() {
-        FetchRequest all(QString::fromLatin1(row().entity));
-        all.sortDescriptors = {{QString::fromLatin1(row().attribute), true}};
-        QStringList out;
-        for (const ObjectPtr& r : ctx().fetch(all))
-            out << r->value(QString::fromLatin1(row().attribute)).toString();
-        return out;
-    }
+    QStringList stored() { return ReferenceScreenTest::stored(row().entity, row().attribute); }
     QStringList values(const QList<ObjectPtr>& records) {
         QStringList out;
         for (const ObjectPtr& r : records)
             out << r->value(QString::fromLatin1(row().attribute)).toString();
         return out;
-    }
-    // What the table shows, row by row.
-    QStringList shown(ReferenceTableViewController* list) {
-        QStringList out;
-        for (int r = 0; r < list->tableView->numberOfRows(0); ++r)
-            out << static_cast<TextTableViewCell*>(list->cellForRow(list->tableView, {0, r}))
-                       ->textLabel->text();
-        return out;
-    }
-    QPushButton* barButton(const char* name) {
-        return window->findChild<QPushButton*>(QString::fromLatin1(name));
     }
     ReferenceTableViewController* openList() {
         menu->performSegue("ReferenceLists");
@@ -124,13 +106,13 @@ TEST_P(ReferenceListTest, ListFetchesSearchesSortsAndDeletes) {
     EXPECT_EQ(values(list->List), QStringList({"AU-58", "MS/PF-65", "Reeded", "VF"}));
     EXPECT_EQ(shown(list), values(list->List));
     EXPECT_EQ(list->Count, 4);
-    EXPECT_FALSE(barButton("SortButton")->icon().isNull());
-    EXPECT_FALSE(barButton("AddButton")->icon().isNull());
+    EXPECT_FALSE(button("SortButton")->icon().isNull());
+    EXPECT_FALSE(button("AddButton")->icon().isNull());
 
     // Without a search the sort button fetches again, descending first.
-    barButton("SortButton")->click();
+    button("SortButton")->click();
     EXPECT_EQ(shown(list), QStringList({"VF", "Reeded", "MS/PF-65", "AU-58"}));
-    barButton("SortButton")->click();
+    button("SortButton")->click();
     EXPECT_EQ(shown(list), QStringList({"AU-58", "MS/PF-65", "Reeded", "VF"}));
 
     // Case-insensitive search; with it the button sorts the shown rows in place, the other way
@@ -141,10 +123,10 @@ TEST_P(ReferenceListTest, ListFetchesSearchesSortsAndDeletes) {
     EXPECT_EQ(shown(list).size(), 4);
     QTest::keyClicks(list->searchController, "F");
     EXPECT_EQ(shown(list), QStringList({"MS/PF-65", "VF"}));
-    barButton("SortButton")->click();
+    button("SortButton")->click();
     EXPECT_EQ(list->SortAsc, false);
     EXPECT_EQ(shown(list), QStringList({"MS/PF-65", "VF"}));
-    barButton("SortButton")->click();
+    button("SortButton")->click();
     EXPECT_EQ(shown(list), QStringList({"VF", "MS/PF-65"}));
     EXPECT_EQ(values(list->List), QStringList({"AU-58", "MS/PF-65", "Reeded", "VF"}));
 
@@ -175,7 +157,7 @@ TEST_P(ReferenceListTest, AddAndEditScreensCheckSaveAndReturn) {
     ASSERT_NE(list, nullptr);
     QApplication::processEvents();
 
-    barButton("AddButton")->click();
+    button("AddButton")->click();
     auto* add = topAs<AddReferenceViewController>();
     ASSERT_NE(add, nullptr);
     EXPECT_TRUE(row().isAdd(add));
@@ -229,11 +211,11 @@ INSTANTIATE_TEST_SUITE_P(Lists, ReferenceListTest, ::testing::ValuesIn(kRows),
                          [](const auto& info) { return std::string(info.param.name); });
 
 // The stops for a value that is not there, and for a list too long to count.
-class ReferenceListDeathTest : public ScreenTest {
+class ReferenceListDeathTest : public ReferenceScreenTest {
 protected:
     void SetUp() override {
         GTEST_FLAG_SET(death_test_style, "threadsafe");
-        ScreenTest::SetUp();
+        ReferenceScreenTest::SetUp();
     }
     GradeNumberTableViewController* gradeList() {
         menu->performSegue("ReferenceLists");

@@ -2,17 +2,15 @@
 // follows: menu, Reference Lists, the list, adds (one refused as a duplicate, two accepted
 // that look alike), a rename, a value cleared to empty, a delete while searching; then the
 // add coin form.
-#include "../ScreenFixture.h"
-#include "platform/kit/TextTableViewCell.h"
+#include "ReferenceFixture.h"
 #include "screens/entry/AddViewController.h"
 #include "screens/reference/ReferenceListScreens.h"
 #include "screens/reference/ReferenceListViewController.h"
 #include "screens/reference/ReferenceValueScreens.h"
 
 #include <QFocusEvent>
-#include <QToolButton>
 
-class ReferenceWalkthroughTest : public ScreenTest {
+class ReferenceWalkthroughTest : public ReferenceScreenTest {
 protected:
     struct Path {
         const char* hubButton;
@@ -24,24 +22,7 @@ protected:
         PickerView* CoinFormViewController::*picker;
     };
 
-    QPushButton* button(const char* name) {
-        return window->findChild<QPushButton*>(QString::fromLatin1(name));
-    }
-    QStringList shown(ReferenceTableViewController* list) {
-        QStringList out;
-        for (int r = 0; r < list->tableView->numberOfRows(0); ++r)
-            out << static_cast<TextTableViewCell*>(list->cellForRow(list->tableView, {0, r}))
-                       ->textLabel->text();
-        return out;
-    }
-    QStringList stored(const Path& p) {
-        FetchRequest all(QString::fromLatin1(p.entity));
-        all.sortDescriptors = {{QString::fromLatin1(p.attribute), true}};
-        QStringList out;
-        for (const ObjectPtr& r : ctx().fetch(all))
-            out << r->value(QString::fromLatin1(p.attribute)).toString();
-        return out;
-    }
+    QStringList stored(const Path& p) { return ReferenceScreenTest::stored(p.entity, p.attribute); }
     // Types a value on the list's add screen and saves it.
     void add(const QString& typed) {
         button("AddButton")->click();

@@ -1,0 +1,58 @@
+#pragma once
+// The program as the benchmarks and screen grabs run it: the collection in a folder, the
+// delegate, the storyboard with the recording fakes, and the menu in a phone-sized window.
+#include "app/AppDelegate.h"
+#include "app/CommandLine.h"
+#include "app/Storyboard.h"
+#include "platform/fakes/Fakes.h"
+#include "platform/kit/NavigationController.h"
+#include "platform/kit/Window.h"
+#include "screens/menu/MainMenuViewController.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QThread>
+
+namespace BenchProgram {
+
+inline double ms(const QElapsedTimer& t) {
+    return double(t.nsecsElapsed()) / 1e6;
+}
+
+// Runs the event loop for a while, so that queued work and animations are done.
+inline void settle(int milliseconds) {
+    QElapsedTimer t;
+    t.start();
+    while (t.elapsed() < milliseconds) {
+        QApplication::processEvents(QEventLoop::AllEvents, 10);
+        QThread::msleep(5);
+    }
+}
+
+class Running {
+public:
+    explicit Running(const QString& dataDir)
+        : folder_((useDataDirectory(dataDir), dataDir))
+        , fakes(Fakes::install())
+        , menu(startMenu())
+        , window(menu) {
+        window.show();
+        QApplication::processEvents();
+    }
+    NavigationController* nav() const { return window.navigationController(); }
+
+private:
+    static MainMenuViewController* startMenu() {
+        AppStoryboard::install();
+        return new MainMenuViewController;
+    }
+    QString folder_;
+
+public:
+    AppDelegate delegate;
+    Fakes fakes;
+    MainMenuViewController* menu;
+    Window window;
+};
+
+} // namespace BenchProgram
