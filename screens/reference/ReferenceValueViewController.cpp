@@ -36,6 +36,12 @@ void ReferenceValueViewController::setUpField(const QString& title) {
     Styling::round(SaveButton, 10, 2, Qt::black);
 }
 
+void ReferenceValueViewController::viewDidAppear(bool) {
+    // Again once shown: the bar button that opened the screen goes with the old bar and hands
+    // its focus on to the next control.
+    textField->setFocus();
+}
+
 void ReferenceValueViewController::dismissKeyboard() {
     if (QWidget* focus = QApplication::focusWidget(); focus && isAncestorOf(focus))
         focus->clearFocus();

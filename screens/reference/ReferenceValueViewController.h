@@ -17,6 +17,7 @@ public:
     // The save action (SaveGenre / SaveEdge).
     virtual void save() = 0;
     void dismissKeyboard();
+    void viewDidAppear(bool animated) override;
 
     TextField* textField;
     QPushButton* SaveButton;

@@ -164,6 +164,10 @@ TEST_P(ReferenceListTest, AddAndEditScreensCheckSaveAndReturn) {
     EXPECT_EQ(add->title(), row().addTitle);
     EXPECT_EQ(add->textField->objectName(), row().addField);
     EXPECT_EQ(add->StoredValues, QStringList({"VF", "AU-58", "Reeded"}));
+    // The field has the keyboard; a tap elsewhere on the screen takes it away.
+    EXPECT_TRUE(add->textField->hasFocus());
+    QTest::mouseClick(add, Qt::LeftButton, {}, QPoint(20, add->height() - 20));
+    EXPECT_FALSE(add->textField->hasFocus());
     auto* save = add->findChild<QPushButton*>(QString::fromLatin1(row().saveAction));
     ASSERT_NE(save, nullptr);
     save->click();

@@ -9,6 +9,7 @@
 #include "screens/reference/ReferenceValueScreens.h"
 
 #include <QFocusEvent>
+#include <QToolButton>
 
 class ReferenceWalkthroughTest : public ReferenceScreenTest {
 protected:
