@@ -30,6 +30,10 @@ struct ListRow {
     bool (*isEdit)(ViewController*);
 };
 
+void PrintTo(const ListRow& row, std::ostream* os) {
+    *os << row.name;
+}
+
 template <typename T> bool is(ViewController* v) {
     return dynamic_cast<T*>(v) != nullptr;
 }
