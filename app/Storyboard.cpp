@@ -9,6 +9,9 @@
 #include "screens/entry/ZoomViewController.h"
 #include "screens/feedback/RateShareTableViewController.h"
 #include "screens/list/MainListTableViewController.h"
+#include "screens/reference/ReferenceListScreens.h"
+#include "screens/reference/ReferenceListViewController.h"
+#include "screens/reference/ReferenceValueScreens.h"
 #include "screens/valuation/ValuationViewController.h"
 
 namespace AppStoryboard {
@@ -28,5 +31,17 @@ void install() {
     push("ExportCoins", [] { return new ExportViewController; });
     push("ImportCoins", [] { return new ImportViewController; });
     push("CoinValuation", [] { return new ValuationViewController; });
+    // Reference lists: the hub, its three lists, their add screens and edit screens. Each list
+    // owns the unwind its add and edit screens return by ("unwindToGradeTableView", ...).
+    push("ReferenceLists", [] { return new ReferenceListViewController; });
+    push("GradeNumberList", [] { return new GradeNumberTableViewController; });
+    push("StrikeCharacterList", [] { return new StrikeCharacterTableViewController; });
+    push("EdgeList", [] { return new EdgeTableViewController; });
+    push("AddGradeNumber", [] { return new AddGradeNumberViewController; });
+    push("AddStrikeCharacter", [] { return new AddStrikeCharacterViewController; });
+    push("AddEdge", [] { return new AddEdgeViewController; });
+    push("showGrade", [] { return new EditGradeNumberViewController; });
+    push("showStrike", [] { return new EditStrikeCharacterViewController; });
+    push("showEdge", [] { return new EditEdgeViewController; });
 }
 } // namespace AppStoryboard

@@ -1,37 +1,77 @@
 #pragma once
-// The running program on a freshly built benchmark collection: the menu in a window, with
-// fakes for what leaves the machine, as the screen benchmarks start it.
+// The program as the benchmarks and screen grabs run it: the collection in a folder, the
+// delegate, the storyboard with the recording fakes, and the menu in a phone-sized window.
 #include "BenchCollection.h"
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
 #include "app/Storyboard.h"
 #include "platform/fakes/Fakes.h"
+#include "platform/kit/NavigationController.h"
 #include "platform/kit/Window.h"
 #include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
+#include <QThread>
 
-namespace BenchCollection {
+namespace BenchProgram {
 
 inline double ms(const QElapsedTimer& t) {
     return double(t.nsecsElapsed()) / 1e6;
 }
 
-// Owns the application object too, started on the offscreen platform.
+// Runs the event loop for a while, so that queued work and animations are done.
+inline void settle(int milliseconds) {
+    QElapsedTimer t;
+    t.start();
+    while (t.elapsed() < milliseconds) {
+        QApplication::processEvents(QEventLoop::AllEvents, 10);
+        QThread::msleep(5);
+    }
+}
+
+class Running {
+public:
+    explicit Running(const QString& dataDir)
+        : folder_((useDataDirectory(dataDir), dataDir))
+        , fakes(Fakes::install())
+        , menu(startMenu())
+        , window(menu) {
+        window.show();
+        QApplication::processEvents();
+    }
+    NavigationController* nav() const { return window.navigationController(); }
+
+private:
+    static MainMenuViewController* startMenu() {
+        AppStoryboard::install();
+        return new MainMenuViewController;
+    }
+    QString folder_;
+
+public:
+    AppDelegate delegate;
+    Fakes fakes;
+    MainMenuViewController* menu;
+    Window window;
+};
+
+} // namespace BenchProgram
+
+namespace BenchCollection {
+
+using BenchProgram::ms;
+
+// The program on a freshly built benchmark collection; owns the application object too,
+// started on the offscreen platform.
 struct Program {
     Program(int& argc, char** argv, int coins)
         : app(offscreen(argc), argv) {
         build(dir.path(), coins);
-        useDataDirectory(dir.path());
-        delegate = std::make_unique<AppDelegate>();
-        Fakes::install();
-        AppStoryboard::install();
-        menu = new MainMenuViewController;
-        window = std::make_unique<Window>(menu);
-        window->show();
-        QApplication::processEvents();
+        running = std::make_unique<BenchProgram::Running>(dir.path());
+        menu = running->menu;
+        window = &running->window;
     }
     static int& offscreen(int& argc) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -39,9 +79,9 @@ struct Program {
     }
     QApplication app;
     QTemporaryDir dir;
-    std::unique_ptr<AppDelegate> delegate;
+    std::unique_ptr<BenchProgram::Running> running;
     MainMenuViewController* menu = nullptr;
-    std::unique_ptr<Window> window;
+    Window* window = nullptr;
 };
 
 } // namespace BenchCollection

@@ -1,5 +1,6 @@
 #include "platform/kit/NavigationController.h"
 
+#include "platform/kit/Symbols.h"
 #include "platform/kit/ViewController.h"
 
 #include <QHBoxLayout>
@@ -149,6 +150,13 @@ void NavigationController::refreshBar() {
         auto* button = new QPushButton(item.title);
         button->setFlat(true);
         button->setObjectName(item.objectName);
+        if (const QIcon icon = Symbols::icon(item.symbol); !icon.isNull()) {
+            button->setIcon(icon);
+            button->setIconSize(QSize(22, 22));
+            button->setText(QString());
+            button->setToolTip(item.title);
+            button->setAccessibleName(item.title);
+        }
         if (item.menu) {
             QMenu* menu = item.menu;
             connect(button, &QPushButton::clicked, menu, [button, menu] {

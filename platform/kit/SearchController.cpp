@@ -1,11 +1,26 @@
 #include "platform/kit/SearchController.h"
 
+#include "platform/kit/Symbols.h"
+
+#include <QAction>
+
 SearchController::SearchController(QWidget* parent)
     : QLineEdit(parent) {
-    setClearButtonEnabled(true);
+    // The clear button shows a symbol of our own: the style's stock icon is looked up in the
+    // desktop's icon themes, which made the first search screen tens of milliseconds slower.
+    QAction* clearAction = addAction(Symbols::icon(QStringLiteral("xmark.circle.fill"), 16,
+                                                   palette().color(QPalette::PlaceholderText)),
+                                     TrailingPosition);
+    clearAction->setObjectName(QStringLiteral("ClearButton"));
+    clearAction->setVisible(false);
+    connect(clearAction, &QAction::triggered, this, [this] {
+        clear();
+        emit textEdited(text());
+    });
     setObjectName(QStringLiteral("SearchBar"));
     setMinimumHeight(34);
-    connect(this, &QLineEdit::textChanged, this, [this] {
+    connect(this, &QLineEdit::textChanged, this, [this, clearAction] {
+        clearAction->setVisible(!text().isEmpty());
         if (!text().isEmpty())
             active_ = true;
         if (searchResultsUpdater)

@@ -19,6 +19,7 @@ struct BarButtonItem {
     std::function<void()> action; // run on click, unless a menu is given
     QMenu* menu = nullptr;        // shown on click when set (owned by the screen)
     QString objectName;           // lets tests find the button
+    QString symbol = {}; // a symbol image from the resources, shown instead of the title when set
 };
 
 struct NavigationItem {

@@ -1,0 +1,42 @@
+#include "screens/reference/AddReferenceViewController.h"
+
+#include "model/ManagedObjectContext.h"
+#include "platform/Fatal.h"
+#include "platform/kit/AlertController.h"
+#include "screens/Application.h"
+#include "screens/entry/CoinFormRules.h"
+
+AddReferenceViewController::AddReferenceViewController(const ReferenceValueKind& kind,
+                                                       QWidget* parent)
+    : ReferenceValueViewController(kind, kind.addField, parent) {}
+
+void AddReferenceViewController::viewDidLoad() {
+    setUpField(kind().addTitle);
+    FetchRequest request(kind().list->entity);
+    request.returnsObjectsAsFaults = false;
+    for (const ObjectPtr& record : Application::viewContext()->fetch(request)) {
+        if (!record->hasValue(attribute()))
+            fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value"),
+                       "Pelvane/AddReferenceViewController", __LINE__);
+        StoredValues.append(record->value(attribute()).toString());
+    }
+}
+
+void AddReferenceViewController::save() {
+    const QString text = textField->text();
+    if (text.isEmpty()) {
+        present(AlertController::okAlert(QStringLiteral("Record not Saved!"), kind().emptyMessage));
+        return;
+    }
+    // Deliberately the text as typed against the stored (trimmed) values: " VF" passes.
+    if (StoredValues.contains(text)) {
+        present(AlertController::okAlert(QStringLiteral("Record not Saved!"),
+                                         QStringLiteral("Duplicates not allowed")));
+        return;
+    }
+    managedObjectContext = Application::viewContext();
+    const ObjectPtr record = managedObjectContext->insertNewObject(kind().list->entity);
+    record->setValue(attribute(), CoinFormRules::trimmed(text));
+    saveLogged(record);
+    returnToList();
+}
