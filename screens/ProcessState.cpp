@@ -1,5 +1,8 @@
 #include "screens/ProcessState.h"
 
+#include "model/Records.h"
+#include "platform/ImageCoding.h"
+
 QString SelectedCountry;
 QString SelectedDenomination;
 QString SelectedDescription;
@@ -42,4 +45,32 @@ void resetProcessState() {
     ShareFrontImageData.clear();
     ShareBackImageData.clear();
     SortAscending = true;
+}
+
+void copyToCurrentCoin(const Coins& coin) {
+    SelectedCountry = coin.country();
+    SelectedDenomination = coin.denomination();
+    SelectedDescription = coin.descrip();
+    SelectedDesigner = coin.designer();
+    SelectedEdge = coin.edge();
+    SelectedGrade = coin.gradeNumber();
+    SelectedMintLocation = coin.mintLocation();
+    SelectedMintMark = coin.mintMark();
+    SelectedNotes = coin.notes();
+    SelectedPeriod = coin.period();
+    SelectedSerialNumber = coin.serialNumber();
+    SelectedStrikeCharacter = coin.strikeCharacter();
+    SelectedDiameter = coin.diameter();
+    SelectedThickness = coin.thickness();
+    SelectedWeight = coin.weight();
+    SelectedValue = coin.value();
+    SelectedQuantity = coin.quantity();
+    SelectedYear = coin.year();
+    ShareFrontImageData = coin.frontImage();
+    ShareBackImageData = coin.backImage();
+    ZoomImages.clear();
+    if (coin.hasValue(Coins::Attr::frontImage))
+        ZoomImages.append(ImageCoding::decode(coin.frontImage()));
+    if (coin.hasValue(Coins::Attr::backImage))
+        ZoomImages.append(ImageCoding::decode(coin.backImage()));
 }

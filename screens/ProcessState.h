@@ -44,3 +44,8 @@ extern bool SortAscending;
 
 // Back to the values at process start.
 void resetProcessState();
+
+class Coins;
+// Every field of a coin into the current-coin variables (not its id or total value), with its
+// pictures decoded for the zoom screen and kept as bytes for sharing.
+void copyToCurrentCoin(const Coins& coin);

@@ -2,8 +2,7 @@
 
 #include "model/Numbers.h"
 #include "platform/Fatal.h"
-
-#include <QLocale>
+#include "screens/CurrencyText.h"
 
 namespace MainListSorting {
 
@@ -104,8 +103,7 @@ QString quantityLine(const Coins& coin) {
 }
 
 QString currency(double amount) {
-    const QString text = QLocale().toCurrencyString(amount);
-    return text.isEmpty() ? QStringLiteral("0") : text;
+    return currencyText(amount);
 }
 
 QString valueLine(const Coins& coin) {

@@ -137,19 +137,7 @@ TableViewCell* MainListTableViewController::cellForRow(TableView* table, IndexPa
     auto* cell = static_cast<MainListTableViewCell*>(table->dequeueReusableCell("Cell"));
     const Coins& coin = *listInUse().at(path.row);
     cell->setDarkMode(DarkMode);
-    // Pictures are decoded only for the rows being drawn, and kept for a while: a search or a
-    // scroll draws the same rows again and again.
-    QImage picture;
-    if (coin.hasValue(Coins::Attr::frontImage)) {
-        const QByteArray bytes = coin.frontImage();
-        if (const QImage* known = pictures_.object(bytes)) {
-            picture = *known;
-        } else {
-            picture = ImageCoding::decode(bytes);
-            pictures_.insert(bytes, new QImage(picture));
-        }
-    }
-    cell->FrontImage->setImage(picture);
+    cell->FrontImage->setImage(pictures_.front(coin));
     cell->DenominationLabel->setText(coin.denomination());
     cell->Label2->setText(MainListSorting::yearLine(coin));
     Qty = MainListSorting::shownQuantity(coin);
@@ -161,34 +149,10 @@ TableViewCell* MainListTableViewController::cellForRow(TableView* table, IndexPa
 
 void MainListTableViewController::didSelectRow(TableView* table, IndexPath path) {
     const CoinPtr coin = listInUse().at(path.row);
-    SelectedCountry = coin->country();
-    SelectedDenomination = coin->denomination();
-    SelectedDescription = coin->descrip();
-    SelectedDesigner = coin->designer();
-    SelectedEdge = coin->edge();
-    SelectedGrade = coin->gradeNumber();
-    SelectedMintLocation = coin->mintLocation();
-    SelectedMintMark = coin->mintMark();
-    SelectedNotes = coin->notes();
-    SelectedPeriod = coin->period();
-    SelectedSerialNumber = coin->serialNumber();
-    SelectedStrikeCharacter = coin->strikeCharacter();
-    SelectedDiameter = coin->diameter();
-    SelectedThickness = coin->thickness();
-    SelectedWeight = coin->weight();
-    SelectedValue = coin->value();
+    copyToCurrentCoin(*coin);
     SelectedTotalValue = coin->totalValue();
-    SelectedQuantity = coin->quantity();
-    SelectedYear = coin->year();
     if (!QString::number(coin->id()).isEmpty())
         SelectedCoinID = coin->id();
-    ShareFrontImageData = coin->frontImage();
-    ShareBackImageData = coin->backImage();
-    ZoomImages.clear();
-    if (coin->hasValue(Coins::Attr::frontImage))
-        ZoomImages.append(ImageCoding::decode(coin->frontImage()));
-    if (coin->hasValue(Coins::Attr::backImage))
-        ZoomImages.append(ImageCoding::decode(coin->backImage()));
     table->deselectRow(path);
     tapped_ = coin;
     if (Storyboard::hasSegue(QStringLiteral("showDetails")))

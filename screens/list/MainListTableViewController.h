@@ -5,9 +5,9 @@
 #include "platform/kit/SearchController.h"
 #include "platform/kit/TableView.h"
 #include "platform/kit/ViewController.h"
+#include "screens/RowPictures.h"
 #include "screens/list/MainListSorting.h"
 
-#include <QCache>
 #include <QMenu>
 #include <optional>
 
@@ -52,8 +52,7 @@ private:
     bool searching() const;
     const QList<CoinPtr>& listInUse() const;
     CoinPtr tapped_;
-    // Decoded row pictures by their stored bytes, for the rows drawn lately.
-    QCache<QByteArray, QImage> pictures_{64};
+    RowPictures pictures_;
     // The key texts of CoinList for the current sort, made at the first keystroke after a
     // fetch.
     std::optional<MainListSorting::SearchIndex> searchIndex_;

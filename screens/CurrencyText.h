@@ -1,0 +1,5 @@
+#pragma once
+// Money on screen: the currency style of the user's current locale.
+#include <QString>
+
+QString currencyText(double amount);
