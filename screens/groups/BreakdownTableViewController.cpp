@@ -37,62 +37,68 @@ QString total(const Coins& c) {
 using Kind = BreakdownTableViewController::Kind;
 const Kind& Kind::denomination() {
     static const Kind k{
-        "Denomination",
-        "Sort and Search By Year",
-        "denomination == %@",
-        [] { return SelectedDenomination; },
-        "denomination",
-        "year",
-        yearText,
-        false,
-        byYear,
-        [](const Coins& c) { return yearText(c) + "  Mint Mark: " + c.mintMark(); },
-        [](const Coins& c) { return QString::number(c.quantity()) + "  " + c.country(); },
-        [](const Coins& c) { return money(c) + " Total Value: " + total(c); },
-        "DenominationBreakdown",
-        "unwindToDenominationTableView",
-        "CoinListByDenomination.pdf",
-        []() -> BreakdownTableViewCell* { return new DenominationBreakdownTableViewCell; }};
+        .title = "Denomination",
+        .searchPlaceholder = "Sort and Search By Year",
+        .predicate = "denomination == %@",
+        .groupValue = [] { return SelectedDenomination; },
+        .firstSortKey = "denomination",
+        .secondSortKey = "year",
+        .searchText = yearText,
+        .searchIgnoresCase = false,
+        .sortsBefore = byYear,
+        .label2 = [](const Coins& c) { return yearText(c) + "  Mint Mark: " + c.mintMark(); },
+        .label3 = [](const Coins& c) { return QString::number(c.quantity()) + "  " + c.country(); },
+        .label4 = [](const Coins& c) { return money(c) + " Total Value: " + total(c); },
+        .calledFromList = "DenominationBreakdown",
+        .unwind = "unwindToDenominationTableView",
+        .pdfFileName = "CoinListByDenomination.pdf",
+        .makeCell = []() -> BreakdownTableViewCell* {
+            return new DenominationBreakdownTableViewCell;
+        }};
     return k;
 }
 const Kind& Kind::country() {
     static const Kind k{
-        "Country",
-        "Sort and Search By Denomination",
-        "country == %@",
-        [] { return SelectedCountry; },
-        "denomination",
-        "year",
-        lowerDenomination,
-        true,
-        byDenomination,
-        [](const Coins& c) { return yearText(c) + "  Mint Mark: " + c.mintMark(); },
-        [](const Coins& c) { return QString::number(c.quantity()) + "  Country: " + c.country(); },
-        [](const Coins& c) { return money(c) + " Total Value: " + total(c); },
-        "CountryBreakdown",
-        "unwindToCountryTableView",
-        "CoinListByCountry.pdf",
-        []() -> BreakdownTableViewCell* { return new CountryBreakdownTableViewCell; }};
+        .title = "Country",
+        .searchPlaceholder = "Sort and Search By Denomination",
+        .predicate = "country == %@",
+        .groupValue = [] { return SelectedCountry; },
+        .firstSortKey = "denomination",
+        .secondSortKey = "year",
+        .searchText = lowerDenomination,
+        .searchIgnoresCase = true,
+        .sortsBefore = byDenomination,
+        .label2 = [](const Coins& c) { return yearText(c) + "  Mint Mark: " + c.mintMark(); },
+        .label3 =
+            [](const Coins& c) {
+                return QString::number(c.quantity()) + "  Country: " + c.country();
+            },
+        .label4 = [](const Coins& c) { return money(c) + " Total Value: " + total(c); },
+        .calledFromList = "CountryBreakdown",
+        .unwind = "unwindToCountryTableView",
+        .pdfFileName = "CoinListByCountry.pdf",
+        .makeCell = []() -> BreakdownTableViewCell* { return new CountryBreakdownTableViewCell; }};
     return k;
 }
 const Kind& Kind::year() {
     static const Kind k{
-        "Year",
-        "Search By Denomination",
-        "year == %@",
-        [] { return QString::number(SelectedYear); },
-        "year",
-        "denomination",
-        lowerDenomination,
-        true,
-        byYear, // every row has the same year, so the rows keep their order
-        [](const Coins& c) { return "Year: " + yearText(c) + "  Mint Mark: " + c.mintMark(); },
-        [](const Coins& c) { return "Qty: " + QString::number(c.quantity()); },
-        [](const Coins& c) { return "Value: " + money(c) + " Total Value: " + total(c); },
-        "YearBreakdown",
-        "unwindToYearTableView",
-        "CoinListByYear.pdf",
-        []() -> BreakdownTableViewCell* { return new YearBreakdownTableViewCell; }};
+        .title = "Year",
+        .searchPlaceholder = "Search By Denomination",
+        .predicate = "year == %@",
+        .groupValue = [] { return QString::number(SelectedYear); },
+        .firstSortKey = "year",
+        .secondSortKey = "denomination",
+        .searchText = lowerDenomination,
+        .searchIgnoresCase = true,
+        .sortsBefore = byYear, // every row has the same year, so the rows keep their order
+        .label2 =
+            [](const Coins& c) { return "Year: " + yearText(c) + "  Mint Mark: " + c.mintMark(); },
+        .label3 = [](const Coins& c) { return "Qty: " + QString::number(c.quantity()); },
+        .label4 = [](const Coins& c) { return "Value: " + money(c) + " Total Value: " + total(c); },
+        .calledFromList = "YearBreakdown",
+        .unwind = "unwindToYearTableView",
+        .pdfFileName = "CoinListByYear.pdf",
+        .makeCell = []() -> BreakdownTableViewCell* { return new YearBreakdownTableViewCell; }};
     return k;
 }
 
@@ -167,6 +173,7 @@ void BreakdownTableViewController::SortButtonTapped() {
         return;
     }
     const bool ascending = *SortAsc;
+    filteredValue_.reset(); // summed again in the new order
     std::stable_sort(FilteredCoinList.begin(), FilteredCoinList.end(),
                      [this, ascending](const CoinPtr& a, const CoinPtr& b) {
                          return ascending ? kind_.sortsBefore(*a, *b) : kind_.sortsBefore(*b, *a);
@@ -174,27 +181,43 @@ void BreakdownTableViewController::SortButtonTapped() {
     tableView->reloadData();
 }
 
+void BreakdownTableViewController::prepareSearch() {
+    // The texts searched and each coin's value are worked out as a search starts, so that a
+    // keystroke only compares; they are made again when the store has changed since.
+    if (searchKeysAt_ == context->changeCount() && searchKeys_.size() == CoinList.size())
+        return;
+    searchKeys_.clear();
+    searchKeys_.reserve(CoinList.size());
+    coinValues_.clear();
+    coinValues_.reserve(std::size_t(CoinList.size()));
+    for (const CoinPtr& coin : std::as_const(CoinList)) {
+        searchKeys_.append(kind_.searchText(*coin));
+        coinValues_.push_back(coin->value() * float(coin->quantity()));
+    }
+    searchKeysAt_ = context->changeCount();
+}
+
 void BreakdownTableViewController::updateSearchResultsForSearchController(
     SearchController* search) {
     const QString text = search->text();
+    if (search->isActive() || !text.isEmpty())
+        prepareSearch();
+    filteredValue_.reset();
     if (text.isEmpty()) {
         FilteredCoinList = CoinList;
         tableView->reloadData();
         return;
     }
-    // The texts searched are made once, then every keystroke only compares.
-    if (searchKeysAt_ != context->changeCount() || searchKeys_.size() != CoinList.size()) {
-        searchKeys_.clear();
-        searchKeys_.reserve(CoinList.size());
-        for (const CoinPtr& coin : std::as_const(CoinList))
-            searchKeys_.append(kind_.searchText(*coin));
-        searchKeysAt_ = context->changeCount();
-    }
     const QString wanted = kind_.searchIgnoresCase ? text.toLower() : text;
     FilteredCoinList.clear();
+    double sum = 0;
     for (qsizetype i = 0; i < CoinList.size(); ++i)
-        if (searchKeys_[i].contains(wanted))
+        if (searchKeys_[i].contains(wanted)) {
             FilteredCoinList.append(CoinList[i]);
+            sum += double(coinValues_[std::size_t(i)]);
+        }
+    filteredValue_ = sum;
+    filteredValueAt_ = context->changeCount();
     tableView->reloadData();
 }
 
@@ -213,9 +236,13 @@ QString BreakdownTableViewController::titleForHeader(TableView*, int) {
 QString BreakdownTableViewController::titleForFooter(TableView*, int) {
     double shown = double(value); // the running sum of the load
     if (searching()) {
-        shown = 0;
-        for (const CoinPtr& coin : std::as_const(FilteredCoinList))
-            shown += double(coin->value() * float(coin->quantity()));
+        if (!filteredValue_ || filteredValueAt_ != context->changeCount()) {
+            filteredValue_ = 0;
+            for (const CoinPtr& coin : std::as_const(FilteredCoinList))
+                *filteredValue_ += double(coin->value() * float(coin->quantity()));
+            filteredValueAt_ = context->changeCount();
+        }
+        shown = *filteredValue_;
     }
     return QStringLiteral("Valuation for displayed coins: ") + currencyText(shown);
 }
@@ -265,6 +292,7 @@ void BreakdownTableViewController::deleteCoinAt(int row) {
     Application::delegate().saveContext();
     // The swiped row leaves the table, and a deleted coin is never shown. The count, the
     // value and the header stay as the load left them.
+    filteredValue_.reset();
     if (searching()) {
         if (row < FilteredCoinList.size())
             FilteredCoinList.removeAt(row);

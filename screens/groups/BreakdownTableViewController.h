@@ -93,8 +93,13 @@ private:
     const Kind& kind_;
     std::optional<int> selectedRow_;
     RowPictures pictures_;
-    // What a search looks in, one text per coin of CoinList, made as a search starts and kept
-    // while the store is unchanged.
+    void prepareSearch();
+    // What a search looks in and each coin's value times its quantity, one per coin of
+    // CoinList, made as a search starts and kept while the store is unchanged.
     QStringList searchKeys_;
+    std::vector<float> coinValues_;
     std::optional<quint64> searchKeysAt_;
+    // The footer's sum over FilteredCoinList while a search shows it.
+    std::optional<double> filteredValue_;
+    quint64 filteredValueAt_ = 0;
 };

@@ -16,42 +16,35 @@
 // The differences among the three group screens, side by side.
 using Kind = GroupTableViewController::Kind;
 const Kind& Kind::denomination() {
-    static const Kind k{"denomination",
-                        [](const Coins& c) { return c.denomination(); },
-                        "Sort and Search By Denomination",
-                        true,
-                        "denomination = %@",
-                        " Denominations",
-                        " Denomination",
-                        [](const QString& v) { SelectedDenomination = v; },
-                        "showDenominationBreakdown",
-                        []() -> GroupTableViewCell* { return new DenominationgroupTableViewCell; }};
+    static const Kind k{
+        .searchPlaceholder = "Sort and Search By Denomination",
+        .countPredicate = "denomination = %@",
+        .pluralHeader = " Denominations",
+        .singularHeader = " Denomination",
+        .select = [](const QString& v) { SelectedDenomination = v; },
+        .breakdownSegue = "showDenominationBreakdown",
+        .makeCell = []() -> GroupTableViewCell* { return new DenominationgroupTableViewCell; }};
     return k;
 }
 const Kind& Kind::country() {
-    static const Kind k{"country",
-                        [](const Coins& c) { return c.country(); },
-                        "Search By Denomination",
-                        false,
-                        "country = %@",
-                        " Countries",
-                        " Country",
-                        [](const QString& v) { SelectedCountry = v; },
-                        "showCountryBreakdown",
-                        []() -> GroupTableViewCell* { return new CountryGroupTableViewCell; }};
+    static const Kind k{
+        .searchPlaceholder = "Search By Denomination", // as written, though it searches countries
+        .countPredicate = "country = %@",
+        .pluralHeader = " Countries",
+        .singularHeader = " Country",
+        .select = [](const QString& v) { SelectedCountry = v; },
+        .breakdownSegue = "showCountryBreakdown",
+        .makeCell = []() -> GroupTableViewCell* { return new CountryGroupTableViewCell; }};
     return k;
 }
 const Kind& Kind::year() {
-    static const Kind k{"year",
-                        [](const Coins& c) { return QString::number(c.year()); },
-                        "Sort and Search By Year",
-                        false,
-                        "year = %@",
-                        " Years",
-                        " Year",
-                        [](const QString& v) { SelectedYear = v.toShort(); },
-                        "showYearBreakdown",
-                        []() -> GroupTableViewCell* { return new YearTableViewCell; }};
+    static const Kind k{.searchPlaceholder = "Sort and Search By Year",
+                        .countPredicate = "year = %@", // with the year's decimal text
+                        .pluralHeader = " Years",
+                        .singularHeader = " Year",
+                        .select = [](const QString& v) { SelectedYear = v.toShort(); },
+                        .breakdownSegue = "showYearBreakdown",
+                        .makeCell = []() -> GroupTableViewCell* { return new YearTableViewCell; }};
     return k;
 }
 
@@ -122,20 +115,17 @@ void GroupTableViewController::sortInDirection(QStringList& list, bool ascending
 }
 
 void GroupTableViewController::load() {
+    // The values and their counts come from one grouped count on the store's index, never from
+    // reading every coin: what the screen shows is the same. CardList and NumberOfCoins, kept
+    // but never shown, stay empty.
     CardList.clear();
-    FetchRequest request(QStringLiteral("Coins"));
-    request.returnsObjectsAsFaults = false;
-    request.sortDescriptors = {
-        {kind_.key, kind_.fetchFollowsSortAsc ? SortAsc.value_or(true) : true}};
-    // A failed fetch goes on with nothing fetched.
-    const QList<CoinPtr> fetched = context->fetch<Coins>(request);
+    refreshCounts();
+    QStringList found = counts_.keys();
+    sortInDirection(found, true);
     NumberOfValues = 0;
-    // "Already listed" is asked once per coin: a set beside the list answers it.
+    // "Already listed" is asked once per value: a set beside the list answers it.
     QSet<QString> listed(ValueList.begin(), ValueList.end());
-    CardList.reserve(fetched.size());
-    for (const CoinPtr& coin : fetched) {
-        CardList.append(coin);
-        const QString value = kind_.valueOf(*coin);
+    for (const QString& value : std::as_const(found)) {
         // The empty text is never the first value counted, but is a group like any other.
         if (NumberOfValues == 0 && !value.isEmpty()) {
             ValueName = value;
@@ -145,8 +135,7 @@ void GroupTableViewController::load() {
                 ++NumberOfValues;
             }
         }
-        NumberOfCoins += coin->quantity();
-        if (!value.isNull() && !listed.contains(value)) {
+        if (!listed.contains(value)) {
             listed.insert(value);
             ValueList.append(value);
             ValueName = value;
@@ -156,6 +145,14 @@ void GroupTableViewController::load() {
     sortInDirection(ValueList, SortAsc.value_or(true));
     searchKeys_.clear();
     tableView->reloadData();
+}
+
+void GroupTableViewController::refreshCounts() {
+    if (countsAt_ == context->changeCount())
+        return;
+    // A failed count goes on with nothing counted.
+    counts_ = context->countBy(FetchRequest(QStringLiteral("Coins")), countKey_);
+    countsAt_ = context->changeCount();
 }
 
 void GroupTableViewController::SortButtonTapped() {
@@ -207,10 +204,7 @@ QString GroupTableViewController::titleForHeader(TableView*, int) {
 
 qint16 GroupTableViewController::countOf(const QString& value) {
     // One grouped count serves every row until the store changes.
-    if (countsAt_ != context->changeCount()) {
-        counts_ = context->countBy(FetchRequest(QStringLiteral("Coins")), countKey_);
-        countsAt_ = context->changeCount();
-    }
+    refreshCounts();
     const qint64 n = counts_.value(value);
     if (n > 32767)
         fatalError(QStringLiteral("Not enough bits to represent the passed value"),

@@ -27,11 +27,8 @@ class GroupTableViewController : public ViewController, public TableViewDataSour
 public:
     // What differs between the three group screens.
     struct Kind {
-        QString key;                      // the attribute grouped by
-        QString (*valueOf)(const Coins&); // the coin's group value; null for none
         QString searchPlaceholder;
-        bool fetchFollowsSortAsc;       // the load's fetch sorts in the direction of SortAsc
-        QString countPredicate;         // counts the records of one value
+        QString countPredicate;         // counts the records of one value; names the grouping
         QString pluralHeader;           // after n when n is not 0
         QString singularHeader;         // after 0
         void (*select)(const QString&); // stores the tapped value for the breakdown screen
@@ -48,8 +45,8 @@ public:
 
     void viewDidLoad() override;
 
-    // Fetches the coins and adds the values not yet listed (the list is never emptied here),
-    // sorted in the direction of SortAsc.
+    // Adds the values not yet listed (the list is never emptied here) and sorts the list in
+    // the direction of SortAsc.
     void load();
     void SortButtonTapped();
     void UnwindSegue();
@@ -80,6 +77,7 @@ private:
     bool searching() const { return !searchController->text().isEmpty(); }
     const QStringList& listInUse() const { return searching() ? FilteredValueList : ValueList; }
     static void sortInDirection(QStringList& list, bool ascending);
+    void refreshCounts();
 
     const Kind& kind_;
     QString countKey_; // the attribute the count predicate names
