@@ -96,8 +96,8 @@ void GroupTableViewController::viewDidLoad() {
     SortAsc = true;
     tableView->setDataSource(this);
     load();
-    navigationItem().leftItems = {
-        {QStringLiteral("Back"), [this] { UnwindSegue(); }, nullptr, QStringLiteral("BackButton")}};
+    navigationItem().leftItems = {{QStringLiteral("\u2039 Back"), [this] { UnwindSegue(); },
+                                   nullptr, QStringLiteral("BackButton")}};
     navigationItem().rightItems = {{QStringLiteral("Sort"), [this] { SortButtonTapped(); }, nullptr,
                                     QStringLiteral("SortButton"),
                                     QStringLiteral("arrow.up.arrow.down")}};
