@@ -1,5 +1,6 @@
 // Grabs the group tables and a breakdown list to PNG files for looking at them:
 // groups_shots DATA_DIR OUT_DIR WIDTH [dark]
+#include "Settle.h"
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
 #include "app/Storyboard.h"
@@ -13,19 +14,6 @@
 #include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
-#include <QThread>
-
-namespace {
-void settle(int ms) {
-    QElapsedTimer t;
-    t.start();
-    while (t.elapsed() < ms) {
-        QApplication::processEvents(QEventLoop::AllEvents, 10);
-        QThread::msleep(5);
-    }
-}
-} // namespace
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);

@@ -1,5 +1,7 @@
 #include "platform/kit/SearchController.h"
 
+#include "platform/kit/TableView.h"
+
 SearchController::SearchController(QWidget* parent)
     : QLineEdit(parent) {
     setClearButtonEnabled(true);
@@ -29,4 +31,13 @@ void SearchController::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     if (!active_)
         setActive(true); // the updater hears of the search starting, before any keystroke
+}
+
+void SearchController::placeAbove(TableView* table, const QString& placeholder,
+                                  std::function<void(SearchController*)> updater) {
+    searchResultsUpdater = std::move(updater);
+    hidesNavigationBarDuringPresentation = false;
+    obscuresBackgroundDuringPresentation = false;
+    setPlaceholderText(placeholder);
+    table->setTableHeaderView(this);
 }

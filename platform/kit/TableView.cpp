@@ -300,24 +300,20 @@ void TableView::setDataSource(TableViewDataSource* source) {
 void TableView::reloadData() {
     revealed_ = -1;
     model_->rebuild();
-    const bool floating =
-        model_->sections_.size() == 1 && !model_->sections_.front().headerTitle.isEmpty();
-    sectionHeader_->setVisible(floating);
-    if (floating) {
-        QFont f = sectionHeader_->font();
+    // A lone section's titles stand in fixed labels above and below the rows.
+    auto showFixed = [this](QLabel* label, QString TableModel::Section::*title) {
+        const bool shown =
+            model_->sections_.size() == 1 && !(model_->sections_.front().*title).isEmpty();
+        label->setVisible(shown);
+        if (!shown)
+            return;
+        QFont f = label->font();
         f.setPointSizeF(headerPoints_);
-        sectionHeader_->setFont(f);
-        sectionHeader_->setText(model_->sections_.front().headerTitle);
-    }
-    const bool fixedFooter =
-        model_->sections_.size() == 1 && !model_->sections_.front().footerTitle.isEmpty();
-    sectionFooter_->setVisible(fixedFooter);
-    if (fixedFooter) {
-        QFont f = sectionFooter_->font();
-        f.setPointSizeF(headerPoints_);
-        sectionFooter_->setFont(f);
-        sectionFooter_->setText(model_->sections_.front().footerTitle);
-    }
+        label->setFont(f);
+        label->setText(model_->sections_.front().*title);
+    };
+    showFixed(sectionHeader_, &TableModel::Section::headerTitle);
+    showFixed(sectionFooter_, &TableModel::Section::footerTitle);
     list_->viewport()->update();
 }
 

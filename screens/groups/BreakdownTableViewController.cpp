@@ -124,13 +124,9 @@ BreakdownTableViewController::BreakdownTableViewController(const Kind& kind, QWi
 
 void BreakdownTableViewController::viewDidLoad() {
     setTitle(kind_.title);
-    searchController->searchResultsUpdater = [this](SearchController* s) {
+    searchController->placeAbove(tableView, kind_.searchPlaceholder, [this](SearchController* s) {
         updateSearchResultsForSearchController(s);
-    };
-    searchController->hidesNavigationBarDuringPresentation = false;
-    searchController->obscuresBackgroundDuringPresentation = false;
-    searchController->setPlaceholderText(kind_.searchPlaceholder);
-    tableView->setTableHeaderView(searchController);
+    });
     SortAsc = true;
     tableView->setDataSource(this);
     load();

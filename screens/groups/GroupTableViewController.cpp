@@ -86,13 +86,9 @@ GroupTableViewController::GroupTableViewController(const Kind& kind, QWidget* pa
 }
 
 void GroupTableViewController::viewDidLoad() {
-    searchController->searchResultsUpdater = [this](SearchController* s) {
+    searchController->placeAbove(tableView, kind_.searchPlaceholder, [this](SearchController* s) {
         updateSearchResultsForSearchController(s);
-    };
-    searchController->hidesNavigationBarDuringPresentation = false;
-    searchController->obscuresBackgroundDuringPresentation = false;
-    searchController->setPlaceholderText(kind_.searchPlaceholder);
-    tableView->setTableHeaderView(searchController);
+    });
     SortAsc = true;
     tableView->setDataSource(this);
     load();
