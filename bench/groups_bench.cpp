@@ -151,7 +151,8 @@ void breakdownFigures(const QString& dir, int tab, const char* what, const QStri
         std::exit(1);
     std::snprintf(label, sizeof label, "breakdown: open %s (%d coins; fetch + paint)", what, coins);
     print(label, open, "ms", "<= 150 ms");
-    std::snprintf(label, sizeof label, "breakdown: rows drawn by the paints of that open, %s", what);
+    std::snprintf(label, sizeof label, "breakdown: rows drawn by the paints of that open, %s",
+                  what);
     print(label, b->tableView->cellsRequested(), "", "visible");
     std::snprintf(label, sizeof label, "breakdown: slowest keystroke, %s (\"%s\")", what,
                   qPrintable(typed));
