@@ -3,11 +3,18 @@
 #include "exchange/ExportViewController.h"
 #include "exchange/ImportViewController.h"
 #include "platform/kit/Storyboard.h"
+#include "platform/kit/TabBarController.h"
 #include "screens/entry/AddViewController.h"
 #include "screens/entry/EditViewController.h"
 #include "screens/entry/NotesViewController.h"
 #include "screens/entry/ZoomViewController.h"
 #include "screens/feedback/RateShareTableViewController.h"
+#include "screens/groups/CountryBreakdownTableViewController.h"
+#include "screens/groups/CountryGroupTableViewController.h"
+#include "screens/groups/DenominationBreakdownTableViewController.h"
+#include "screens/groups/DenominationGroupTableViewController.h"
+#include "screens/groups/YearBreakdownTableViewController.h"
+#include "screens/groups/YearGroupTableViewController.h"
 #include "screens/list/MainListTableViewController.h"
 #include "screens/reference/ReferenceListScreens.h"
 #include "screens/reference/ReferenceListViewController.h"
@@ -43,5 +50,17 @@ void install() {
     push("showGrade", [] { return new EditGradeNumberViewController; });
     push("showStrike", [] { return new EditStrikeCharacterViewController; });
     push("showEdge", [] { return new EditEdgeViewController; });
+    push("TabBarController", [] {
+        auto* tabs = new TabBarController;
+        tabs->setViewControllers({new DenominationGroupTableViewController,
+                                  new CountryGroupTableViewController,
+                                  new YearGroupTableViewController},
+                                 {"Denomination", "Country", "Year"});
+        return tabs;
+    });
+    push("showDenominationBreakdown", [] { return new DenominationBreakdownTableViewController; });
+    push("showCountryBreakdown", [] { return new CountryBreakdownTableViewController; });
+    push("showYearBreakdown", [] { return new YearBreakdownTableViewController; });
+    push("Grouped", [] { return new EditViewController; });
 }
 } // namespace AppStoryboard

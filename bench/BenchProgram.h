@@ -2,6 +2,7 @@
 // The program as the benchmarks and screen grabs run it: the collection in a folder, the
 // delegate, the storyboard with the recording fakes, and the menu in a phone-sized window.
 #include "BenchCollection.h"
+#include "Settle.h"
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
 #include "app/Storyboard.h"
@@ -13,7 +14,6 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
-#include <QThread>
 
 namespace BenchProgram {
 
@@ -21,15 +21,7 @@ inline double ms(const QElapsedTimer& t) {
     return double(t.nsecsElapsed()) / 1e6;
 }
 
-// Runs the event loop for a while, so that queued work and animations are done.
-inline void settle(int milliseconds) {
-    QElapsedTimer t;
-    t.start();
-    while (t.elapsed() < milliseconds) {
-        QApplication::processEvents(QEventLoop::AllEvents, 10);
-        QThread::msleep(5);
-    }
-}
+using ::settle;
 
 class Running {
 public:

@@ -1,4 +1,5 @@
 // Grabs the screens to PNG files for looking at them: shots DATA_DIR OUT_DIR [dark]
+#include "Settle.h"
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
 #include "app/Storyboard.h"
@@ -20,19 +21,6 @@
 #include <QPainter>
 
 #include <QApplication>
-#include <QElapsedTimer>
-#include <QThread>
-
-namespace {
-void settle(int ms) {
-    QElapsedTimer t;
-    t.start();
-    while (t.elapsed() < ms) {
-        QApplication::processEvents(QEventLoop::AllEvents, 10);
-        QThread::msleep(5);
-    }
-}
-} // namespace
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);

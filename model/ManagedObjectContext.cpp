@@ -148,10 +148,12 @@ ObjectPtr ManagedObjectContext::insertNewObject(const QString& entityName) {
     o->state_ = ManagedObject::State::Inserted;
     o->insertSeq_ = nextInsertSeq_++;
     inserted_.append(o);
+    ++changeCount_;
     return o;
 }
 
 void ManagedObjectContext::noteChange(ManagedObject& o, int attribute) {
+    ++changeCount_;
     if (o.state_ == ManagedObject::State::Inserted) {
         reindexPending(o, attribute);
         return;
@@ -172,6 +174,7 @@ void ManagedObjectContext::noteChange(ManagedObject& o, int attribute) {
 void ManagedObjectContext::deleteObject(const ObjectPtr& o) {
     if (!o || o->context_ != this || o->isDeleted())
         return;
+    ++changeCount_;
     if (o->state_ == ManagedObject::State::Inserted) {
         unindexPending(*o);
         inserted_.removeOne(o);
@@ -340,6 +343,7 @@ std::optional<StoreError> ManagedObjectContext::save() {
         for (auto& set : perEntity)
             set.clear();
     inserted_.clear();
+    ++changeCount_;
     pendingIndexes_.clear();
     updated_.clear();
     deleted_.clear();
@@ -606,8 +610,4 @@ QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreE
             return a->rowId_ ? a->rowId_ < b->rowId_ : a->insertSeq_ < b->insertSeq_;
         });
     return result;
-}
-
-int ManagedObjectContext::count(const FetchRequest& request, StoreError* error) {
-    return int(fetch(request, error).size());
 }

@@ -31,6 +31,9 @@ NavigationController::NavigationController(ViewController* root, QWidget* parent
     auto* leftLayout = new QHBoxLayout(left);
     leftLayout->setContentsMargins(0, 0, 0, 0);
     leftLayout->addWidget(back_);
+    leftItems_ = new QHBoxLayout;
+    leftItems_->setContentsMargins(0, 0, 0, 0);
+    leftLayout->addLayout(leftItems_);
     leftLayout->addStretch();
     auto* right = new QWidget(bar_);
     rightItems_->setParent(nullptr);
@@ -139,18 +142,20 @@ void NavigationController::refreshBar() {
         back_->setText(QStringLiteral("\u2039 ") +
                        (previous.isEmpty() ? QStringLiteral("Back") : previous));
     }
-    while (QLayoutItem* item = rightItems_->takeAt(0)) {
-        delete item->widget();
-        delete item;
-    }
+    for (QHBoxLayout* items : {rightItems_, leftItems_})
+        while (QLayoutItem* item = items->takeAt(0)) {
+            delete item->widget();
+            delete item;
+        }
     rightItems_->addStretch();
     if (!top)
         return;
-    for (const BarButtonItem& item : top->navigationItem().rightItems) {
+    auto makeButton = [top](const BarButtonItem& item) {
         auto* button = new QPushButton(item.title);
         button->setFlat(true);
         button->setObjectName(item.objectName);
-        if (const QIcon icon = Symbols::icon(item.symbol); !icon.isNull()) {
+        button->setEnabled(item.enabled);
+        if (const QIcon icon = Symbols::icon(item.symbol, button->palette()); !icon.isNull()) {
             button->setIcon(icon);
             button->setIconSize(QSize(22, 22));
             button->setText(QString());
@@ -165,6 +170,19 @@ void NavigationController::refreshBar() {
         } else if (item.action) {
             connect(button, &QPushButton::clicked, top, item.action);
         }
-        rightItems_->addWidget(button);
-    }
+        return button;
+    };
+    for (const BarButtonItem& item : top->navigationItem().rightItems)
+        rightItems_->addWidget(makeButton(item));
+    for (const BarButtonItem& item : top->navigationItem().leftItems)
+        leftItems_->addWidget(makeButton(item));
+}
+
+void NavigationController::setRootViewController(ViewController* screen) {
+    if (!screens_.isEmpty())
+        return;
+    screens_.append(screen);
+    stack_->addWidget(screen);
+    stack_->setCurrentWidget(screen);
+    refreshBar();
 }

@@ -18,6 +18,9 @@ public:
     explicit NavigationController(ViewController* root = nullptr, QWidget* parent = nullptr);
 
     void pushViewController(ViewController* screen, bool animated = true);
+    // Makes the screen the first of an empty stack without loading or showing it: a tab's
+    // screen is loaded when the tab is first shown.
+    void setRootViewController(ViewController* screen);
     ViewController* popViewController(bool animated = true);
     void popToViewController(ViewController* screen, bool animated = true);
     void popToRootViewController(bool animated = true);
@@ -45,6 +48,7 @@ private:
     QToolButton* back_;
     QLabel* title_;
     QHBoxLayout* rightItems_;
+    QHBoxLayout* leftItems_ = nullptr;
     QStackedWidget* stack_;
     QList<QPointer<ViewController>> screens_;
     QPointer<ViewController> container_;

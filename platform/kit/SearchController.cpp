@@ -1,6 +1,7 @@
 #include "platform/kit/SearchController.h"
 
 #include "platform/kit/Symbols.h"
+#include "platform/kit/TableView.h"
 
 #include <QAction>
 
@@ -44,4 +45,13 @@ void SearchController::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     if (!active_)
         setActive(true); // the updater hears of the search starting, before any keystroke
+}
+
+void SearchController::placeAbove(TableView* table, const QString& placeholder,
+                                  std::function<void(SearchController*)> updater) {
+    searchResultsUpdater = std::move(updater);
+    hidesNavigationBarDuringPresentation = false;
+    obscuresBackgroundDuringPresentation = false;
+    setPlaceholderText(placeholder);
+    table->setTableHeaderView(this);
 }

@@ -15,6 +15,10 @@ public:
     void dismiss(bool animated = false);
     bool obscuresBackgroundDuringPresentation = false;
     bool hidesNavigationBarDuringPresentation = false;
+    // Becomes the table's header view with the placeholder, reporting to `updater`; the list
+    // stays undimmed and the bar shown while searching.
+    void placeAbove(class TableView* table, const QString& placeholder,
+                    std::function<void(SearchController*)> updater);
 
 protected:
     void focusInEvent(QFocusEvent* event) override;

@@ -3,51 +3,68 @@
 #include <QApplication>
 #include <QFile>
 #include <QPainter>
-#include <QPalette>
+#include <QPixmap>
 #include <QSvgRenderer>
 
-// The resources live in a static library: nothing would pull their registration in otherwise.
-static void registerSymbols() {
-    static const bool once = [] {
-        Q_INIT_RESOURCE(symbols);
+static void loadSymbolResources() {
+    // The kit is a static library: its resources register only when asked to.
+    static const bool loaded = [] {
+        Q_INIT_RESOURCE(Symbols);
         return true;
     }();
-    Q_UNUSED(once);
+    Q_UNUSED(loaded);
 }
-
-namespace Symbols {
 
 namespace {
 QString pathOf(const QString& name) {
     return QStringLiteral(":/symbols/%1.svg").arg(name);
 }
+
+QPixmap draw(const QByteArray& svg, const QColor& colour, int side) {
+    QByteArray tinted = svg;
+    tinted.replace("#000000", colour.name().toLatin1());
+    QSvgRenderer renderer(tinted);
+    QPixmap pixmap(side, side);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    renderer.render(&painter);
+    return pixmap;
+}
 } // namespace
 
+namespace Symbols {
+
 bool exists(const QString& name) {
-    if (name.isEmpty())
-        return false;
-    registerSymbols();
+    loadSymbolResources();
     return QFile::exists(pathOf(name));
 }
 
+static QByteArray source(const QString& name) {
+    loadSymbolResources();
+    QFile file(pathOf(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 QIcon icon(const QString& name, int size, const QColor& colour) {
-    if (!exists(name))
+    const QByteArray svg = source(name);
+    if (svg.isEmpty())
         return {};
-    QSvgRenderer renderer(pathOf(name));
-    // Drawn at twice the size so that it stays sharp on dense screens.
-    const qreal ratio = 2.0;
-    QPixmap pixmap(QSize(size, size) * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    renderer.render(&painter, QRectF(0, 0, size, size));
-    // The drawing keeps its shape and takes the text colour, so it reads in both appearances.
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(QRectF(0, 0, size, size),
-                     colour.isValid() ? colour
-                                      : QApplication::palette().color(QPalette::ButtonText));
-    painter.end();
-    return QIcon(pixmap);
+    return QIcon(
+        draw(svg, colour.isValid() ? colour : QApplication::palette().color(QPalette::ButtonText),
+             size));
+}
+
+QIcon icon(const QString& name, const QPalette& palette) {
+    const QByteArray svg = source(name);
+    if (svg.isEmpty())
+        return {};
+    QIcon icon;
+    for (int side : {22, 44}) {
+        icon.addPixmap(draw(svg, palette.color(QPalette::Active, QPalette::ButtonText), side));
+        icon.addPixmap(draw(svg, palette.color(QPalette::Disabled, QPalette::ButtonText), side),
+                       QIcon::Disabled);
+    }
+    return icon;
 }
 
 } // namespace Symbols

@@ -25,7 +25,7 @@ void TabBarController::setViewControllers(const QList<ViewController*>& roots,
     for (int i = 0; i < roots.size(); ++i) {
         auto* nav = new NavigationController(nullptr, stack_);
         nav->setContainerViewController(this);
-        nav->pushViewController(roots[i], false);
+        nav->setRootViewController(roots[i]);
         stack_->addWidget(nav);
         bar_->addTab(titles.value(i));
     }
@@ -40,6 +40,8 @@ void TabBarController::setSelectedIndex(int index) {
         return;
     ViewController* leaving = tab(stack_->currentIndex())->topViewController();
     ViewController* showing = tab(index)->topViewController();
+    if (showing)
+        showing->loadViewIfNeeded();
     if (leaving)
         leaving->viewWillDisappear(false);
     if (showing)
@@ -60,12 +62,28 @@ int TabBarController::count() const {
     return stack_->count();
 }
 
+ViewController* TabBarController::selectedScreen() const {
+    return count() ? tab(selectedIndex())->topViewController() : nullptr;
+}
+
 void TabBarController::viewWillAppear(bool animated) {
-    if (count() && tab(selectedIndex())->topViewController())
-        tab(selectedIndex())->topViewController()->viewWillAppear(animated);
+    if (ViewController* screen = selectedScreen()) {
+        screen->loadViewIfNeeded(); // a tab's screen loads when the tab is first shown
+        screen->viewWillAppear(animated);
+    }
 }
 
 void TabBarController::viewDidAppear(bool animated) {
-    if (count() && tab(selectedIndex())->topViewController())
-        tab(selectedIndex())->topViewController()->viewDidAppear(animated);
+    if (ViewController* screen = selectedScreen())
+        screen->viewDidAppear(animated);
+}
+
+void TabBarController::viewWillDisappear(bool animated) {
+    if (ViewController* screen = selectedScreen())
+        screen->viewWillDisappear(animated);
+}
+
+void TabBarController::viewDidDisappear(bool animated) {
+    if (ViewController* screen = selectedScreen())
+        screen->viewDidDisappear(animated);
 }

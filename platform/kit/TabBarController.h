@@ -1,5 +1,6 @@
 #pragma once
-// Tabs along the bottom, each holding a navigation stack of its own.
+// Tabs along the bottom, each holding a navigation stack of its own. A tab's first screen is
+// loaded when the tab is first shown.
 #include "platform/kit/ViewController.h"
 
 class NavigationController;
@@ -16,8 +17,14 @@ public:
     NavigationController* tab(int index) const;
     int count() const;
 
+    // The top screen of the selected tab.
+    ViewController* selectedScreen() const;
+
+    // Passed on to the screen on top of the selected tab.
     void viewWillAppear(bool animated) override;
     void viewDidAppear(bool animated) override;
+    void viewWillDisappear(bool animated) override;
+    void viewDidDisappear(bool animated) override;
 
 private:
     QStackedWidget* stack_;

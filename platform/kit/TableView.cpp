@@ -50,7 +50,8 @@ public:
                 // A lone section's header stands above the list, as a plain table's floating
                 // header does; it also keeps the rows of uniform height.
                 sec.header = !sec.headerTitle.isEmpty() && n > 1;
-                sec.footer = !sec.footerTitle.isEmpty();
+                // Its footer stands below the list the same way.
+                sec.footer = !sec.footerTitle.isEmpty() && n > 1;
                 sec.rows = s->numberOfRows(table_, i);
                 total_ += sec.rows + int(sec.header) + int(sec.footer);
                 sections_.push_back(sec);
@@ -272,6 +273,11 @@ TableView::TableView(QWidget* parent)
     sectionHeader_->hide();
     layout_->addWidget(sectionHeader_);
     layout_->addWidget(list_, 1);
+    sectionFooter_ = new QLabel(this);
+    sectionFooter_->setAlignment(Qt::AlignCenter);
+    sectionFooter_->setFixedHeight(kHeaderHeight);
+    sectionFooter_->hide();
+    layout_->addWidget(sectionFooter_);
     list_->setModel(model_);
     list_->setItemDelegate(new TableDelegate(this));
     list_->setUniformItemSizes(true);
@@ -294,15 +300,20 @@ void TableView::setDataSource(TableViewDataSource* source) {
 void TableView::reloadData() {
     revealed_ = -1;
     model_->rebuild();
-    const bool floating =
-        model_->sections_.size() == 1 && !model_->sections_.front().headerTitle.isEmpty();
-    sectionHeader_->setVisible(floating);
-    if (floating) {
-        QFont f = sectionHeader_->font();
+    // A lone section's titles stand in fixed labels above and below the rows.
+    auto showFixed = [this](QLabel* label, QString TableModel::Section::*title) {
+        const bool shown =
+            model_->sections_.size() == 1 && !(model_->sections_.front().*title).isEmpty();
+        label->setVisible(shown);
+        if (!shown)
+            return;
+        QFont f = label->font();
         f.setPointSizeF(headerPoints_);
-        sectionHeader_->setFont(f);
-        sectionHeader_->setText(model_->sections_.front().headerTitle);
-    }
+        label->setFont(f);
+        label->setText(model_->sections_.front().*title);
+    };
+    showFixed(sectionHeader_, &TableModel::Section::headerTitle);
+    showFixed(sectionFooter_, &TableModel::Section::footerTitle);
     list_->viewport()->update();
 }
 

@@ -61,6 +61,13 @@ public:
     // A widget above the rows (the search bar goes here).
     void setTableHeaderView(QWidget* view);
     QWidget* tableHeaderView() const { return header_; }
+    // The fixed labels of a lone section's header and footer titles (hidden when empty).
+    class QLabel* sectionHeaderLabel() const {
+        return sectionHeader_;
+    }
+    class QLabel* sectionFooterLabel() const {
+        return sectionFooter_;
+    }
     // Header titles drawn centred in this point size.
     void setHeaderFontSize(qreal points) { headerPoints_ = points; }
     qreal headerFontSize() const { return headerPoints_; }
@@ -97,6 +104,7 @@ private:
     QVBoxLayout* layout_;
     QWidget* header_ = nullptr;
     class QLabel* sectionHeader_;
+    class QLabel* sectionFooter_ = nullptr;
     QListView* list_;
     class TableModel* model_;
     QHash<QString, std::function<TableViewCell*()>> factories_;

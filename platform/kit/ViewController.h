@@ -19,11 +19,14 @@ struct BarButtonItem {
     std::function<void()> action; // run on click, unless a menu is given
     QMenu* menu = nullptr;        // shown on click when set (owned by the screen)
     QString objectName;           // lets tests find the button
-    QString symbol = {}; // a symbol image from the resources, shown instead of the title when set
+    QString symbol = {};          // a symbol image of the resources shown instead of the title
+    bool enabled = true;
 };
 
 struct NavigationItem {
     QList<BarButtonItem> rightItems;
+    // Beside the back button, or in its place on a stack's first screen.
+    QList<BarButtonItem> leftItems;
     bool hidesBackButton = false;
 };
 

@@ -1,0 +1,299 @@
+#include "screens/groups/BreakdownTableViewController.h"
+
+#include "platform/kit/Appearance.h"
+#include "screens/Application.h"
+#include "screens/Currency.h"
+#include "screens/DetailReceiver.h"
+#include "screens/ProcessState.h"
+#include "screens/groups/CountryBreakdownTableViewController.h"
+#include "screens/groups/DenominationBreakdownTableViewController.h"
+#include "screens/groups/YearBreakdownTableViewController.h"
+
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace {
+QString yearText(const Coins& c) {
+    return QString::number(c.year());
+}
+QString lowerDenomination(const Coins& c) {
+    return c.denomination().toLower();
+}
+bool byYear(const Coins& a, const Coins& b) {
+    return a.year() < b.year();
+}
+bool byDenomination(const Coins& a, const Coins& b) {
+    return PredicateDetail::compareText(a.denomination(), b.denomination()) < 0;
+}
+QString money(const Coins& c) {
+    return Currency::text(double(c.value()));
+}
+QString total(const Coins& c) {
+    return Currency::text(double(c.quantity()) * double(c.value()));
+}
+} // namespace
+
+// The differences among the three breakdown screens, side by side.
+using Kind = BreakdownTableViewController::Kind;
+const Kind& Kind::denomination() {
+    static const Kind k{
+        .title = "Denomination",
+        .searchPlaceholder = "Sort and Search By Year",
+        .predicate = "denomination == %@",
+        .groupValue = [] { return SelectedDenomination; },
+        .firstSortKey = "denomination",
+        .secondSortKey = "year",
+        .searchText = yearText,
+        .searchIgnoresCase = false,
+        .sortsBefore = byYear,
+        .label2 = [](const Coins& c) { return yearText(c) + "  Mint Mark: " + c.mintMark(); },
+        .label3 = [](const Coins& c) { return QString::number(c.quantity()) + "  " + c.country(); },
+        .label4 = [](const Coins& c) { return money(c) + " Total Value: " + total(c); },
+        .calledFromList = "DenominationBreakdown",
+        .unwind = "unwindToDenominationTableView",
+        .pdfFileName = "CoinListByDenomination.pdf",
+        .makeCell = []() -> BreakdownTableViewCell* {
+            return new DenominationBreakdownTableViewCell;
+        }};
+    return k;
+}
+const Kind& Kind::country() {
+    static const Kind k{
+        .title = "Country",
+        .searchPlaceholder = "Sort and Search By Denomination",
+        .predicate = "country == %@",
+        .groupValue = [] { return SelectedCountry; },
+        .firstSortKey = "denomination",
+        .secondSortKey = "year",
+        .searchText = lowerDenomination,
+        .searchIgnoresCase = true,
+        .sortsBefore = byDenomination,
+        .label2 = [](const Coins& c) { return yearText(c) + "  Mint Mark: " + c.mintMark(); },
+        .label3 =
+            [](const Coins& c) {
+                return QString::number(c.quantity()) + "  Country: " + c.country();
+            },
+        .label4 = [](const Coins& c) { return money(c) + " Total Value: " + total(c); },
+        .calledFromList = "CountryBreakdown",
+        .unwind = "unwindToCountryTableView",
+        .pdfFileName = "CoinListByCountry.pdf",
+        .makeCell = []() -> BreakdownTableViewCell* { return new CountryBreakdownTableViewCell; }};
+    return k;
+}
+const Kind& Kind::year() {
+    static const Kind k{
+        .title = "Year",
+        .searchPlaceholder = "Search By Denomination",
+        .predicate = "year == %@",
+        .groupValue = [] { return QString::number(SelectedYear); },
+        .firstSortKey = "year",
+        .secondSortKey = "denomination",
+        .searchText = lowerDenomination,
+        .searchIgnoresCase = true,
+        .sortsBefore = byYear, // every row has the same year, so the rows keep their order
+        .label2 =
+            [](const Coins& c) { return "Year: " + yearText(c) + "  Mint Mark: " + c.mintMark(); },
+        .label3 = [](const Coins& c) { return "Qty: " + QString::number(c.quantity()); },
+        .label4 = [](const Coins& c) { return "Value: " + money(c) + " Total Value: " + total(c); },
+        .calledFromList = "YearBreakdown",
+        .unwind = "unwindToYearTableView",
+        .pdfFileName = "CoinListByYear.pdf",
+        .makeCell = []() -> BreakdownTableViewCell* { return new YearBreakdownTableViewCell; }};
+    return k;
+}
+
+BreakdownTableViewCell::BreakdownTableViewCell(QWidget* parent)
+    : CoinRowCell(QStringLiteral("BreakdownCell"), 4, parent)
+    , FrontImage(picture())
+    , DenominationLabel(line(0))
+    , Label2(line(1))
+    , Label3(line(2))
+    , Label4(line(3)) {}
+
+BreakdownTableViewController::BreakdownTableViewController(const Kind& kind, QWidget* parent)
+    : ViewController(parent)
+    , searchController(new SearchController(this))
+    , tableView(new TableView(this))
+    , kind_(kind) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(tableView);
+    tableView->registerCell(QStringLiteral("Cell"), [&kind] { return kind.makeCell(); });
+    registerUnwindAction(kind.unwind, [this](StoryboardSegue& s) { unwindToTableView(s); });
+    context = managedObjectContext = Application::viewContext();
+}
+
+void BreakdownTableViewController::viewDidLoad() {
+    setTitle(kind_.title);
+    searchController->placeAbove(tableView, kind_.searchPlaceholder, [this](SearchController* s) {
+        updateSearchResultsForSearchController(s);
+    });
+    SortAsc = true;
+    tableView->setDataSource(this);
+    load();
+    navigationItem().rightItems = {
+        {QStringLiteral("Share"), [this] { ShareCoinButtonClicked(); }, nullptr,
+         QStringLiteral("ShareButton"), QStringLiteral("square.and.arrow.up"), false},
+        {QStringLiteral("Print"), [this] { PrintButtonClicked(); }, nullptr,
+         QStringLiteral("PrintButton"), QStringLiteral("printer"), false},
+        {QStringLiteral("Sort"), [this] { SortButtonTapped(); }, nullptr,
+         QStringLiteral("SortButton"), QStringLiteral("arrow.up.arrow.down")}};
+    updateNavigationBar();
+    DarkMode = Appearance::isDark();
+}
+
+void BreakdownTableViewController::load() {
+    CoinList.clear();
+    value = 0;
+    CoinCount = 0;
+    searchKeysAt_.reset();
+    FetchRequest request(QStringLiteral("Coins"));
+    request.returnsObjectsAsFaults = false;
+    request.predicate = Predicate::format(kind_.predicate, kind_.groupValue());
+    const bool ascending = SortAsc.value_or(true);
+    request.sortDescriptors = {{kind_.firstSortKey, ascending}, {kind_.secondSortKey, ascending}};
+    // A failed fetch leaves the list empty.
+    CoinList = context->fetch<Coins>(request);
+    for (const CoinPtr& coin : std::as_const(CoinList)) {
+        value += coin->value() * float(coin->quantity());
+        CoinCount += quint64(qint64(coin->quantity()));
+    }
+    tableView->reloadData();
+}
+
+void BreakdownTableViewController::SortButtonTapped() {
+    if (!SortAsc)
+        return;
+    SortAsc = !*SortAsc;
+    if (!searching()) {
+        load();
+        return;
+    }
+    const bool ascending = *SortAsc;
+    filteredValue_.reset(); // summed again in the new order
+    std::stable_sort(FilteredCoinList.begin(), FilteredCoinList.end(),
+                     [this, ascending](const CoinPtr& a, const CoinPtr& b) {
+                         return ascending ? kind_.sortsBefore(*a, *b) : kind_.sortsBefore(*b, *a);
+                     });
+    tableView->reloadData();
+}
+
+void BreakdownTableViewController::prepareSearch() {
+    // The texts searched and each coin's value are worked out as a search starts, so that a
+    // keystroke only compares; they are made again when the store has changed since.
+    if (searchKeysAt_ == context->changeCount() && searchKeys_.size() == CoinList.size())
+        return;
+    searchKeys_.clear();
+    searchKeys_.reserve(CoinList.size());
+    coinValues_.clear();
+    coinValues_.reserve(std::size_t(CoinList.size()));
+    for (const CoinPtr& coin : std::as_const(CoinList)) {
+        searchKeys_.append(kind_.searchText(*coin));
+        coinValues_.push_back(coin->value() * float(coin->quantity()));
+    }
+    searchKeysAt_ = context->changeCount();
+}
+
+void BreakdownTableViewController::updateSearchResultsForSearchController(
+    SearchController* search) {
+    const QString text = search->text();
+    if (search->isActive() || !text.isEmpty())
+        prepareSearch();
+    filteredValue_.reset();
+    if (text.isEmpty()) {
+        FilteredCoinList = CoinList;
+        tableView->reloadData();
+        return;
+    }
+    const QString wanted = kind_.searchIgnoresCase ? text.toLower() : text;
+    FilteredCoinList.clear();
+    double sum = 0;
+    for (qsizetype i = 0; i < CoinList.size(); ++i)
+        if (searchKeys_[i].contains(wanted)) {
+            FilteredCoinList.append(CoinList[i]);
+            sum += double(coinValues_[std::size_t(i)]);
+        }
+    filteredValue_ = sum;
+    filteredValueAt_ = context->changeCount();
+    tableView->reloadData();
+}
+
+void BreakdownTableViewController::unwindToTableView(StoryboardSegue&) {
+    tableView->reloadData();
+}
+
+int BreakdownTableViewController::numberOfRows(TableView*, int) {
+    return int(listInUse().size());
+}
+
+QString BreakdownTableViewController::titleForHeader(TableView*, int) {
+    return QStringLiteral("# of Coins: ") + QString::number(CoinCount);
+}
+
+QString BreakdownTableViewController::titleForFooter(TableView*, int) {
+    double shown = double(value); // the running sum of the load
+    if (searching()) {
+        if (!filteredValue_ || filteredValueAt_ != context->changeCount()) {
+            filteredValue_ = 0;
+            for (const CoinPtr& coin : std::as_const(FilteredCoinList))
+                *filteredValue_ += double(coin->value() * float(coin->quantity()));
+            filteredValueAt_ = context->changeCount();
+        }
+        shown = *filteredValue_;
+    }
+    return QStringLiteral("Valuation for displayed coins: ") + Currency::text(shown);
+}
+
+TableViewCell* BreakdownTableViewController::cellForRow(TableView* table, IndexPath path) {
+    auto* cell = static_cast<BreakdownTableViewCell*>(table->dequeueReusableCell("Cell"));
+    cell->setDarkMode(DarkMode);
+    const Coins& coin = *listInUse().at(path.row);
+    cell->FrontImage->setImage(pictures_.front(coin));
+    cell->DenominationLabel->setText(coin.denomination());
+    cell->Label2->setText(kind_.label2(coin));
+    cell->Label3->setText(kind_.label3(coin));
+    cell->Label4->setText(kind_.label4(coin));
+    return cell;
+}
+
+void BreakdownTableViewController::didSelectRow(TableView* table, IndexPath path) {
+    copyIntoCurrentCoin(*listInUse().at(path.row));
+    selectedRow_ = path.row;
+    table->deselectRow(path);
+    if (Storyboard::hasSegue(QStringLiteral("Grouped")))
+        performSegue(QStringLiteral("Grouped"), this);
+}
+
+void BreakdownTableViewController::prepareForSegue(StoryboardSegue& segue, QObject*) {
+    CalledFromList = kind_.calledFromList;
+    if (segue.identifier != QLatin1String("Grouped") || !selectedRow_)
+        return;
+    const QList<CoinPtr>& list = listInUse();
+    if (*selectedRow_ >= list.size())
+        return;
+    if (auto* receiver = dynamic_cast<DetailReceiver*>(segue.destination))
+        receiver->setDetailItem(list.at(*selectedRow_));
+}
+
+QList<SwipeAction> BreakdownTableViewController::trailingSwipeActions(TableView*, IndexPath) {
+    return {{QStringLiteral("delete"), true, [this](IndexPath p) { deleteCoinAt(p.row); }}};
+}
+
+void BreakdownTableViewController::deleteCoinAt(int row) {
+    // Always the coin at that position of the whole group, even while a search shows fewer
+    // rows: a swipe on a filtered row can delete another coin than the one it shows.
+    if (row < 0 || row >= CoinList.size())
+        return;
+    const CoinPtr coin = CoinList.takeAt(row);
+    context->deleteObject(coin);
+    Application::delegate().saveContext();
+    // The swiped row leaves the table, and a deleted coin is never shown. The count, the
+    // value and the header stay as the load left them.
+    filteredValue_.reset();
+    if (searching()) {
+        if (row < FilteredCoinList.size())
+            FilteredCoinList.removeAt(row);
+        FilteredCoinList.removeOne(coin);
+    }
+    tableView->deleteRows({{0, row}});
+}

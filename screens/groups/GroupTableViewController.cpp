@@ -1,0 +1,226 @@
+#include "screens/groups/GroupTableViewController.h"
+
+#include "platform/Fatal.h"
+#include "platform/kit/Appearance.h"
+#include "screens/Application.h"
+#include "screens/ProcessState.h"
+#include "screens/groups/CountryGroupTableViewController.h"
+#include "screens/groups/DenominationGroupTableViewController.h"
+#include "screens/groups/YearGroupTableViewController.h"
+
+#include <QHBoxLayout>
+#include <QSet>
+#include <QVBoxLayout>
+#include <algorithm>
+
+// The differences among the three group screens, side by side.
+using Kind = GroupTableViewController::Kind;
+const Kind& Kind::denomination() {
+    static const Kind k{
+        .searchPlaceholder = "Sort and Search By Denomination",
+        .countPredicate = "denomination = %@",
+        .pluralHeader = " Denominations",
+        .singularHeader = " Denomination",
+        .select = [](const QString& v) { SelectedDenomination = v; },
+        .breakdownSegue = "showDenominationBreakdown",
+        .makeCell = []() -> GroupTableViewCell* { return new DenominationgroupTableViewCell; }};
+    return k;
+}
+const Kind& Kind::country() {
+    static const Kind k{
+        .searchPlaceholder = "Search By Denomination", // as written, though it searches countries
+        .countPredicate = "country = %@",
+        .pluralHeader = " Countries",
+        .singularHeader = " Country",
+        .select = [](const QString& v) { SelectedCountry = v; },
+        .breakdownSegue = "showCountryBreakdown",
+        .makeCell = []() -> GroupTableViewCell* { return new CountryGroupTableViewCell; }};
+    return k;
+}
+const Kind& Kind::year() {
+    static const Kind k{.searchPlaceholder = "Sort and Search By Year",
+                        .countPredicate = "year = %@", // with the year's decimal text
+                        .pluralHeader = " Years",
+                        .singularHeader = " Year",
+                        .select = [](const QString& v) { SelectedYear = v.toShort(); },
+                        .breakdownSegue = "showYearBreakdown",
+                        .makeCell = []() -> GroupTableViewCell* { return new YearTableViewCell; }};
+    return k;
+}
+
+GroupTableViewCell::GroupTableViewCell(QWidget* parent)
+    : TableViewCell(parent)
+    , ValueLabel(new QLabel(this))
+    , CountLabel(new QLabel(this)) {
+    setObjectName(QStringLiteral("GroupCell"));
+    Styling::round(this, 10, 2, Qt::black, Styling::rowColor());
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(16, 4, 16, 4);
+    QFont bold = ValueLabel->font();
+    bold.setBold(true);
+    bold.setPointSizeF(bold.pointSizeF() * 1.2);
+    ValueLabel->setFont(bold);
+    row->addWidget(ValueLabel, 1);
+    row->addWidget(CountLabel);
+    setDarkMode(false);
+}
+
+void GroupTableViewCell::setDarkMode(bool dark) {
+    const QString css = QStringLiteral("border: none; padding: 0px; background: transparent;") +
+                        (dark ? QStringLiteral(" color: black;") : QString());
+    ValueLabel->setStyleSheet(css);
+    CountLabel->setStyleSheet(css);
+}
+
+GroupTableViewController::GroupTableViewController(const Kind& kind, QWidget* parent)
+    : ViewController(parent)
+    , searchController(new SearchController(this))
+    , tableView(new TableView(this))
+    , kind_(kind)
+    , countKey_(Predicate::format(kind.countPredicate, QString()).terms().front().key) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(tableView);
+    tableView->registerCell(QStringLiteral("Cell"), [&kind] { return kind.makeCell(); });
+    context = Application::viewContext();
+}
+
+void GroupTableViewController::viewDidLoad() {
+    searchController->placeAbove(tableView, kind_.searchPlaceholder, [this](SearchController* s) {
+        updateSearchResultsForSearchController(s);
+    });
+    SortAsc = true;
+    tableView->setDataSource(this);
+    load();
+    navigationItem().leftItems = {{QStringLiteral("\u2039 Back"), [this] { UnwindSegue(); },
+                                   nullptr, QStringLiteral("BackButton")}};
+    navigationItem().rightItems = {{QStringLiteral("Sort"), [this] { SortButtonTapped(); }, nullptr,
+                                    QStringLiteral("SortButton"),
+                                    QStringLiteral("arrow.up.arrow.down")}};
+    updateNavigationBar();
+    DarkMode = Appearance::isDark();
+}
+
+void GroupTableViewController::sortInDirection(QStringList& list, bool ascending) {
+    // Values are texts, also on the year screen: 999 sorts after 1000.
+    std::sort(list.begin(), list.end(), [](const QString& a, const QString& b) {
+        return PredicateDetail::compareText(a, b) < 0;
+    });
+    if (!ascending)
+        std::reverse(list.begin(), list.end());
+}
+
+void GroupTableViewController::load() {
+    // The values and their counts come from one grouped count on the store's index, never from
+    // reading every coin: what the screen shows is the same. CardList and NumberOfCoins, kept
+    // but never shown, stay empty.
+    CardList.clear();
+    refreshCounts();
+    QStringList found = counts_.keys();
+    sortInDirection(found, true);
+    NumberOfValues = 0;
+    // "Already listed" is asked once per value: a set beside the list answers it.
+    QSet<QString> listed(ValueList.begin(), ValueList.end());
+    for (const QString& value : std::as_const(found)) {
+        // The empty text is never the first value counted, but is a group like any other.
+        if (NumberOfValues == 0 && !value.isEmpty()) {
+            ValueName = value;
+            if (!listed.contains(value)) {
+                listed.insert(value);
+                ValueList.append(value);
+                ++NumberOfValues;
+            }
+        }
+        if (!listed.contains(value)) {
+            listed.insert(value);
+            ValueList.append(value);
+            ValueName = value;
+            ++NumberOfValues;
+        }
+    }
+    sortInDirection(ValueList, SortAsc.value_or(true));
+    searchKeys_.clear();
+    tableView->reloadData();
+}
+
+void GroupTableViewController::refreshCounts() {
+    if (countsAt_ == context->changeCount())
+        return;
+    // A failed count goes on with nothing counted.
+    counts_ = context->countBy(FetchRequest(QStringLiteral("Coins")), countKey_);
+    countsAt_ = context->changeCount();
+}
+
+void GroupTableViewController::SortButtonTapped() {
+    if (!SortAsc)
+        return;
+    SortAsc = !*SortAsc;
+    SortAscending = *SortAsc;
+    if (!searching()) {
+        load();
+        return;
+    }
+    // Only the rows shown are reordered; the whole list keeps its order until the next load.
+    sortInDirection(FilteredValueList, *SortAsc);
+    tableView->reloadData();
+}
+
+void GroupTableViewController::UnwindSegue() {
+    performUnwind(QStringLiteral("unwindToMenu"));
+}
+
+void GroupTableViewController::updateSearchResultsForSearchController(SearchController* search) {
+    const QString text = search->text();
+    if (text.isEmpty()) {
+        FilteredValueList = ValueList;
+    } else {
+        if (searchKeys_.size() != ValueList.size()) {
+            searchKeys_.clear();
+            searchKeys_.reserve(ValueList.size());
+            for (const QString& value : std::as_const(ValueList))
+                searchKeys_.append(value.toLower());
+        }
+        const QString wanted = text.toLower();
+        FilteredValueList.clear();
+        for (qsizetype i = 0; i < ValueList.size(); ++i)
+            if (!searchKeys_[i].isEmpty() && searchKeys_[i].contains(wanted))
+                FilteredValueList.append(ValueList[i]);
+    }
+    tableView->reloadData();
+}
+
+int GroupTableViewController::numberOfRows(TableView*, int) {
+    return int(listInUse().size());
+}
+
+QString GroupTableViewController::titleForHeader(TableView*, int) {
+    const qsizetype n = ValueList.size();
+    return QString::number(n) + (n != 0 ? kind_.pluralHeader : kind_.singularHeader);
+}
+
+qint16 GroupTableViewController::countOf(const QString& value) {
+    // One grouped count serves every row until the store changes.
+    refreshCounts();
+    const qint64 n = counts_.value(value);
+    if (n > 32767)
+        fatalError(QStringLiteral("Not enough bits to represent the passed value"),
+                   "Pelvane/GroupTableViewController", __LINE__);
+    return qint16(n);
+}
+
+TableViewCell* GroupTableViewController::cellForRow(TableView* table, IndexPath path) {
+    auto* cell = static_cast<GroupTableViewCell*>(table->dequeueReusableCell("Cell"));
+    cell->setDarkMode(DarkMode);
+    const QString& value = listInUse().at(path.row);
+    cell->ValueLabel->setText(value);
+    cell->CountLabel->setText(QString::number(countOf(value)));
+    return cell;
+}
+
+void GroupTableViewController::didSelectRow(TableView* table, IndexPath path) {
+    // Stored before the breakdown screen loads, which reads it.
+    kind_.select(listInUse().at(path.row));
+    table->deselectRow(path);
+    if (Storyboard::hasSegue(kind_.breakdownSegue))
+        performSegue(kind_.breakdownSegue, this);
+}

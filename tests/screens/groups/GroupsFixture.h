@@ -1,0 +1,38 @@
+#pragma once
+// The group tables in their tab bar, opened from the menu as a person does.
+#include "../ScreenFixture.h"
+#include "platform/kit/TabBarController.h"
+#include "screens/groups/BreakdownTableViewController.h"
+#include "screens/groups/GroupTableViewController.h"
+
+#include <QPushButton>
+
+class GroupsTest : public ScreenTest {
+protected:
+    void SetUp() override {
+        ScreenTest::SetUp();
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    }
+    void TearDown() override {
+        QLocale::setDefault(QLocale::c());
+        ScreenTest::TearDown();
+    }
+    TabBarController* openGroups() {
+        menu->HandleButtonClick();
+        menu->GroupByButton->click();
+        return dynamic_cast<TabBarController*>(top());
+    }
+    // The group screen of a tab, shown.
+    GroupTableViewController* groupScreen(TabBarController* tabs, int tab) {
+        tabs->setSelectedIndex(tab);
+        return dynamic_cast<GroupTableViewController*>(tabs->tab(tab)->viewControllers().value(0));
+    }
+    static QPushButton* barButton(ViewController* screen, const char* name) {
+        return screen->navigationController()->findChild<QPushButton*>(QString::fromLatin1(name));
+    }
+    // Types into the screen's search field as a person does.
+    static void search(SearchController* field, const QString& text) {
+        field->clear();
+        QTest::keyClicks(field, text);
+    }
+};
