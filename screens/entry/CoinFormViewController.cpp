@@ -6,6 +6,7 @@
 #include "platform/Platform.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
+#include "platform/kit/Symbols.h"
 #include "screens/Application.h"
 
 #include <QApplication>
@@ -145,6 +146,17 @@ void CoinFormViewController::setUpForm() {
          {FrontCameraButton, FrontFolderButton, FrontRemoveButton, FrontPasteButton,
           RearCameraButton, RearFolderButton, RearRemoveButton, RearPasteButton, SaveButton})
         Styling::round(b, 10, 2, Qt::black);
+    // The picture buttons carry their symbol beside the title.
+    for (const auto& [symbol, buttons] :
+         {std::pair{"camera.fill", std::pair{FrontCameraButton, RearCameraButton}},
+          {"folder.fill", {FrontFolderButton, RearFolderButton}},
+          {"doc.on.clipboard.fill", {FrontPasteButton, RearPasteButton}},
+          {"delete.left.fill", {FrontRemoveButton, FrontRemoveButton}},
+          {"delete.right.fill", {RearRemoveButton, RearRemoveButton}}})
+        for (QPushButton* b : {buttons.first, buttons.second}) {
+            b->setIcon(Symbols::icon(QString::fromLatin1(symbol), b->palette()));
+            b->setIconSize(QSize(20, 20));
+        }
     // The empty picture slots show as frames.
     for (ImageView* v : {FrontImage, BackImage})
         Styling::round(v, 5, 1, Appearance::isDark() ? Qt::white : Qt::black);

@@ -356,3 +356,17 @@ TEST_F(EntryScreenTest, AClickOutsideTheFieldsEndsEditingOnBothForms) {
     QTest::mouseClick(edit, Qt::LeftButton, {}, QPoint(2, edit->height() - 2));
     EXPECT_FALSE(edit->DenominationTextField->hasFocus());
 }
+
+TEST_F(EntryScreenTest, PictureButtonsCarryTheirSymbols) {
+    openList()->performSegue("AddCoin");
+    auto* add = topAs<AddViewController>();
+    for (QPushButton* b : {add->FrontCameraButton, add->FrontFolderButton, add->FrontPasteButton,
+                           add->FrontRemoveButton, add->RearCameraButton, add->RearFolderButton,
+                           add->RearPasteButton, add->RearRemoveButton}) {
+        EXPECT_FALSE(b->icon().isNull()) << b->objectName().toStdString();
+        EXPECT_FALSE(b->text().isEmpty());
+    }
+    // Front and rear removal point different ways.
+    EXPECT_NE(add->FrontRemoveButton->icon().pixmap(20).toImage(),
+              add->RearRemoveButton->icon().pixmap(20).toImage());
+}

@@ -124,3 +124,16 @@ TEST_F(ScreenTest, OnlyTheVisibleRowsAreDrawnAndASortKeepsTheCoinsInMemory) {
     EXPECT_EQ(list->FilteredCoinList.size(), 30); // 1990 to 1999, three times each
     EXPECT_EQ(list->tableView->headerTitle(0), "# Coins = 30 of 300");
 }
+
+// In dark mode the rows stay pale: their four text lines turn black, the country line keeps
+// the appearance's colour.
+TEST_F(ScreenTest, DarkRowsBlackenTheFourTextLinesOnly) {
+    addCoin("Dime", 1964);
+    menu->performSegue("ListCoins");
+    auto* list = topAs<MainListTableViewController>();
+    list->DarkMode = true;
+    auto* cell = static_cast<MainListTableViewCell*>(list->cellForRow(list->tableView, {0, 0}));
+    for (QLabel* l : {cell->DenominationLabel, cell->Label2, cell->Label3, cell->Label4})
+        EXPECT_TRUE(l->styleSheet().contains("color: black")) << l->text().toStdString();
+    EXPECT_FALSE(cell->CountryLabel->styleSheet().contains("color: black"));
+}
