@@ -9,6 +9,7 @@
 #include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QTest>
 
 class ScreenTest : public AppTest {
@@ -47,4 +48,17 @@ protected:
     Fakes fakes{};
     MainMenuViewController* menu = nullptr;
     std::unique_ptr<Window> window;
+};
+
+// The same, with money shown in US dollars whatever the machine's locale.
+class DollarScreenTest : public ScreenTest {
+protected:
+    void SetUp() override {
+        ScreenTest::SetUp();
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    }
+    void TearDown() override {
+        QLocale::setDefault(QLocale::c());
+        ScreenTest::TearDown();
+    }
 };

@@ -7,16 +7,8 @@
 
 #include <QPushButton>
 
-class GroupsTest : public ScreenTest {
+class GroupsTest : public DollarScreenTest {
 protected:
-    void SetUp() override {
-        ScreenTest::SetUp();
-        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-    }
-    void TearDown() override {
-        QLocale::setDefault(QLocale::c());
-        ScreenTest::TearDown();
-    }
     TabBarController* openGroups() {
         menu->HandleButtonClick();
         menu->GroupByButton->click();

@@ -6,16 +6,8 @@
 
 #include <QLocale>
 
-class ValuationTest : public ScreenTest {
+class ValuationTest : public DollarScreenTest {
 protected:
-    void SetUp() override {
-        ScreenTest::SetUp();
-        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-    }
-    void TearDown() override {
-        QLocale::setDefault(QLocale::c());
-        ScreenTest::TearDown();
-    }
     ValuationViewController* open() {
         menu->performSegue("CoinValuation");
         return topAs<ValuationViewController>();
