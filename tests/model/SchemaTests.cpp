@@ -1,4 +1,5 @@
 #include "StoreFixture.h"
+#include "model/PrintedFetch.h"
 
 #include <QFile>
 #include <sqlite3.h>
@@ -132,4 +133,16 @@ TEST_F(StoreTest, StoreOfTheFirstSchemaIsBroughtForwardOnce) {
     reopen();
     EXPECT_EQ(rows(file, "Coins"), coinsAfter);
     EXPECT_EQ(number(file, "PRAGMA user_version"), PersistentContainer::SchemaVersion);
+}
+
+// Screens carry on with nothing after a failed fetch, and say why on the console.
+TEST_F(StoreTest, AFailedFetchIsPrintedAndGivesNothing) {
+    ASSERT_EQ(OtherConnection(path("Pelvane.sqlite")).exec("DROP TABLE GradeNumbers"), SQLITE_OK);
+    Console::startCapture();
+    StoreError error;
+    EXPECT_TRUE(
+        fetchOrPrint(ctx(), FetchRequest(QStringLiteral("GradeNumbers")), &error).isEmpty());
+    EXPECT_NE(error.code, 0);
+    ASSERT_EQ(Console::captured().size(), 1);
+    EXPECT_TRUE(Console::captured().first().startsWith("Could not fetch. "));
 }
