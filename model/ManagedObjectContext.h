@@ -47,6 +47,14 @@ public:
     }
     int count(const FetchRequest& request, StoreError* error = nullptr);
 
+    // Pictures are read on first access, where no error can be returned: the first read that
+    // failed since the last call is kept here, so that a caller that must not take a damaged
+    // store for an empty picture (the export) can ask.
+    std::optional<StoreError> takeReadError();
+
+    // Whether a write waits for another program's lock to go (2 s) before it gives up.
+    void setWaitWhenBusy(bool wait);
+
     // From this many objects of an entity in memory on, fetches read row ids first.
     static constexpr qsizetype kKeysFirstThreshold = 1024;
 
@@ -97,6 +105,7 @@ private:
     };
     QHash<quint32, PendingTextIndex> pendingIndexes_; // by entity << 16 | attribute
     static constexpr qsizetype kPendingIndexThreshold = 64;
+    std::optional<StoreError> readError_;
     bool readBatch_ = false;
     std::unique_ptr<QTimer> batchEnd_;
 };

@@ -47,8 +47,15 @@ public:
     SqliteDatabase(const SqliteDatabase&) = delete;
     SqliteDatabase& operator=(const SqliteDatabase&) = delete;
 
-    // Opens (creates) the file; false with errorMessage() on failure.
+    // How long a statement waits for another program's lock before it answers busy.
+    static constexpr int BusyTimeoutMs = 2000;
+
+    // Opens (creates) the file; false with errorMessage() on failure. Where the file cannot be
+    // written (a read-only file, folder or medium) it is opened for reading only, without
+    // creating anything beside it.
     bool open(const QString& path);
+    bool isReadOnly() const { return readOnly_; }
+    void setBusyTimeout(int ms);
     void close();
     bool exec(const QString& sql);
     int errorCode() const;
@@ -62,5 +69,6 @@ public:
 
 private:
     sqlite3* db_ = nullptr;
+    bool readOnly_ = false;
     QHash<QString, std::shared_ptr<SqliteStatement>> cache_;
 };

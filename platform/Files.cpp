@@ -11,15 +11,22 @@ QString temporaryDirectory() {
     return QDir::tempPath() + QLatin1Char('/');
 }
 
-bool writeTextAtomically(const QString& path, const QString& text, QString* error) {
+bool writeAtomically(const QString& path, const QByteArray& bytes, QString* error) {
     QSaveFile file(path);
-    const QByteArray bytes = text.toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-        if (error)
-            *error = file.errorString();
-        return false;
-    }
-    return true;
+    bool ok = file.open(QIODevice::WriteOnly);
+    // A write cut short by a full disk or a size limit reports no reason; the next one fails
+    // with the system's.
+    for (qint64 done = 0, n = 0; ok && done < bytes.size(); done += n)
+        ok = (n = file.write(bytes.constData() + done, bytes.size() - done)) > 0;
+    if (ok && file.commit())
+        return true;
+    if (error)
+        *error = file.errorString();
+    return false;
+}
+
+bool writeTextAtomically(const QString& path, const QString& text, QString* error) {
+    return writeAtomically(path, text.toUtf8(), error);
 }
 
 bool readText(const QString& path, QString& text, QString* error) {
