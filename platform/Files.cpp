@@ -11,16 +11,24 @@ QString temporaryDirectory() {
     return QDir::tempPath() + QLatin1Char('/');
 }
 
-bool writeAtomically(const QString& path, const QByteArray& bytes, QString* error) {
-    QSaveFile file(path);
-    bool ok = file.open(QIODevice::WriteOnly);
+bool writeAll(QIODevice& device, const QByteArray& bytes, QString* error) {
     // A write cut short by a full disk or a size limit reports no reason; the next one fails
     // with the system's.
-    for (qint64 done = 0, n = 0; ok && done < bytes.size(); done += n)
-        ok = (n = file.write(bytes.constData() + done, bytes.size() - done)) > 0;
-    if (ok && file.commit())
+    qint64 n = 0;
+    for (qint64 done = 0; done < bytes.size(); done += n)
+        if ((n = device.write(bytes.constData() + done, bytes.size() - done)) <= 0) {
+            if (error)
+                *error = device.errorString();
+            return false;
+        }
+    return true;
+}
+
+bool writeAtomically(const QString& path, const QByteArray& bytes, QString* error) {
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && writeAll(file, bytes, error) && file.commit())
         return true;
-    if (error)
+    if (error && (file.error() != QFileDevice::NoError || error->isEmpty()))
         *error = file.errorString();
     return false;
 }
