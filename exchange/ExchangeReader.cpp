@@ -168,19 +168,23 @@ ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
         // would create, update or be skipped.
         if (fields.size() > kAttributes.size())
             fatalError(QStringLiteral("Index out of range"), "Pelvane/ImportViewController", 262);
-        const QString theCountry = fieldText(fields, 0);
-        const QString theDenomination = fieldText(fields, 1);
-        const QString theMintMark = fieldText(fields, 8);
-        const QString theYear = fieldText(fields, 18);
-        FetchRequest request(QStringLiteral("Coins"));
-        request.predicate = Predicate::andPredicate(
-            {Predicate::format(QStringLiteral("country == %@"), theCountry),
-             Predicate::format(QStringLiteral("denomination == %@"), theDenomination),
-             Predicate::format(QStringLiteral("mintMark == %@"), theMintMark),
-             Predicate::format(QStringLiteral("year == %@"), theYear)});
-        request.returnsObjectsAsFaults = false;
+        // The key texts and the request go before the coin is written: a huge field is then
+        // held as text once, not three times.
         StoreError fetchFailure;
-        const QList<CoinPtr> results = fetchOrPrint<Coins>(context, request, &fetchFailure);
+        const QList<CoinPtr> results = [&] {
+            const QString theCountry = fieldText(fields, 0);
+            const QString theDenomination = fieldText(fields, 1);
+            const QString theMintMark = fieldText(fields, 8);
+            const QString theYear = fieldText(fields, 18);
+            FetchRequest request(QStringLiteral("Coins"));
+            request.predicate = Predicate::andPredicate(
+                {Predicate::format(QStringLiteral("country == %@"), theCountry),
+                 Predicate::format(QStringLiteral("denomination == %@"), theDenomination),
+                 Predicate::format(QStringLiteral("mintMark == %@"), theMintMark),
+                 Predicate::format(QStringLiteral("year == %@"), theYear)});
+            request.returnsObjectsAsFaults = false;
+            return fetchOrPrint<Coins>(context, request, &fetchFailure);
+        }();
         if (fetchFailure.isBusy())
             busy.dontWait();
         if (results.isEmpty()) {

@@ -81,16 +81,13 @@ Outcome mergeAndExport(const uint8_t* data, std::size_t size) {
             qFatal("save failed: %s", qPrintable(error->description()));
         (void)Exchange::exchangeText(context);
     });
-    // A stop may leave changes pending: the next input starts from an empty store either way.
-    if (outcome == Outcome::Stopped || context.hasChanges()) {
+    // A stop may leave a new coin pending: it goes with the rest, so that the next input
+    // starts from an empty store.
+    FetchRequest all(QStringLiteral("Coins"));
+    for (const ObjectPtr& coin : context.fetch(all))
+        context.deleteObject(coin);
+    if (context.save())
         openStore();
-    } else {
-        FetchRequest all(QStringLiteral("Coins"));
-        for (const ObjectPtr& coin : context.fetch(all))
-            context.deleteObject(coin);
-        if (context.save())
-            openStore();
-    }
     return outcome;
 }
 

@@ -28,7 +28,8 @@ SqliteStatement::~SqliteStatement() {
 }
 
 SqliteStatement::SqliteStatement(SqliteStatement&& other) noexcept
-    : stmt_(other.stmt_) {
+    : stmt_(other.stmt_)
+    , bound_(std::move(other.bound_)) {
     other.stmt_ = nullptr;
 }
 
@@ -36,6 +37,7 @@ SqliteStatement& SqliteStatement::operator=(SqliteStatement&& other) noexcept {
     if (this != &other) {
         sqlite3_finalize(stmt_);
         stmt_ = other.stmt_;
+        bound_ = std::move(other.bound_);
         other.stmt_ = nullptr;
     }
     return *this;
@@ -44,6 +46,7 @@ SqliteStatement& SqliteStatement::operator=(SqliteStatement&& other) noexcept {
 void SqliteStatement::reset() {
     sqlite3_reset(stmt_);
     sqlite3_clear_bindings(stmt_);
+    bound_.clear();
 }
 
 void SqliteStatement::bindNull(int i) {
@@ -57,12 +60,18 @@ void SqliteStatement::bindDouble(int i, double v) {
 }
 
 void SqliteStatement::bindText(int i, const QString& v) {
-    const QByteArray text = v.toUtf8();
-    sqlite3_bind_text(stmt_, i, text.constData(), int(text.size()), SQLITE_TRANSIENT);
+    bound_.append(v.toUtf8());
+    sqlite3_bind_text(stmt_, i, bound_.last().constData(), int(bound_.last().size()),
+                      SQLITE_STATIC);
 }
 
 void SqliteStatement::bindBlob(int i, const QByteArray& v) {
-    sqlite3_bind_blob(stmt_, i, v.constData(), int(v.size()), SQLITE_TRANSIENT);
+    bound_.append(v);
+    // An empty array has no data pointer; SQLite takes null for NULL, so it gets a zero blob.
+    if (v.isEmpty())
+        sqlite3_bind_zeroblob(stmt_, i, 0);
+    else
+        sqlite3_bind_blob(stmt_, i, bound_.last().constData(), int(v.size()), SQLITE_STATIC);
 }
 
 void SqliteStatement::bind(int i, const QVariant& v) {

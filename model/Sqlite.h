@@ -2,6 +2,7 @@
 // Thin RAII wrappers over the sqlite3 C API: a connection and a prepared statement.
 #include <QByteArray>
 #include <QHash>
+#include <QList>
 #include <QString>
 #include <QVariant>
 #include <memory>
@@ -38,6 +39,9 @@ public:
 
 private:
     sqlite3_stmt* stmt_ = nullptr;
+    // Texts and bytes bound since the last reset, kept here so that SQLite reads them where
+    // they are instead of copying them: a huge field is then held once, not twice.
+    QList<QByteArray> bound_;
 };
 
 class SqliteDatabase {
