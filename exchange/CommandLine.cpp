@@ -74,10 +74,6 @@ int runImport(ManagedObjectContext& context, const QString& file) {
         say(info.fileName() + QStringLiteral(" Is The Incorrect Import File"));
         return 2;
     }
-    if (result.lastLineUnended)
-        say(QStringLiteral("Warning: the last line of %1 has no line end; the file may have been "
-                           "cut short")
-                .arg(file));
     const auto error = context.save();
     std::printf("%d created, %d updated, %d skipped\n", result.created, result.updated,
                 result.skipped);

@@ -144,6 +144,9 @@ ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
         start = end + 1;
     }
     result.lastLineUnended = !text.isEmpty() && !text.endsWith('\n');
+    if (result.lastLineUnended)
+        Console::log(QStringLiteral("Warning: the last line has no line end; the file may have "
+                                    "been cut short"));
     result.wrongFile = !lines.contains(marker);
     lines.removeIf([&](QByteArrayView l) { return l == marker; });
     if (result.wrongFile)

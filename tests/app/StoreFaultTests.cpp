@@ -234,7 +234,7 @@ TEST_F(PelvaneTest, ImportTakesRegularFilesWithinBoundedMemory) {
     write(path("cut.csv"), "[PELVANE]\nChile^1 Peso^^^^^^^^^^^^^^^^^1990^^\nChile^2 Pesos^^^");
     run = runProgram(store, {"--import", path("cut.csv")});
     EXPECT_EQ(run.exitCode, 0);
-    EXPECT_TRUE(run.errors.contains("the last line of " + path("cut.csv") + " has no line end"))
+    EXPECT_TRUE(run.errors.contains("Warning: the last line has no line end"))
         << qPrintable(run.errors);
     EXPECT_TRUE(run.output.contains("2 created")) << qPrintable(run.output);
 
