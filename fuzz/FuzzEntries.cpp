@@ -8,8 +8,10 @@
 
 #include <QByteArray>
 #include <QDir>
+#include <QGuiApplication>
 #include <QTemporaryDir>
 
+#include <cstdlib>
 #include <memory>
 
 namespace FuzzEntries {
@@ -61,6 +63,12 @@ template <typename Run> Outcome guarded(Run run) {
     return outcome;
 }
 } // namespace
+
+void startApplication(int* argc, char*** argv) {
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    static QGuiApplication app(*argc, *argv);
+    prepare();
+}
 
 void prepare() {
     static bool done = false;

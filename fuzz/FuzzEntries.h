@@ -9,7 +9,9 @@
 namespace FuzzEntries {
 enum class Outcome { Done, Stopped };
 
-// Once per process: a temporary store for the merge, fatal stops turned into Stopped.
+// A fuzz target's start: an application on the offscreen platform, then prepare().
+void startApplication(int* argc, char*** argv);
+// Once per process: a temporary store for the merge.
 void prepare();
 // The input as an exchange file merged into the store, then the store exported; the store
 // is emptied again afterwards.
