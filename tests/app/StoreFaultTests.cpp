@@ -68,6 +68,10 @@ struct StoreFault {
     bool exported; // the export replaced the earlier file
 };
 
+void PrintTo(const StoreFault& fault, std::ostream* out) {
+    *out << fault.name;
+}
+
 const QByteArray kEarlierBackup = "[PELVANE]\nthe earlier backup^\n";
 
 class StoreFaults : public PelvaneTest, public ::testing::WithParamInterface<StoreFault> {
