@@ -2,11 +2,14 @@
 #include "app/CommandLine.h"
 #include "app/Storyboard.h"
 #include "exchange/CommandLine.h"
+#include "platform/Fatal.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/Window.h"
 #include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>
+#include <QMessageBox>
+#include <QThread>
 #include <QTimer>
 
 #include <cstdio>
@@ -45,6 +48,12 @@ int main(int argc, char** argv) {
         return runWithoutWindow(argc, argv, options);
 
     QApplication app(argc, argv);
+    // The window session shows a designed stop before the program ends; the stop itself
+    // (the report on stderr, the abort) follows as everywhere.
+    Fatal::setHandler([](const QString& message, const char*, int) {
+        if (QThread::currentThread() == qApp->thread())
+            QMessageBox::critical(nullptr, QStringLiteral("Fatal error"), message);
+    });
     prepare(options);
     AppDelegate delegate;
     delegate.didFinishLaunching();

@@ -3,10 +3,10 @@
 #include "exchange/ExchangeReader.h"
 #include "exchange/ExchangeWriter.h"
 #include "model/ManagedObjectContext.h"
+#include "platform/Files.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStringDecoder>
 
 #include <utility>
@@ -22,40 +22,68 @@ void say(const QString& line) {
 } // namespace
 
 int runExport(ManagedObjectContext& context, const QString& file) {
-    const QByteArray bytes = exchangeText(context);
-    QSaveFile out(file);
-    if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.commit()) {
-        say(QStringLiteral("Cannot write %1: %2").arg(file, out.errorString()));
+    StoreError readError;
+    const QByteArray bytes = exchangeText(context, {}, &readError);
+    // A file from a store that could not be read whole would replace a good backup.
+    if (readError.code != 0) {
+        say(QStringLiteral("Cannot read the collection: %1").arg(readError.message));
+        return 1;
+    }
+    QString error;
+    if (!Files::writeAtomically(file, bytes, &error)) {
+        say(QStringLiteral("Cannot write %1: %2").arg(file, error));
         return 1;
     }
     return 0;
 }
 
 int runImport(ManagedObjectContext& context, const QString& file) {
+    // A device or a pipe may never end (/dev/zero): only a file of known size is read.
+    const QFileInfo info(file);
+    if (info.exists() && !info.isFile()) {
+        say(QStringLiteral("Cannot read %1: it is not a regular file").arg(file));
+        return 1;
+    }
     QFile in(file);
     if (!in.open(QIODevice::ReadOnly)) {
         say(QStringLiteral("Cannot read %1: %2").arg(file, in.errorString()));
         return 1;
     }
-    const QByteArray bytes = in.readAll();
-    QStringDecoder decoder(
-        QStringConverter::encodingForData(bytes).value_or(QStringConverter::Utf8));
-    const QString text = decoder(bytes);
-    if (decoder.hasError()) {
-        say(QStringLiteral("Cannot read %1: it is not text").arg(file));
-        return 1;
+    QByteArray bytes = in.readAll();
+    in.close();
+    const auto encoding = QStringConverter::encodingForData(bytes);
+    if (!encoding || *encoding == QStringConverter::Utf8) {
+        // Checked where it lies rather than copied into text and back: the file is held once.
+        if (!QUtf8StringView(bytes).isValidUtf8()) {
+            say(QStringLiteral("Cannot read %1: it is not text").arg(file));
+            return 1;
+        }
+        if (bytes.startsWith("\xEF\xBB\xBF"))
+            bytes.remove(0, 3);
+    } else {
+        QStringDecoder decoder(*encoding);
+        const QString text = decoder(std::exchange(bytes, {}));
+        if (decoder.hasError()) {
+            say(QStringLiteral("Cannot read %1: it is not text").arg(file));
+            return 1;
+        }
+        bytes = text.toUtf8();
     }
-    const ImportResult result = mergeExchangeText(context, text);
+    const ImportResult result = mergeExchangeText(context, std::move(bytes));
     if (result.wrongFile) {
-        say(QFileInfo(file).fileName() + QStringLiteral(" Is The Incorrect Import File"));
+        say(info.fileName() + QStringLiteral(" Is The Incorrect Import File"));
         return 2;
     }
-    if (auto error = context.save()) {
-        say(QStringLiteral("Cannot save the collection: %1").arg(error->description()));
-        return 1;
-    }
+    const auto error = context.save();
     std::printf("%d created, %d updated, %d skipped\n", result.created, result.updated,
                 result.skipped);
+    if (error) {
+        // Every coin the merge left pending is lost with the process: say how many and why.
+        say(QStringLiteral("%1 coins not saved: %2")
+                .arg(result.notSaved + result.updatedSinceSave)
+                .arg(error->message));
+        return 1;
+    }
     return 0;
 }
 

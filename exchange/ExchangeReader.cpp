@@ -143,39 +143,73 @@ ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
             lines.append(line);
         start = end + 1;
     }
+    result.lastLineUnended = !text.isEmpty() && !text.endsWith('\n');
+    if (result.lastLineUnended)
+        Console::log(QStringLiteral("Warning: the last line has no line end; the file may have "
+                                    "been cut short"));
     result.wrongFile = !lines.contains(marker);
     lines.removeIf([&](QByteArrayView l) { return l == marker; });
     if (result.wrongFile)
         return result;
 
+    // Waiting for the lock again on every line would take hours for a big file.
+    struct BusyWait {
+        ManagedObjectContext& context;
+        bool changed = false;
+        void dontWait() {
+            context.setWaitWhenBusy(false);
+            changed = true;
+        }
+        ~BusyWait() {
+            if (changed)
+                context.setWaitWhenBusy(true);
+        }
+    } busy{context};
     for (QByteArrayView bytes : std::as_const(lines)) {
         const Fields fields = splitFields(bytes);
         // A line with more fields than there are attributes is no line of ours, whether it
         // would create, update or be skipped.
         if (fields.size() > kAttributes.size())
             fatalError(QStringLiteral("Index out of range"), "Pelvane/ImportViewController", 262);
-        const QString theCountry = fieldText(fields, 0);
-        const QString theDenomination = fieldText(fields, 1);
-        const QString theMintMark = fieldText(fields, 8);
-        const QString theYear = fieldText(fields, 18);
-        FetchRequest request(QStringLiteral("Coins"));
-        request.predicate = Predicate::andPredicate(
-            {Predicate::format(QStringLiteral("country == %@"), theCountry),
-             Predicate::format(QStringLiteral("denomination == %@"), theDenomination),
-             Predicate::format(QStringLiteral("mintMark == %@"), theMintMark),
-             Predicate::format(QStringLiteral("year == %@"), theYear)});
-        request.returnsObjectsAsFaults = false;
-        const QList<CoinPtr> results = fetchOrPrint<Coins>(context, request);
+        // The key texts and the request go before the coin is written: a huge field is then
+        // held as text once, not three times.
+        StoreError fetchFailure;
+        const QList<CoinPtr> results = [&] {
+            const QString theCountry = fieldText(fields, 0);
+            const QString theDenomination = fieldText(fields, 1);
+            const QString theMintMark = fieldText(fields, 8);
+            const QString theYear = fieldText(fields, 18);
+            FetchRequest request(QStringLiteral("Coins"));
+            request.predicate = Predicate::andPredicate(
+                {Predicate::format(QStringLiteral("country == %@"), theCountry),
+                 Predicate::format(QStringLiteral("denomination == %@"), theDenomination),
+                 Predicate::format(QStringLiteral("mintMark == %@"), theMintMark),
+                 Predicate::format(QStringLiteral("year == %@"), theYear)});
+            request.returnsObjectsAsFaults = false;
+            return fetchOrPrint<Coins>(context, request, &fetchFailure);
+        }();
+        if (fetchFailure.isBusy())
+            busy.dontWait();
         if (results.isEmpty()) {
             auto coin = context.insert<Coins>();
             apply(*coin, fields, true);
-            if (auto failure = context.save())
+            if (auto failure = context.save()) {
                 Console::log(failure->description());
+                if (result.notSaved++ == 0)
+                    result.notSavedReason = failure->message;
+                if (failure->isBusy())
+                    busy.dontWait();
+            } else {
+                // A save writes every coin left pending before it.
+                result.notSaved = 0;
+                result.updatedSinceSave = 0;
+            }
             ++result.created;
         } else if (results.size() == 1) {
             // Left pending on purpose: the next save of the context writes it.
             apply(*results.first(), fields, false);
             ++result.updated;
+            ++result.updatedSinceSave;
         } else {
             ++result.skipped;
         }

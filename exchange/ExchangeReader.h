@@ -15,9 +15,18 @@ struct ImportResult {
     int created = 0;
     int updated = 0;
     int skipped = 0;
+    // New coins whose save failed (they stay pending in the context), and the first reason.
+    int notSaved = 0;
+    QString notSavedReason;
+    // Updates made since the last save that went through (the merge never saves them itself).
+    int updatedSinceSave = 0;
+    // The last line had no line end: the file may have been cut short.
+    bool lastLineUnended = false;
 };
 
 // Works on the file's UTF-8 bytes line by line, so a large file is held once, not as text.
+// Once the store has answered busy (another program holds it), later saves of the same
+// merge fail at once instead of waiting each.
 ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray utf8);
 inline ImportResult mergeExchangeText(ManagedObjectContext& context, const QString& text) {
     return mergeExchangeText(context, text.toUtf8());

@@ -9,36 +9,49 @@
 #include "platform/ImageCoding.h"
 
 #include <QHash>
+
 #include <QtConcurrent/QtConcurrentMap>
+#include <optional>
 
 namespace Exchange {
 
 namespace {
 
 // Re-encoding pictures dominates the export; identical stored pictures give identical
-// output, so each distinct one is encoded once, and the distinct ones on every core.
-QHash<QByteArray, QByteArray> reencodeAll(const QList<QByteArray>& pictures) {
-    QHash<QByteArray, QByteArray> done;
+// output, so each distinct one is encoded once, and the distinct ones on every core. A
+// picture that is no picture maps to nothing; the encoder giving nothing maps to "".
+QHash<QByteArray, std::optional<QByteArray>> reencodeAll(const QList<QByteArray>& pictures) {
+    QHash<QByteArray, std::optional<QByteArray>> done;
     QList<QByteArray> distinct;
     for (const QByteArray& p : pictures)
         if (!p.isNull() && !done.contains(p)) {
-            done.insert(p, QByteArray());
+            done.insert(p, std::nullopt);
             distinct.append(p);
         }
-    const QList<QByteArray> encoded =
-        QtConcurrent::blockingMapped(distinct, [](const QByteArray& bytes) {
+    const QList<std::optional<QByteArray>> encoded = QtConcurrent::blockingMapped(
+        distinct, [](const QByteArray& bytes) -> std::optional<QByteArray> {
             const QByteArray encoded = ImageCoding::reencodeJpeg(bytes, 0.6);
-            // Bytes that are no picture stop the export; an encoder that gives nothing leaves
-            // the field empty.
             if (encoded.isEmpty() && ImageCoding::decode(bytes).isNull())
-                fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional "
-                                          "value"),
-                           "Pelvane/ExportViewController", 160);
+                return std::nullopt;
             return ImageCoding::base64(encoded);
         });
     for (qsizetype i = 0; i < distinct.size(); ++i)
         done[distinct[i]] = encoded[i];
     return done;
+}
+
+// Stopped here, on the calling thread, so that the message can name the coin to fix.
+void appendPicture(QByteArray& out, const QHash<QByteArray, std::optional<QByteArray>>& encoded,
+                   const QByteArray& picture, const Coins& coin, const char* face) {
+    if (picture.isNull())
+        return;
+    const std::optional<QByteArray>& text = encoded[picture];
+    if (!text)
+        fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value "
+                                  "(the %1 picture of %2 cannot be decoded)")
+                       .arg(QLatin1String(face), coinForMessage(coin)),
+                   "Pelvane/ExportViewController", 160);
+    out += *text;
 }
 
 void appendText(QByteArray& out, const QString& text) {
@@ -47,28 +60,56 @@ void appendText(QByteArray& out, const QString& text) {
 
 } // namespace
 
-QList<CoinPtr> coinsInFileOrder(ManagedObjectContext& context) {
+QString coinForMessage(const Coins& coin) {
+    return QStringLiteral("%1, %2, %3")
+        .arg(coin.denomination())
+        .arg(coin.year())
+        .arg(coin.country());
+}
+
+QList<CoinPtr> coinsInFileOrder(ManagedObjectContext& context, StoreError* error) {
     FetchRequest request(QStringLiteral("Coins"));
     request.sortDescriptors = {{QStringLiteral("denomination"), true},
                                {QStringLiteral("year"), true},
                                {QStringLiteral("mintMark"), true}};
     request.returnsObjectsAsFaults = false;
-    return fetchOrPrint<Coins>(context, request);
+    StoreError failure;
+    const QList<CoinPtr> coins = fetchOrPrint<Coins>(context, request, &failure);
+    if (error)
+        *error = failure;
+    return coins;
 }
 
-QByteArray exchangeText(ManagedObjectContext& context, const Progress& progress) {
-    return exchangeText(coinsInFileOrder(context), progress);
+QByteArray exchangeText(ManagedObjectContext& context, const Progress& progress,
+                        StoreError* error) {
+    StoreError failure;
+    const QList<CoinPtr> coins = coinsInFileOrder(context, &failure);
+    if (failure.code != 0) {
+        if (error)
+            *error = failure;
+        return {};
+    }
+    return exchangeText(coins, progress, error);
 }
 
-QByteArray exchangeText(const QList<CoinPtr>& coins, const Progress& progress) {
+QByteArray exchangeText(const QList<CoinPtr>& coins, const Progress& progress, StoreError* error) {
     // Picture bytes are read here, on the store's thread; only the coding runs elsewhere.
+    if (!coins.isEmpty() && coins.first()->managedObjectContext())
+        coins.first()->managedObjectContext()->takeReadError(); // an older one is not ours
     QList<QByteArray> pictures;
     pictures.reserve(coins.size() * 2);
     for (const CoinPtr& c : coins) {
         pictures.append(c->frontImage());
         pictures.append(c->backImage());
     }
-    const QHash<QByteArray, QByteArray> encoded = reencodeAll(pictures);
+    if (!coins.isEmpty() && coins.first()->managedObjectContext())
+        if (auto failure = coins.first()->managedObjectContext()->takeReadError()) {
+            Console::print(QStringLiteral("Could not fetch. %1").arg(failure->description()));
+            if (error)
+                *error = *failure;
+            return {};
+        }
+    const QHash<QByteArray, std::optional<QByteArray>> encoded = reencodeAll(pictures);
 
     QByteArray out;
     out.reserve(qsizetype(coins.size()) * (400 + 2 * 4000) + 16);
@@ -105,13 +146,9 @@ QByteArray exchangeText(const QList<CoinPtr>& coins, const Progress& progress) {
             appendText(out, f);
             out += '^';
         }
-        const QByteArray& front = pictures[2 * i];
-        const QByteArray& back = pictures[2 * i + 1];
-        if (!front.isNull())
-            out += encoded.value(front);
+        appendPicture(out, encoded, pictures[2 * i], c, "front");
         out += '^';
-        if (!back.isNull())
-            out += encoded.value(back);
+        appendPicture(out, encoded, pictures[2 * i + 1], c, "back");
         // The record number follows the back picture directly: the reader never splits it off.
         out += QByteArray::number(c.id());
         out += '\n';

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "model/Records.h"
+#include "model/StoreError.h"
 
 #include <QList>
 
@@ -15,10 +16,17 @@ inline constexpr char Marker[] = "[PELVANE]";
 // Called once per coin written, in file order, with the count written so far.
 using Progress = std::function<void(int written, int total)>;
 // Every coin, by denomination, year and mint mark. Pictures are re-encoded as JPEG at quality
-// 0.6; a stored picture that does not decode is a fatal error.
-QByteArray exchangeText(ManagedObjectContext& context, const Progress& progress = {});
-// The coins of the file, in file order, as the export fetches them.
-QList<CoinPtr> coinsInFileOrder(ManagedObjectContext& context);
-// The file for these coins, in the order given.
-QByteArray exchangeText(const QList<CoinPtr>& coins, const Progress& progress = {});
+// 0.6; a stored picture that does not decode is a fatal error that names its coin. A store
+// that cannot be read whole gives no file at all: an empty result and the reason in *error
+// (a damaged picture is not taken for a coin without one).
+QByteArray exchangeText(ManagedObjectContext& context, const Progress& progress = {},
+                        StoreError* error = nullptr);
+// The coins of the file, in file order, as the export fetches them; on a read error none,
+// with the reason in *error.
+QList<CoinPtr> coinsInFileOrder(ManagedObjectContext& context, StoreError* error = nullptr);
+// The file for these coins, in the order given (the same failures).
+QByteArray exchangeText(const QList<CoinPtr>& coins, const Progress& progress = {},
+                        StoreError* error = nullptr);
+// How the fatal stop of a picture that cannot be decoded names its coin.
+QString coinForMessage(const Coins& coin);
 } // namespace Exchange

@@ -78,7 +78,8 @@ void ExportViewController::CreateUpdateFile() {
     ExportButton->setEnabled(false);
     ExportTextView->setText(QString());
     managedObjectContext = Application::viewContext();
-    const QList<CoinPtr> fetched = Exchange::coinsInFileOrder(*managedObjectContext);
+    StoreError readError;
+    const QList<CoinPtr> fetched = Exchange::coinsInFileOrder(*managedObjectContext, &readError);
     theEntryList.clear();
     for (const CoinPtr& coin : fetched)
         theEntryList.append(coin);
@@ -88,7 +89,7 @@ void ExportViewController::CreateUpdateFile() {
 
     // The bar moves after the build has returned: each coin queues its step on the UI thread.
     QPointer<ExportViewController> self(this);
-    const QByteArray text = Exchange::exchangeText(theEntryList, [self](int, int) {
+    const auto progressStep = [self](int, int) {
         QMetaObject::invokeMethod(
             self,
             [self] {
@@ -98,7 +99,19 @@ void ExportViewController::CreateUpdateFile() {
                 self->ProgressView_->setProgress(float(self->progress.fractionCompleted()), true);
             },
             Qt::QueuedConnection);
-    });
+    };
+    const QByteArray text = readError.code != 0
+                                ? QByteArray()
+                                : Exchange::exchangeText(theEntryList, progressStep, &readError);
+    if (readError.code != 0) {
+        // A file from a collection read in part would replace a good backup: nothing is
+        // offered to save.
+        after(1, [this] { activityIndicator->stopAnimating(); });
+        present(AlertController::okAlert(
+            QStringLiteral("Data Export File"),
+            QStringLiteral("The collection cannot be read: %1").arg(readError.message)));
+        return;
+    }
     DataString = QString::fromUtf8(text);
     ExportTextView->setText(*DataString);
     EmailButton->setEnabled(true);

@@ -10,6 +10,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -426,7 +427,10 @@ void ManagedObjectContext::loadData(ManagedObject& o) {
     beginReadBatch();
     SqliteStatement& st = db_->cached(writeSql(e).loadData);
     st.bindInt(1, o.rowId_);
-    const bool found = st.step() == SQLITE_ROW;
+    const int rc = st.step();
+    const bool found = rc == SQLITE_ROW;
+    if (rc != SQLITE_ROW && rc != SQLITE_DONE && !readError_)
+        readError_ = lastError();
     int col = 0;
     for (std::size_t i = 0; i < e.attributes.size(); ++i) {
         if (e.attributes[i].type != AttributeType::Data)
@@ -558,8 +562,16 @@ QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreE
         if (!o) {
             SqliteStatement& row = db_->cached(w.selectRow);
             row.bind(1, rowId);
-            if (row.step() == SQLITE_ROW)
+            const int rowRc = row.step();
+            if (rowRc == SQLITE_ROW)
                 o = objectForRow(e, rowId, row);
+            else if (rowRc != SQLITE_DONE) {
+                if (error)
+                    *error = lastError();
+                row.reset();
+                st.reset();
+                return {};
+            }
             row.reset();
             if (!o)
                 continue;
@@ -610,4 +622,12 @@ QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreE
             return a->rowId_ ? a->rowId_ < b->rowId_ : a->insertSeq_ < b->insertSeq_;
         });
     return result;
+}
+
+std::optional<StoreError> ManagedObjectContext::takeReadError() {
+    return std::exchange(readError_, std::nullopt);
+}
+
+void ManagedObjectContext::setWaitWhenBusy(bool wait) {
+    db_->setBusyTimeout(wait ? SqliteDatabase::BusyTimeoutMs : 0);
 }

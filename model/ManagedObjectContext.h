@@ -57,6 +57,14 @@ public:
     // are still good while it stands still.
     quint64 changeCount() const { return changeCount_; }
 
+    // Pictures are read on first access, where no error can be returned: the first read that
+    // failed since the last call is kept here, so that a caller that must not take a damaged
+    // store for an empty picture (the export) can ask.
+    std::optional<StoreError> takeReadError();
+
+    // Whether a write waits for another program's lock to go (2 s) before it gives up.
+    void setWaitWhenBusy(bool wait);
+
     // From this many objects of an entity in memory on, fetches read row ids first.
     static constexpr qsizetype kKeysFirstThreshold = 1024;
 
@@ -111,6 +119,7 @@ private:
     };
     QHash<quint32, PendingTextIndex> pendingIndexes_; // by entity << 16 | attribute
     static constexpr qsizetype kPendingIndexThreshold = 64;
+    std::optional<StoreError> readError_;
     bool readBatch_ = false;
     quint64 changeCount_ = 0;
     std::unique_ptr<QTimer> batchEnd_;

@@ -109,6 +109,11 @@ std::optional<StoreError> PersistentContainer::open(const QString& path) {
         return e;
     };
     QDir().mkpath(QFileInfo(path).absolutePath());
+    // An empty file where a store was (a disk that lost it) is not taken for a new store:
+    // filling it with an empty collection would let the next export replace the last backup.
+    if (const QFileInfo file(path);
+        file.isFile() && file.size() == 0 && !QFileInfo::exists(path + QLatin1String("-wal")))
+        return failure(SQLITE_NOTADB, QStringLiteral("the store file is empty"));
     db_ = std::make_unique<SqliteDatabase>();
     if (!db_->open(path))
         return failure(db_->errorCode(), db_->errorMessage());
@@ -125,6 +130,15 @@ std::optional<StoreError> PersistentContainer::open(const QString& path) {
                                       "Pelvane (store version %1; this one reads up to %2)")
                            .arg(current)
                            .arg(SchemaVersion));
+    if (db_->isReadOnly()) {
+        // A collection on a read-only medium can still be read and exported as it is; one
+        // that holds nothing yet cannot be made there.
+        if (current == 0)
+            return failure(SQLITE_READONLY, QStringLiteral("attempt to write a readonly database"));
+        db_->exec(QStringLiteral("PRAGMA mmap_size=1073741824"));
+        context_ = std::make_unique<ManagedObjectContext>(db_.get());
+        return std::nullopt;
+    }
     // Small pages keep the bytes each single-coin commit writes low: a commit rewrites every
     // index page it touches.
     if (current == 0)

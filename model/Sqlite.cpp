@@ -1,6 +1,20 @@
 #include "model/Sqlite.h"
 
+#include <QFile>
+#include <QFileInfo>
+#include <QUrl>
+
 #include <sqlite3.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+namespace {
+// Root may write anywhere but on a medium mounted read-only.
+bool onReadOnlyMedium(const QByteArray& folder) {
+    struct statvfs info;
+    return ::statvfs(folder.constData(), &info) == 0 && (info.f_flag & ST_RDONLY);
+}
+} // namespace
 
 SqliteStatement::SqliteStatement(sqlite3* db, const QString& sql) {
     const QByteArray text = sql.toUtf8();
@@ -14,7 +28,8 @@ SqliteStatement::~SqliteStatement() {
 }
 
 SqliteStatement::SqliteStatement(SqliteStatement&& other) noexcept
-    : stmt_(other.stmt_) {
+    : stmt_(other.stmt_)
+    , bound_(std::move(other.bound_)) {
     other.stmt_ = nullptr;
 }
 
@@ -22,6 +37,7 @@ SqliteStatement& SqliteStatement::operator=(SqliteStatement&& other) noexcept {
     if (this != &other) {
         sqlite3_finalize(stmt_);
         stmt_ = other.stmt_;
+        bound_ = std::move(other.bound_);
         other.stmt_ = nullptr;
     }
     return *this;
@@ -30,6 +46,7 @@ SqliteStatement& SqliteStatement::operator=(SqliteStatement&& other) noexcept {
 void SqliteStatement::reset() {
     sqlite3_reset(stmt_);
     sqlite3_clear_bindings(stmt_);
+    bound_.clear();
 }
 
 void SqliteStatement::bindNull(int i) {
@@ -43,12 +60,18 @@ void SqliteStatement::bindDouble(int i, double v) {
 }
 
 void SqliteStatement::bindText(int i, const QString& v) {
-    const QByteArray text = v.toUtf8();
-    sqlite3_bind_text(stmt_, i, text.constData(), int(text.size()), SQLITE_TRANSIENT);
+    bound_.append(v.toUtf8());
+    sqlite3_bind_text(stmt_, i, bound_.last().constData(), int(bound_.last().size()),
+                      SQLITE_STATIC);
 }
 
 void SqliteStatement::bindBlob(int i, const QByteArray& v) {
-    sqlite3_bind_blob(stmt_, i, v.constData(), int(v.size()), SQLITE_TRANSIENT);
+    bound_.append(v);
+    // An empty array has no data pointer; SQLite takes null for NULL, so it gets a zero blob.
+    if (v.isEmpty())
+        sqlite3_bind_zeroblob(stmt_, i, 0);
+    else
+        sqlite3_bind_blob(stmt_, i, bound_.last().constData(), int(v.size()), SQLITE_STATIC);
 }
 
 void SqliteStatement::bind(int i, const QVariant& v) {
@@ -104,15 +127,44 @@ SqliteDatabase::~SqliteDatabase() {
     close();
 }
 
+namespace {
+// Whether the file, or the folder that would hold its journal, refuses writing. A folder that
+// refuses new files leaves a store in WAL mode unreadable unless it is opened as immutable.
+bool writable(const QString& path, bool* folderWritable) {
+    const QByteArray file = QFile::encodeName(path);
+    const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
+    *folderWritable = ::access(folder.constData(), W_OK) == 0 && !onReadOnlyMedium(folder);
+    return *folderWritable &&
+           (::access(file.constData(), F_OK) != 0 || ::access(file.constData(), W_OK) == 0);
+}
+} // namespace
+
 bool SqliteDatabase::open(const QString& path) {
     close();
-    const QByteArray file = path.toUtf8();
-    const int rc = sqlite3_open_v2(file.constData(), &db_,
-                                   SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
-    if (rc != SQLITE_OK)
-        return false;
-    sqlite3_busy_timeout(db_, 2000);
+    readOnly_ = false;
+    bool folderWritable = true;
+    const bool canWrite = writable(path, &folderWritable);
+    if (canWrite) {
+        const int rc = sqlite3_open_v2(path.toUtf8().constData(), &db_,
+                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+        if (rc != SQLITE_OK)
+            return false;
+    } else {
+        // Immutable: no lock, journal or shared-memory file is made, since none can be.
+        const QByteArray uri = QUrl::fromLocalFile(path).toEncoded() +
+                               (folderWritable ? QByteArray() : QByteArray("?immutable=1"));
+        const int rc =
+            sqlite3_open_v2(uri.constData(), &db_, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr);
+        if (rc != SQLITE_OK)
+            return false;
+        readOnly_ = true;
+    }
+    setBusyTimeout(BusyTimeoutMs);
     return true;
+}
+
+void SqliteDatabase::setBusyTimeout(int ms) {
+    sqlite3_busy_timeout(db_, ms);
 }
 
 void SqliteDatabase::close() {

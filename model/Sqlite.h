@@ -2,6 +2,7 @@
 // Thin RAII wrappers over the sqlite3 C API: a connection and a prepared statement.
 #include <QByteArray>
 #include <QHash>
+#include <QList>
 #include <QString>
 #include <QVariant>
 #include <memory>
@@ -38,6 +39,9 @@ public:
 
 private:
     sqlite3_stmt* stmt_ = nullptr;
+    // Texts and bytes bound since the last reset, kept here so that SQLite reads them where
+    // they are instead of copying them: a huge field is then held once, not twice.
+    QList<QByteArray> bound_;
 };
 
 class SqliteDatabase {
@@ -47,8 +51,15 @@ public:
     SqliteDatabase(const SqliteDatabase&) = delete;
     SqliteDatabase& operator=(const SqliteDatabase&) = delete;
 
-    // Opens (creates) the file; false with errorMessage() on failure.
+    // How long a statement waits for another program's lock before it answers busy.
+    static constexpr int BusyTimeoutMs = 2000;
+
+    // Opens (creates) the file; false with errorMessage() on failure. Where the file cannot be
+    // written (a read-only file, folder or medium) it is opened for reading only, without
+    // creating anything beside it.
     bool open(const QString& path);
+    bool isReadOnly() const { return readOnly_; }
+    void setBusyTimeout(int ms);
     void close();
     bool exec(const QString& sql);
     int errorCode() const;
@@ -62,5 +73,6 @@ public:
 
 private:
     sqlite3* db_ = nullptr;
+    bool readOnly_ = false;
     QHash<QString, std::shared_ptr<SqliteStatement>> cache_;
 };

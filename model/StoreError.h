@@ -10,4 +10,6 @@ struct StoreError {
 
     QString description() const;
     QString userInfoDescription() const;
+    // Another connection holds the lock the store needed.
+    bool isBusy() const { return (code & 0xff) == 5 || (code & 0xff) == 6; }
 };

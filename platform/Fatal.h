@@ -1,5 +1,19 @@
 #pragma once
 #include <QString>
 
-// Ends the process: writes "<source>:<line>: Fatal error: <message>" to stderr and aborts.
+#include <functional>
+
+// Ends the process: hands the stop to the current handler, which by default writes
+// "<source>:<line>: Fatal error: <message>" to stderr and aborts. A handler that returns is
+// followed by that same abort, so no caller ever continues past a fatal stop.
 [[noreturn]] void fatalError(const QString& message, const char* source, int line);
+
+namespace Fatal {
+// What a designed stop does instead of the default: the window session shows the message
+// first, fuzz targets and tests tell it from a crash (a handler may throw to unwind).
+using Handler = std::function<void(const QString& message, const char* source, int line)>;
+// Installs a handler and returns the one it replaces; an empty handler restores the default.
+Handler setHandler(Handler handler);
+// The line the default handler writes, without its line end.
+QString report(const QString& message, const char* source, int line);
+} // namespace Fatal

@@ -11,15 +11,30 @@ QString temporaryDirectory() {
     return QDir::tempPath() + QLatin1Char('/');
 }
 
-bool writeTextAtomically(const QString& path, const QString& text, QString* error) {
-    QSaveFile file(path);
-    const QByteArray bytes = text.toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-        if (error)
-            *error = file.errorString();
-        return false;
-    }
+bool writeAll(QIODevice& device, const QByteArray& bytes, QString* error) {
+    // A write cut short by a full disk or a size limit reports no reason; the next one fails
+    // with the system's.
+    qint64 n = 0;
+    for (qint64 done = 0; done < bytes.size(); done += n)
+        if ((n = device.write(bytes.constData() + done, bytes.size() - done)) <= 0) {
+            if (error)
+                *error = device.errorString();
+            return false;
+        }
     return true;
+}
+
+bool writeAtomically(const QString& path, const QByteArray& bytes, QString* error) {
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && writeAll(file, bytes, error) && file.commit())
+        return true;
+    if (error && (file.error() != QFileDevice::NoError || error->isEmpty()))
+        *error = file.errorString();
+    return false;
+}
+
+bool writeTextAtomically(const QString& path, const QString& text, QString* error) {
+    return writeAtomically(path, text.toUtf8(), error);
 }
 
 bool readText(const QString& path, QString& text, QString* error) {

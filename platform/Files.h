@@ -3,10 +3,16 @@
 #include <QByteArray>
 #include <QString>
 
+class QIODevice;
+
 namespace Files {
 // The temporary folder, ending with "/".
 QString temporaryDirectory();
-// Replaces the file in one step (never half-written); false with the reason in *error.
+// Replaces the file in one step (never half-written); false with the reason in *error, the
+// system's own ("No space left on device", "File too large"), and the earlier file whole.
+bool writeAtomically(const QString& path, const QByteArray& bytes, QString* error = nullptr);
+// All the bytes to an open device; false with the device's reason when it takes no more.
+bool writeAll(QIODevice& device, const QByteArray& bytes, QString* error = nullptr);
 bool writeTextAtomically(const QString& path, const QString& text, QString* error = nullptr);
 // The whole file as text: UTF-8, or UTF-16 when it starts with a byte-order mark.
 bool readText(const QString& path, QString& text, QString* error = nullptr);

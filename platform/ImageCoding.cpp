@@ -17,11 +17,19 @@
 
 namespace ImageCoding {
 
+bool saneSize(qint64 width, qint64 height) {
+    return width > 0 && height > 0 && width <= MaxSide && height <= MaxSide &&
+           width * height <= MaxPixels;
+}
+
 QImage decode(const QByteArray& bytes) {
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
+    const QSize size = reader.size();
+    if (size.isValid() && !saneSize(size.width(), size.height()))
+        return {};
     return reader.read();
 }
 
@@ -93,7 +101,8 @@ private:
         jpeg_mem_src(&in_, reinterpret_cast<const unsigned char*>(bytes.constData()),
                      static_cast<unsigned long>(bytes.size()));
         if (jpeg_read_header(&in_, TRUE) != JPEG_HEADER_OK || in_.num_components != 3 ||
-            in_.jpeg_color_space != JCS_YCbCr || in_.saw_Adobe_marker || in_.marker_list) {
+            in_.jpeg_color_space != JCS_YCbCr || in_.saw_Adobe_marker || in_.marker_list ||
+            !saneSize(in_.image_width, in_.image_height)) {
             jpeg_abort_decompress(&in_);
             return false;
         }

@@ -5,7 +5,12 @@
 #include <optional>
 
 namespace ImageCoding {
-// A null image when the bytes are no picture.
+// The largest picture decoded: far beyond any camera, far below what a forged header can claim.
+inline constexpr qint64 MaxPixels = 64LL * 1000 * 1000;
+inline constexpr int MaxSide = 32768;
+bool saneSize(qint64 width, qint64 height);
+// A null image when the bytes are no picture, or one larger than MaxPixels (refused from its
+// header, before anything is allocated).
 QImage decode(const QByteArray& bytes);
 // The picture drawn onto a 100 x 100 canvas, stretched to the whole square whatever its shape.
 QImage redrawnForStorage(const QImage& image);

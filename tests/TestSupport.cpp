@@ -3,8 +3,11 @@
 #include "platform/Console.h"
 #include "platform/UserDefaults.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QFile>
+#include <QImage>
 #include <QThread>
 #include <sqlite3.h>
 
@@ -40,4 +43,42 @@ OtherConnection::~OtherConnection() {
 
 int OtherConnection::exec(const char* sql) {
     return sqlite3_exec(db_, sql, nullptr, nullptr, nullptr);
+}
+
+void damagePage(const QString& storeFile, const char* table) {
+    qint64 page = 0, pageSize = 0;
+    {
+        OtherConnection store(storeFile);
+        sqlite3_stmt* st = nullptr;
+        sqlite3_prepare_v2(store.handle(),
+                           "SELECT rootpage, (SELECT page_size FROM pragma_page_size) FROM "
+                           "sqlite_master WHERE name = ?",
+                           -1, &st, nullptr);
+        sqlite3_bind_text(st, 1, table, -1, SQLITE_STATIC);
+        ASSERT_EQ(sqlite3_step(st), SQLITE_ROW) << table;
+        page = sqlite3_column_int64(st, 0);
+        pageSize = sqlite3_column_int64(st, 1);
+        sqlite3_finalize(st);
+    }
+    QFile file(storeFile);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.seek((page - 1) * pageSize));
+    ASSERT_EQ(file.write(QByteArray(pageSize, '\xEE')), pageSize);
+}
+
+QByteArray jpegClaiming(int width, int height) {
+    QImage small(8, 8, QImage::Format_RGB32);
+    small.fill(Qt::darkYellow);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    small.save(&buffer, "JPEG");
+    // The frame header (FFC0): length, precision, then height and width, big-endian.
+    const qsizetype sof = bytes.indexOf("\xFF\xC0");
+    EXPECT_GT(sof, 0);
+    bytes[sof + 5] = char(height >> 8);
+    bytes[sof + 6] = char(height & 0xFF);
+    bytes[sof + 7] = char(width >> 8);
+    bytes[sof + 8] = char(width & 0xFF);
+    return bytes;
 }

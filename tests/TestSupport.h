@@ -36,3 +36,10 @@ public:
 private:
     struct sqlite3* db_ = nullptr;
 };
+
+// Overwrites the first page of a table (or index) of a closed store file with bytes that are no
+// page, as a failing disk would: every read that reaches it fails.
+void damagePage(const QString& storeFile, const char* table);
+
+// A JPEG of a few bytes whose header claims width x height pixels.
+QByteArray jpegClaiming(int width, int height);

@@ -28,7 +28,8 @@ TableViewCell::TableViewCell(QWidget* parent)
 class TableModel : public QAbstractListModel {
 public:
     explicit TableModel(TableView* table)
-        : table_(table) {}
+        : QAbstractListModel(table)
+        , table_(table) {}
     struct Section {
         int start = 0;
         bool header = false;
@@ -284,11 +285,13 @@ TableView::TableView(QWidget* parent)
     list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     list_->setSelectionMode(QAbstractItemView::NoSelection);
     list_->setFrameShape(QFrame::NoFrame);
-    list_->viewport()->installEventFilter(new SwipeFilter(this));
+    swipeFilter_ = new SwipeFilter(this);
+    list_->viewport()->installEventFilter(swipeFilter_);
     QScroller::grabGesture(list_->viewport(), QScroller::TouchGesture);
 }
 
 TableView::~TableView() {
+    delete swipeFilter_;
     qDeleteAll(reusable_);
 }
 

@@ -107,6 +107,8 @@ private:
     class QLabel* sectionFooter_ = nullptr;
     QListView* list_;
     class TableModel* model_;
+    // Gone before the rows' widgets, so that their last events never reach a half-destroyed table.
+    QObject* swipeFilter_ = nullptr;
     QHash<QString, std::function<TableViewCell*()>> factories_;
     QHash<QString, TableViewCell*> reusable_;
     qreal headerPoints_ = 13;

@@ -27,6 +27,8 @@ protected:
             a->triggerAction(a->actionTitles().value(0));
         window.reset();
         QApplication::processEvents();
+        // Screens popped with deleteLater go now, not at the end of the process.
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         Platform::reset();
         AppTest::TearDown();
     }

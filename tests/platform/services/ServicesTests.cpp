@@ -116,3 +116,13 @@ TEST(ImageCoding, QuickReencodingGivesTheOrdinaryBytes) {
     EXPECT_TRUE(ImageCoding::reencodeJpeg("\xFF\xD8 broken", 0.6).isEmpty());
     EXPECT_TRUE(ImageCoding::reencodeJpeg("%PDF-1.4", 0.6).isEmpty());
 }
+
+// A header may claim any size: beyond a sane one nothing is allocated and nothing decoded.
+TEST(ImageCoding, ForgedSizesAreRefusedBeforeDecoding) {
+    const QByteArray forged = jpegClaiming(60000, 60000);
+    EXPECT_TRUE(ImageCoding::decode(forged).isNull());
+    EXPECT_TRUE(ImageCoding::reencodeJpeg(forged, 0.6).isEmpty());
+    EXPECT_TRUE(ImageCoding::decode(jpegClaiming(40000, 10)).isNull());
+    EXPECT_FALSE(ImageCoding::decode(jpegClaiming(8, 8)).isNull());
+    EXPECT_FALSE(ImageCoding::reencodeJpeg(jpegClaiming(8, 8), 0.6).isEmpty());
+}

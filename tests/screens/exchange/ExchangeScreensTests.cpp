@@ -2,6 +2,7 @@
 #include "exchange/ExchangeWriter.h"
 #include "exchange/ExportViewController.h"
 #include "exchange/ImportViewController.h"
+#include "platform/ImageCoding.h"
 
 #include <QFile>
 
@@ -112,4 +113,29 @@ TEST_F(ExchangeScreenTest, ImportLoadsMergesAndReturnsToTheMenu) {
     AlertController::current()->triggerAction("OK");
     EXPECT_EQ(window->navigationController()->topViewController(), menu);
     EXPECT_EQ(all<Coins>().size(), 1);
+}
+
+// A damaged store is reported, and nothing is offered to save over the last backup.
+TEST_F(ExchangeScreenTest, ExportOfADamagedStoreOffersNothingToSave) {
+    QImage face(100, 100, QImage::Format_RGB32);
+    face.fill(Qt::darkYellow);
+    for (int i = 0; i < 20; ++i)
+        addCoin(QStringLiteral("%1 Cents").arg(i), 1950 + i)
+            ->setFrontImage(ImageCoding::coinPictureData(face));
+    ASSERT_FALSE(ctx().save());
+    delegate.reset();
+    damagePage(path("Pelvane.sqlite"), "Coins_pictures");
+    relaunch();
+
+    auto* screen = open<ExportViewController>("ExportCoins");
+    QTest::mouseClick(screen->ExportButton, Qt::LeftButton);
+    ASSERT_NE(AlertController::current(), nullptr);
+    EXPECT_EQ(AlertController::current()->title(), "Data Export File");
+    EXPECT_EQ(AlertController::current()->message(),
+              "The collection cannot be read: database disk image is malformed");
+    EXPECT_FALSE(screen->SaveButton->isEnabled());
+    EXPECT_FALSE(screen->EmailButton->isEnabled());
+    EXPECT_EQ(screen->ExportTextView->text(), "");
+    if (qEnvironmentVariableIsSet("PELVANE_SHOTS"))
+        window->grab().save(qEnvironmentVariable("PELVANE_SHOTS") + "/export-damaged-store.png");
 }

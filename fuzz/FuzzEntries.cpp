@@ -1,0 +1,117 @@
+#include "fuzz/FuzzEntries.h"
+
+#include "exchange/ExchangeReader.h"
+#include "exchange/ExchangeWriter.h"
+#include "model/PersistentContainer.h"
+#include "platform/Fatal.h"
+#include "platform/ImageCoding.h"
+
+#include <QByteArray>
+#include <QDir>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+
+#include <cstdlib>
+#include <memory>
+
+namespace FuzzEntries {
+
+namespace {
+struct DesignedStop {};
+
+QString& stopText() {
+    static QString text;
+    return text;
+}
+
+QTemporaryDir& storeFolder() {
+    static QTemporaryDir dir;
+    return dir;
+}
+
+std::unique_ptr<PersistentContainer>& store() {
+    static std::unique_ptr<PersistentContainer> container;
+    return container;
+}
+
+void openStore() {
+    store().reset();
+    QFile::remove(storeFolder().filePath(QStringLiteral("Pelvane.sqlite")));
+    store() = std::make_unique<PersistentContainer>(QStringLiteral("Pelvane"));
+    store()->loadPersistentStores([](const StoreDescription&, const std::optional<StoreError>& e) {
+        if (e)
+            qFatal("cannot make the temporary store: %s", qPrintable(e->description()));
+    });
+}
+
+// Stops are thrown from the caller's thread only: the export decodes on other threads but
+// stops on its own. The handler is there only while an input runs, so tests around it keep
+// the ordinary stop.
+template <typename Run> Outcome guarded(Run run) {
+    const Fatal::Handler previous =
+        Fatal::setHandler([](const QString& message, const char* source, int line) {
+            stopText() = Fatal::report(message, source, line);
+            throw DesignedStop{};
+        });
+    Outcome outcome = Outcome::Done;
+    try {
+        run();
+    } catch (const DesignedStop&) {
+        outcome = Outcome::Stopped;
+    }
+    Fatal::setHandler(previous);
+    return outcome;
+}
+} // namespace
+
+void startApplication(int* argc, char*** argv) {
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    static QGuiApplication app(*argc, *argv);
+    prepare();
+}
+
+void prepare() {
+    static bool done = false;
+    if (done)
+        return;
+    done = true;
+    PersistentContainer::setDefaultDirectory(storeFolder().path());
+    openStore();
+}
+
+Outcome mergeAndExport(const uint8_t* data, std::size_t size) {
+    prepare();
+    ManagedObjectContext& context = *store()->viewContext();
+    const Outcome outcome = guarded([&] {
+        Exchange::mergeExchangeText(
+            context, QByteArray(reinterpret_cast<const char*>(data), qsizetype(size)));
+        if (auto error = context.save())
+            qFatal("save failed: %s", qPrintable(error->description()));
+        (void)Exchange::exchangeText(context);
+    });
+    // A stop may leave a new coin pending: it goes with the rest, so that the next input
+    // starts from an empty store.
+    FetchRequest all(QStringLiteral("Coins"));
+    for (const ObjectPtr& coin : context.fetch(all))
+        context.deleteObject(coin);
+    if (context.save())
+        openStore();
+    return outcome;
+}
+
+Outcome picture(const uint8_t* data, std::size_t size) {
+    prepare();
+    return guarded([&] {
+        const QByteArray bytes(reinterpret_cast<const char*>(data), qsizetype(size));
+        const QImage image = ImageCoding::decode(bytes);
+        (void)ImageCoding::reencodeJpeg(bytes, 0.6);
+        if (!image.isNull())
+            (void)ImageCoding::coinPictureData(image);
+    });
+}
+
+QString lastStop() {
+    return stopText();
+}
+
+} // namespace FuzzEntries

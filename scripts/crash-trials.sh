@@ -1,0 +1,142 @@
+#!/usr/bin/env bash
+# Kills imports and exports with SIGKILL at random moments and checks that nothing saved is
+# lost and nothing written is torn.
+#
+#   scripts/crash-trials.sh [TRIALS] [BUILD_DIR]      (default: 10 trials, ./build)
+#
+# Import trials: a generated file of 2,000 new coins, with an update of every coin of the
+# sample among them, is imported into a store that already holds the sample and killed at a
+# random moment. Afterwards: PRAGMA integrity_check is "ok"; the program reopens and exports
+# the store; every earlier coin is as it was or as the file updates it; the new coins are
+# exactly a leading part of the file's, each complete.
+# Export trials: an export over an earlier file, killed at a random moment; the file is then
+# the earlier one or the whole new one, never torn.
+# Exits 1 when any trial fails; the failed trial's files are kept and named.
+set -euo pipefail
+
+TRIALS=${1:-10}
+BUILD=$(cd "${2:-build}" && pwd)
+ROOT=$(cd "$(dirname "$0")/.." && pwd)
+PELVANE="$BUILD/pelvane"
+CHECK="$BUILD/pelvane_integrity_check"
+SAMPLE="$ROOT/samples/Pelvane-sample.csv"
+export QT_QPA_PLATFORM=offscreen
+
+WORK=$(mktemp -d "${TMPDIR:-/tmp}/pelvane-trials.XXXXXX")
+keep=0
+trap '[ $keep -eq 1 ] || rm -rf "$WORK"' EXIT
+# Copies, so that a build during a long run does not change the program under trial.
+cp "$PELVANE" "$CHECK" "$WORK/"
+PELVANE="$WORK/pelvane"
+CHECK="$WORK/pelvane_integrity_check"
+
+# Lines of an export keyed by the import's four keys (country, denomination, mint mark, year),
+# one "key<TAB>line" a line, sorted.
+keyed() {
+  tail -n +2 "$1" | awk -F'^' '{ print $1 "|" $2 "|" $9 "|" $19 "\t" $0 }' | LC_ALL=C sort
+}
+
+# The file: every sample coin with its quantity changed (an update), spread among 2,000 new
+# coins with every field filled.
+awk -F'^' -v OFS='^' 'NR > 1 && NF >= 19 { $12 = 77; print }' "$SAMPLE" > "$WORK/updates"
+{
+  echo "[PELVANE]"
+  awk -v OFS='^' '
+    BEGIN { while ((getline line < "'"$WORK/updates"'") > 0) updates[u++] = line }
+    {}
+    END {
+      for (i = 1; i <= 2000; i++) {
+        print "Trialand", "Coin " i, "Trial coin " i, "Designer " i % 7, "19.05", "Plain",
+              "MS-6" i % 10, "Mint " i % 3, "T" i % 5, "Note " i "~second line", "Period",
+              i % 50 + 1, "SN" i, "RD", "1.5", i % 90 ".5", (i % 9) ".25", "3.24",
+              1800 + i % 200, "", ""
+        if (i % 45 == 0 && n < u) print updates[n++]
+      }
+    }' < /dev/null
+} > "$WORK/import.csv"
+grep -o '^Trialand^Coin [0-9]*' "$WORK/import.csv" | cut -d'^' -f2 > "$WORK/new-order"
+
+# The store before (the sample), its export, and the export after a whole import.
+"$PELVANE" --data-dir "$WORK/base" --import "$SAMPLE" > /dev/null
+"$PELVANE" --data-dir "$WORK/base" --export "$WORK/before.csv"
+cp -r "$WORK/base" "$WORK/whole"
+"$PELVANE" --data-dir "$WORK/whole" --import "$WORK/import.csv" > /dev/null
+"$PELVANE" --data-dir "$WORK/whole" --export "$WORK/after.csv"
+keyed "$WORK/before.csv" > "$WORK/before.keyed"
+keyed "$WORK/after.csv" > "$WORK/after.keyed"
+start=$(date +%s%N)
+"$PELVANE" --data-dir "$WORK/timing" --import "$WORK/import.csv" > /dev/null
+import_ms=$(( ($(date +%s%N) - start) / 1000000 + 50 ))
+start=$(date +%s%N)
+"$PELVANE" --data-dir "$WORK/whole" --export "$WORK/timing.csv"
+export_ms=$(( ($(date +%s%N) - start) / 1000000 + 20 ))
+
+# Starts a command, kills it with SIGKILL after a random part of `ms` milliseconds.
+kill_at_random() {
+  local ms=$1; shift
+  "$@" > /dev/null 2>&1 &
+  local pid=$!
+  local wait_ms=$(( (RANDOM * 32768 + RANDOM) % ms ))
+  sleep "$(printf '%d.%03d' $((wait_ms / 1000)) $((wait_ms % 1000)))"
+  kill -KILL "$pid" 2> /dev/null || true
+  wait "$pid" 2> /dev/null || true
+}
+
+# Checks the store of one killed import; prints what is wrong, nothing when all is well.
+check_import() {
+  local dir=$1
+  "$CHECK" "$dir/Pelvane.sqlite" > "$dir/integrity" 2>&1 || { echo "integrity: $(head -3 "$dir/integrity")"; return; }
+  "$PELVANE" --data-dir "$dir" --export "$dir/out.csv" 2> "$dir/export.err" \
+    || { echo "export after the kill failed: $(cat "$dir/export.err")"; return; }
+  keyed "$dir/out.csv" > "$dir/out.keyed"
+  # Every earlier coin: as before, or as after the whole import.
+  local key line
+  while IFS=$'\t' read -r key line; do
+    local now
+    now=$(awk -F'\t' -v k="$key" '$1 == k { print $2 }' "$dir/out.keyed")
+    if [ "$now" != "$line" ] && [ "$now" != "$(awk -F'\t' -v k="$key" '$1 == k { print $2 }' "$WORK/after.keyed")" ]; then
+      echo "earlier coin changed or lost: $key"; return
+    fi
+  done < "$WORK/before.keyed"
+  # The new coins: a leading part of the file's, each exactly as after the whole import.
+  grep '^Trialand|' "$dir/out.keyed" | cut -f2 | cut -d'^' -f2 > "$dir/new-found" || true
+  local count
+  count=$(wc -l < "$dir/new-found")
+  if ! diff <(head -n "$count" "$WORK/new-order" | LC_ALL=C sort) <(LC_ALL=C sort "$dir/new-found") > /dev/null; then
+    echo "the $count new coins are not the file's first $count"; return
+  fi
+  if [ -n "$(LC_ALL=C comm -23 <(grep '^Trialand|' "$dir/out.keyed") <(grep '^Trialand|' "$WORK/after.keyed"))" ]; then
+    echo "a new coin is incomplete"; return
+  fi
+  echo "$count" > "$dir/saved-count"
+}
+
+failed=0
+saved_total=0
+for ((t = 1; t <= TRIALS; t++)); do
+  dir="$WORK/trial-$t"
+  cp -r "$WORK/base" "$dir"
+  kill_at_random "$import_ms" "$PELVANE" --data-dir "$dir" --import "$WORK/import.csv"
+  problem=$(check_import "$dir")
+  if [ -n "$problem" ]; then
+    echo "import trial $t failed: $problem (kept in $dir)"
+    failed=$((failed + 1)); keep=1
+  else
+    saved_total=$((saved_total + $(cat "$dir/saved-count")))
+    rm -rf "$dir"
+  fi
+  [ $((t % 100)) -ne 0 ] || echo "... $t trials, $failed failed"
+
+  # An export killed over an earlier file leaves the earlier file or the whole new one.
+  cp "$WORK/before.csv" "$WORK/target.csv"
+  kill_at_random "$export_ms" "$PELVANE" --data-dir "$WORK/whole" --export "$WORK/target.csv"
+  if ! cmp -s "$WORK/target.csv" "$WORK/before.csv" && ! cmp -s "$WORK/target.csv" "$WORK/after.csv"; then
+    cp "$WORK/target.csv" "$WORK/torn-$t.csv"
+    echo "export trial $t failed: the file is torn (kept as $WORK/torn-$t.csv)"
+    failed=$((failed + 1)); keep=1
+  fi
+done
+
+echo "crash trials: $TRIALS imports and $TRIALS exports killed, $failed failed" \
+     "(new coins saved before the kill: $saved_total in all; import ${import_ms} ms, export ${export_ms} ms)"
+[ "$failed" -eq 0 ]

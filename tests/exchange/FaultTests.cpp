@@ -1,0 +1,174 @@
+#include "StoreFixture.h"
+#include "exchange/ExchangeReader.h"
+#include "exchange/ExchangeWriter.h"
+#include "platform/Fatal.h"
+#include "platform/Files.h"
+#include "platform/ImageCoding.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QImage>
+
+#include <csignal>
+#include <sys/resource.h>
+
+using Exchange::exchangeText;
+using Exchange::mergeExchangeText;
+
+namespace {
+QByteArray smallPicture() {
+    QImage img(100, 100, QImage::Format_RGB32);
+    img.fill(Qt::darkCyan);
+    return ImageCoding::coinPictureData(img);
+}
+
+// A device that takes N bytes and then fails, as a disk that goes away would.
+class FailingDevice : public QIODevice {
+public:
+    explicit FailingDevice(qint64 capacity)
+        : capacity_(capacity) {
+        open(QIODevice::WriteOnly);
+    }
+    QByteArray written;
+
+protected:
+    qint64 readData(char*, qint64) override { return -1; }
+    qint64 writeData(const char* data, qint64 size) override {
+        const qint64 n = std::min(size, capacity_ - qint64(written.size()));
+        if (n <= 0) {
+            setErrorString(QStringLiteral("Input/output error"));
+            return -1;
+        }
+        written.append(data, n);
+        return n;
+    }
+
+private:
+    qint64 capacity_;
+};
+} // namespace
+
+// A damaged store is an error, never an empty collection or coins without pictures.
+TEST_F(StoreTest, ExportOfADamagedStoreGivesNoFile) {
+    for (const char* table : {"Coins", "Coins_pictures"}) {
+        SCOPED_TRACE(table);
+        for (const CoinPtr& c : fetch())
+            ctx().deleteObject(c);
+        for (int i = 0; i < 30; ++i) {
+            auto c = coin("Canada", QStringLiteral("%1 Cents").arg(i), 1960 + i);
+            c->setFrontImage(smallPicture());
+        }
+        ASSERT_FALSE(ctx().save());
+        ASSERT_FALSE(exchangeText(ctx()).isEmpty());
+        container.reset();
+        damagePage(path("Pelvane.sqlite"), table);
+        reopen();
+        StoreError error;
+        EXPECT_TRUE(exchangeText(ctx(), {}, &error).isEmpty());
+        EXPECT_NE(error.code, 0);
+        EXPECT_EQ(error.message, "database disk image is malformed");
+        // A fresh store to start the next case from.
+        container.reset();
+        QFile::remove(path("Pelvane.sqlite"));
+        reopen();
+    }
+}
+
+// The stop the export makes at a picture it cannot decode says which coin to fix, and a
+// header that claims 60000 x 60000 pixels is such a picture, refused before it is allocated.
+TEST_F(StoreTest, PictureThatCannotBeDecodedNamesItsCoin) {
+    auto c = coin("Canada", "1 Cent", 1965);
+    c->setBackImage("1234"); // record-number digits taken for a picture by an import
+    EXPECT_DEATH(exchangeText(ctx()), "ExportViewController:160: Fatal error: .*the back picture "
+                                      "of 1 Cent, 1965, Canada cannot be decoded");
+    c->setBackImage(QByteArray());
+    c->setFrontImage(jpegClaiming(60000, 60000));
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_DEATH(exchangeText(ctx()), "the front picture of 1 Cent, 1965, Canada");
+    EXPECT_LT(timer.elapsed(), 10000);
+}
+
+// Another program holding the store: the merge goes on, but waits for the lock once, not
+// once per line, and says how many coins were not saved and why.
+TEST_F(StoreTest, MergeIntoABusyStoreDoesNotWaitPerLine) {
+    coin("Peru", "1 Sol", 1990, "L");
+    ASSERT_FALSE(ctx().save());
+    OtherConnection other(path("Pelvane.sqlite"));
+    ASSERT_EQ(other.exec("BEGIN IMMEDIATE; INSERT INTO GradeNumbers(grade) VALUES ('MS-70')"), 0);
+    QByteArray file = "[PELVANE]\n";
+    for (int i = 0; i < 8; ++i)
+        file += QStringLiteral("Chile^%1 Pesos^^^^^^^^^^^^^^^^^1990^^\n").arg(i).toUtf8();
+    file += "Peru^1 Sol^^^^^^^L^^^5^^^^^^^1990^^\n";
+    QElapsedTimer timer;
+    timer.start();
+    const auto r = mergeExchangeText(ctx(), file);
+    EXPECT_LT(timer.elapsed(), 3000);
+    EXPECT_EQ(r.created, 8);
+    EXPECT_EQ(r.updated, 1);
+    EXPECT_EQ(r.notSaved, 8);
+    EXPECT_EQ(r.updatedSinceSave, 1);
+    EXPECT_EQ(r.notSavedReason, "database is locked");
+    // The lock gone, the coins left pending are saved, and waiting is back for later saves.
+    ASSERT_EQ(other.exec("ROLLBACK"), 0);
+    EXPECT_FALSE(ctx().save());
+    EXPECT_EQ(fetch().size(), 9);
+}
+
+// A file cut short is still merged as far as it goes, and the merge says so.
+TEST_F(StoreTest, LastLineWithoutLineEndIsMergedAndNoted) {
+    auto r = mergeExchangeText(ctx(), QByteArray("[PELVANE]\nChile^1 Peso^^^^^^^^^^^^^^^^^1990"));
+    EXPECT_TRUE(r.lastLineUnended);
+    EXPECT_EQ(r.created, 1);
+    r = mergeExchangeText(ctx(), QByteArray("[PELVANE]\nChile^2 Pesos^^^^^^^^^^^^^^^^^1990\n"));
+    EXPECT_FALSE(r.lastLineUnended);
+}
+
+// Writes that fail part-way leave the earlier file whole and give the system's reason.
+TEST_F(PelvaneTest, FailedWritesKeepTheEarlierFileAndTellWhy) {
+    const QByteArray earlier = "[PELVANE]\nthe earlier backup\n";
+    ASSERT_TRUE(Files::writeAtomically(path("Pelvane.csv"), earlier));
+    const QByteArray bigger(200000, 'x');
+
+    FailingDevice device(4096);
+    QString error;
+    EXPECT_FALSE(Files::writeAll(device, bigger, &error));
+    EXPECT_EQ(error, "Input/output error");
+    EXPECT_EQ(device.written.size(), 4096);
+
+    // A file-size limit, as a full or quota-bound disk gives.
+    const auto previous = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit old{};
+    getrlimit(RLIMIT_FSIZE, &old);
+    rlimit limit = old;
+    limit.rlim_cur = 4096;
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+    error.clear();
+    const bool written = Files::writeAtomically(path("Pelvane.csv"), bigger, &error);
+    setrlimit(RLIMIT_FSIZE, &old);
+    std::signal(SIGXFSZ, previous);
+    EXPECT_FALSE(written);
+    EXPECT_EQ(error, "File too large");
+    QFile file(path("Pelvane.csv"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), earlier);
+    EXPECT_EQ(QDir(dir()).entryList(QDir::Files), QStringList({"Pelvane.csv"}));
+}
+
+// A designed stop goes through the handler, so fuzzing and tests can tell it from a crash.
+TEST(Fatal, HandlerSeesTheDesignedStop) {
+    struct Stop {
+        QString text;
+    };
+    const Fatal::Handler previous = Fatal::setHandler(
+        [](const QString& m, const char* s, int l) { throw Stop{Fatal::report(m, s, l)}; });
+    try {
+        fatalError(QStringLiteral("Index out of range"), "Pelvane/ImportViewController", 262);
+        ADD_FAILURE() << "went on past a fatal stop";
+    } catch (const Stop& stop) {
+        EXPECT_EQ(stop.text, "Pelvane/ImportViewController:262: Fatal error: Index out of range");
+    }
+    Fatal::setHandler(previous);
+    EXPECT_DEATH(fatalError(QStringLiteral("x"), "here", 1), "here:1: Fatal error: x");
+}
