@@ -1,5 +1,6 @@
 // Counting without fetching: the store counts on its indexes, and the context corrects the
 // figure by its unsaved changes the way a fetch merges them.
+#include "model/ContextSql.h"
 #include "model/ManagedObjectContext.h"
 #include "model/Sqlite.h"
 #include "platform/Fatal.h"
@@ -9,10 +10,6 @@
 #include <optional>
 
 namespace {
-
-QString quotedName(const QString& name) {
-    return QLatin1Char('"') + name + QLatin1Char('"');
-}
 
 int groupAttribute(const EntityDescription& e, const QString& key) {
     const int i = e.indexOf(key);
@@ -69,12 +66,13 @@ qint64 ManagedObjectContext::countMatching(const FetchRequest& request, int grou
     const EntityDescription& e = *known;
     const AttributeType groupType =
         groupBy >= 0 ? e.attributes[std::size_t(groupBy)].type : AttributeType::Text;
-    const QString groupColumn =
-        groupBy >= 0 ? quotedName(e.attributes[std::size_t(groupBy)].name) : QStringLiteral("1");
+    const QString groupColumn = groupBy >= 0
+                                    ? ContextSql::quoted(e.attributes[std::size_t(groupBy)].name)
+                                    : QStringLiteral("1");
     beginReadBatch();
     QVariantList binds;
     const QString where = request.predicate.sql(e, binds);
-    const QString table = quotedName(e.name);
+    const QString table = ContextSql::quoted(e.name);
     const QString sql = groupBy >= 0
                             ? QStringLiteral("SELECT %1,count(*) FROM %2 WHERE %3 GROUP BY %1")
                                   .arg(groupColumn, table, where)

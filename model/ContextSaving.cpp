@@ -1,0 +1,156 @@
+// Saving: every pending insert, update and delete in one transaction.
+#include "model/ContextSql.h"
+#include "model/ManagedObjectContext.h"
+#include "model/Records.h"
+#include "model/Sqlite.h"
+#include "platform/Fatal.h"
+
+#include <QTimer>
+#include <sqlite3.h>
+
+using namespace ContextSql;
+
+static void bindMainValues(SqliteStatement& st, const ManagedObject& o) {
+    int col = 1;
+    const EntityDescription& e = o.entity();
+    for (std::size_t i = 0; i < e.attributes.size(); ++i) {
+        if (e.attributes[i].type == AttributeType::Data)
+            continue;
+        st.bind(col++, o.hasValue(int(i)) ? o.value(int(i)) : QVariant());
+    }
+}
+
+static void bindDataValues(SqliteStatement& st, const ManagedObject& o, int first) {
+    const EntityDescription& e = o.entity();
+    for (std::size_t i = 0; i < e.attributes.size(); ++i)
+        if (e.attributes[i].type == AttributeType::Data)
+            st.bind(first++, o.hasValue(int(i)) ? o.value(int(i)) : QVariant());
+}
+
+bool ManagedObjectContext::writePending(std::vector<qint64>& newIds) {
+    newIds.clear();
+    newIds.reserve(std::size_t(inserted_.size()));
+    for (const auto& o : inserted_) {
+        const EntityDescription& e = *o->entity_;
+        SqliteStatement& st = db_->cached(writeSql(e).insert);
+        bindMainValues(st, *o);
+        if (st.step() != SQLITE_DONE)
+            return false;
+        const qint64 id = db_->lastInsertRowId();
+        newIds.push_back(id);
+        if (e.hasData() && (o->present_ & dataMask(e))) {
+            SqliteStatement& ds = db_->cached(writeSql(e).insertData);
+            ds.bindInt(1, id);
+            bindDataValues(ds, *o, 2);
+            if (ds.step() != SQLITE_DONE)
+                return false;
+        }
+    }
+    for (const auto& o : std::as_const(updated_)) {
+        const EntityDescription& e = *o->entity_;
+        SqliteStatement& st = db_->cached(writeSql(e).update);
+        bindMainValues(st, *o);
+        st.bindInt(int(mainColumns(e).size()) + 1, o->rowId_);
+        if (st.step() != SQLITE_DONE)
+            return false;
+        if (e.hasData() && (o->dirty_ & dataMask(e))) {
+            SqliteStatement& ds = db_->cached(writeSql(e).insertData);
+            ds.bindInt(1, o->rowId_);
+            bindDataValues(ds, *o, 2);
+            if (ds.step() != SQLITE_DONE)
+                return false;
+        }
+    }
+    for (const auto& o : deleted_) {
+        const EntityDescription& e = *o->entity_;
+        SqliteStatement& st = db_->cached(writeSql(e).remove);
+        st.bindInt(1, o->rowId_);
+        if (st.step() != SQLITE_DONE)
+            return false;
+        if (e.hasData()) {
+            SqliteStatement& ds = db_->cached(writeSql(e).removeData);
+            ds.bindInt(1, o->rowId_);
+            if (ds.step() != SQLITE_DONE)
+                return false;
+        }
+    }
+    return true;
+}
+
+std::optional<StoreError> ManagedObjectContext::save() {
+    if (!hasChanges())
+        return std::nullopt;
+    // Pictures of changed records must be complete before they are rewritten.
+    for (auto& o : updated_)
+        if (o->entity_->hasData() && (o->dirty_ & dataMask(*o->entity_)))
+            loadData(*o);
+
+    // A read batch still open becomes the write transaction, which spares ending one
+    // transaction only to begin the next. Should another writer have changed the file since the
+    // batch began, the batch cannot write: the changes are written again in a fresh one.
+    // The error of a write transaction that could not begin, if any.
+    auto beginWrite = [this]() -> std::optional<StoreError> {
+        SqliteStatement& begin = db_->cached(QStringLiteral("BEGIN IMMEDIATE"));
+        std::optional<StoreError> error;
+        if (begin.step() != SQLITE_DONE)
+            error = lastError();
+        begin.reset();
+        return error;
+    };
+    const bool upgrade = readBatch_;
+    if (upgrade) {
+        readBatch_ = false;
+        batchEnd_->stop();
+        db_->resetAll();
+    } else if (auto error = beginWrite()) {
+        return error;
+    }
+    auto fail = [this]() {
+        StoreError err = lastError();
+        db_->exec(QStringLiteral("ROLLBACK"));
+        db_->resetAll();
+        return err;
+    };
+    std::vector<qint64> newIds;
+    bool written = writePending(newIds);
+    if (!written && upgrade && (sqlite3_errcode(db_->handle()) & 0xff) == SQLITE_BUSY) {
+        db_->exec(QStringLiteral("ROLLBACK"));
+        db_->resetAll();
+        if (auto error = beginWrite())
+            return error;
+        written = writePending(newIds);
+    }
+    if (!written)
+        return fail();
+    SqliteStatement& commit = db_->cached(QStringLiteral("COMMIT"));
+    if (commit.step() != SQLITE_DONE)
+        return fail();
+    commit.reset();
+
+    // Only now that the transaction is in does memory follow it.
+    for (qsizetype i = 0; i < inserted_.size(); ++i) {
+        const ObjectPtr& o = inserted_[i];
+        o->rowId_ = newIds[std::size_t(i)];
+        o->state_ = ManagedObject::State::Clean;
+        o->dataLoaded_ = dataMask(*o->entity_);
+        identity_[std::size_t(o->entity_->index)].insert(o->rowId_, o);
+    }
+    for (const auto& o : std::as_const(updated_)) {
+        o->state_ = ManagedObject::State::Clean;
+        o->dirty_ = 0;
+    }
+    for (const auto& o : deleted_) {
+        o->state_ = ManagedObject::State::Gone;
+        o->context_ = nullptr;
+        identity_[std::size_t(o->entity_->index)].remove(o->rowId_);
+    }
+    for (auto& perEntity : dirtyByAttribute_)
+        for (auto& set : perEntity)
+            set.clear();
+    inserted_.clear();
+    ++changeCount_;
+    pendingIndexes_.clear();
+    updated_.clear();
+    deleted_.clear();
+    return std::nullopt;
+}
