@@ -1,0 +1,94 @@
+#include "TestSupport.h"
+#include "platform/PageRenderer.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QPainter>
+#include <QPdfDocument>
+#include <QTextCursor>
+#include <QTextDocument>
+
+namespace {
+QString pageText(QPdfDocument& pdf, int page) {
+    return pdf.getAllText(page).text().simplified();
+}
+} // namespace
+
+TEST(PageRenderer, LaysTextOutOnA4PagesAndDrawsEveryOne) {
+    QTextDocument document;
+    QTextCursor cursor(&document);
+    QImage picture(400, 400, QImage::Format_RGB32);
+    picture.fill(Qt::darkGreen);
+    document.addResource(QTextDocument::ImageResource, QUrl(QStringLiteral("picture")), picture);
+    for (int line = 0; line < 200; ++line) {
+        cursor.insertText(QStringLiteral("Line %1\n").arg(line));
+        if (line % 40 == 0) {
+            QTextImageFormat image;
+            image.setName(QStringLiteral("picture"));
+            image.setWidth(99.2);
+            image.setHeight(99.2);
+            cursor.insertImage(image);
+            cursor.insertText(QStringLiteral("\n"));
+        }
+    }
+    PageRenderer renderer(document, PageRenderer::a4(), PageRenderer::a4());
+    const int pages = renderer.numberOfPages();
+    ASSERT_GT(pages, 2);
+
+    int told = 0;
+    QByteArray bytes = renderer.pdf([&](int done, int all) {
+        EXPECT_EQ(all, pages);
+        EXPECT_EQ(done, ++told);
+    });
+    EXPECT_EQ(told, pages);
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QPdfDocument pdf;
+    pdf.load(&buffer);
+    ASSERT_EQ(pdf.status(), QPdfDocument::Status::Ready);
+    ASSERT_EQ(pdf.pageCount(), pages);
+    EXPECT_NEAR(pdf.pagePointSize(0).width(), 595.2, 0.01);
+    EXPECT_NEAR(pdf.pagePointSize(0).height(), 841.8, 0.01);
+    // Every line once, in order, none lost or cut at a page break.
+    QString all;
+    for (int page = 0; page < pages; ++page)
+        all += pageText(pdf, page) + QLatin1Char(' ');
+    qsizetype at = 0;
+    for (int line = 0; line < 200; ++line) {
+        const qsizetype found = all.indexOf(QStringLiteral("Line %1 ").arg(line), at);
+        ASSERT_GE(found, at) << line;
+        at = found + 1;
+    }
+    EXPECT_EQ(all.count(QStringLiteral("Line 7 ")), 1);
+    // The pictures are drawn: the first page has green ink.
+    const QImage first = pdf.render(0, QSize(298, 421));
+    int green = 0;
+    for (int y = 0; y < first.height(); ++y)
+        for (int x = 0; x < first.width(); ++x)
+            if (const QColor c = first.pixelColor(x, y); c.green() > 100 && c.red() < 40)
+                ++green;
+    EXPECT_GT(green, 100);
+}
+
+TEST(PageRenderer, PrintableRectangleIsTheMarginAndPagesScaleToTheirBounds) {
+    QTextDocument document;
+    document.setPlainText(QStringLiteral("Margin"));
+    const QRectF paper = PageRenderer::a4();
+    PageRenderer renderer(document, paper, paper.adjusted(72, 72, -72, -72));
+    ASSERT_EQ(renderer.numberOfPages(), 1);
+    QImage page(298, 421, QImage::Format_RGB32); // half size
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    renderer.drawPage(painter, 0, QRectF(0, 0, 297.6, 420.9));
+    painter.end();
+    QRect ink;
+    for (int y = 0; y < page.height(); ++y)
+        for (int x = 0; x < page.width(); ++x)
+            if (page.pixelColor(x, y) != QColor(Qt::white))
+                ink |= QRect(x, y, 1, 1);
+    ASSERT_FALSE(ink.isEmpty());
+    // One inch of margin on paper is half an inch (36 px here) on the half-size page.
+    EXPECT_GE(ink.left(), 35);
+    EXPECT_GE(ink.top(), 35);
+    EXPECT_LT(ink.top(), 60);
+}
