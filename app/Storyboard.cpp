@@ -16,6 +16,7 @@
 #include "screens/groups/YearBreakdownTableViewController.h"
 #include "screens/groups/YearGroupTableViewController.h"
 #include "screens/list/MainListTableViewController.h"
+#include "screens/overview/OverviewViewController.h"
 #include "screens/reference/ReferenceListScreens.h"
 #include "screens/reference/ReferenceListViewController.h"
 #include "screens/reference/ReferenceValueScreens.h"
@@ -38,6 +39,7 @@ void install() {
     push("ExportCoins", [] { return new ExportViewController; });
     push("ImportCoins", [] { return new ImportViewController; });
     push("CoinValuation", [] { return new ValuationViewController; });
+    push("Overview", [] { return new OverviewViewController; });
     // Reference lists: the hub, its three lists, their add screens and edit screens. Each list
     // owns the unwind its add and edit screens return by ("unwindToGradeTableView", ...).
     push("ReferenceLists", [] { return new ReferenceListViewController; });

@@ -1,0 +1,155 @@
+#include "../ScreenFixture.h"
+#include "platform/PdfViewer.h"
+#include "screens/overview/OverviewViewController.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QPdfDocument>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+static void loadOverviewResource() {
+    Q_INIT_RESOURCE(overview);
+}
+
+namespace {
+// The headings of the guide's source, in order, the title first.
+QStringList sourceHeadings() {
+    QFile source(QStringLiteral(PELVANE_SOURCE_DIR "/docs/overview/overview.md"));
+    EXPECT_TRUE(source.open(QIODevice::ReadOnly));
+    QStringList headings;
+    const QRegularExpression heading(QStringLiteral("^#+ +(.+)$"),
+                                     QRegularExpression::MultilineOption);
+    for (auto it = heading.globalMatch(QString::fromUtf8(source.readAll())); it.hasNext();)
+        headings.append(it.next().captured(1).trimmed());
+    return headings;
+}
+
+QString pageText(QPdfDocument& pdf, int page) {
+    return pdf.getAllText(page).text().simplified();
+}
+
+void wheel(PdfViewer* viewer, int notches, Qt::KeyboardModifiers modifiers) {
+    const QPointF at(viewer->viewport()->width() / 2.0, viewer->viewport()->height() / 2.0);
+    QWheelEvent event(at, viewer->viewport()->mapToGlobal(at), QPoint(), QPoint(0, 120 * notches),
+                      Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(viewer->viewport(), &event);
+}
+} // namespace
+
+class OverviewTest : public ScreenTest {
+protected:
+    OverviewViewController* open() {
+        menu->HandleButtonClick();
+        EXPECT_TRUE(menu->PelvaneOverviewButton->isEnabled());
+        QTest::mouseClick(menu->PelvaneOverviewButton, Qt::LeftButton);
+        return topAs<OverviewViewController>();
+    }
+};
+
+TEST_F(OverviewTest, OpensFromTheMenuWithTheGuideFittedToTheWidth) {
+    auto* screen = open();
+    ASSERT_NE(screen, nullptr);
+    EXPECT_EQ(screen->title(), "Pelvane Overview");
+    PdfViewer* viewer = screen->pdfView;
+    QPdfDocument* pdf = viewer->document();
+    ASSERT_EQ(pdf->status(), QPdfDocument::Status::Ready);
+    EXPECT_GE(pdf->pageCount(), 5);
+    EXPECT_LE(pdf->pageCount(), 9);
+    EXPECT_TRUE(pageText(*pdf, 0).startsWith(sourceHeadings().value(0)));
+    EXPECT_EQ(viewer->pageMode(), QPdfView::PageMode::MultiPage);
+    EXPECT_EQ(screen->PageLabel->text(), QStringLiteral("1 of %1").arg(pdf->pageCount()));
+    for (QWidget* control :
+         {static_cast<QWidget*>(viewer), static_cast<QWidget*>(screen->PageLabel)})
+        EXPECT_TRUE(control->styleSheet().contains("1px solid") &&
+                    control->styleSheet().contains("border-radius: 5px"));
+
+    // The page fills the width of the view, at phone and at desktop width.
+    for (const QSize size : {QSize(390, 844), QSize(1280, 800)}) {
+        window->resize(size);
+        QApplication::processEvents();
+        EXPECT_TRUE(viewer->autoScales());
+        const QMargins margins = viewer->documentMargins();
+        EXPECT_NEAR(viewer->scale() * pdf->pagePointSize(0).width(),
+                    viewer->viewport()->width() - margins.left() - margins.right(), 1.0);
+        EXPECT_EQ(viewer->horizontalScrollBar()->maximum(), 0);
+        EXPECT_GT(viewer->verticalScrollBar()->maximum(), 0);
+    }
+
+    // Scrolling to the end brings the last page and its number into view.
+    viewer->verticalScrollBar()->setValue(viewer->verticalScrollBar()->maximum());
+    QApplication::processEvents();
+    EXPECT_EQ(viewer->currentPage(), pdf->pageCount() - 1);
+    EXPECT_EQ(screen->PageLabel->text(), QStringLiteral("%1 of %1").arg(pdf->pageCount()));
+}
+
+TEST_F(OverviewTest, CtrlWheelZoomsWithinLimitsAndZoomingBackFitsTheWidthAgain) {
+    auto* screen = open();
+    ASSERT_NE(screen, nullptr);
+    PdfViewer* viewer = screen->pdfView;
+    QApplication::processEvents();
+    const qreal fitted = viewer->scale();
+
+    // A plain wheel scrolls and leaves the zoom alone.
+    wheel(viewer, -2, Qt::NoModifier);
+    EXPECT_GT(viewer->verticalScrollBar()->value(), 0);
+    EXPECT_DOUBLE_EQ(viewer->scale(), fitted);
+
+    wheel(viewer, 1, Qt::ControlModifier);
+    EXPECT_FALSE(viewer->autoScales());
+    EXPECT_NEAR(viewer->scale(), fitted * 1.15, fitted * 0.01);
+    EXPECT_GT(viewer->horizontalScrollBar()->maximum(), 0); // wider than the view now
+    wheel(viewer, 1, Qt::ControlModifier);
+    EXPECT_NEAR(viewer->scale(), fitted * 1.15 * 1.15, fitted * 0.01);
+    // A zoomed page keeps its size when the window changes.
+    window->resize(500, 844);
+    QApplication::processEvents();
+    EXPECT_NEAR(viewer->scale(), fitted * 1.15 * 1.15, fitted * 0.01);
+    window->resize(390, 844);
+    QApplication::processEvents();
+
+    wheel(viewer, -2, Qt::ControlModifier);
+    EXPECT_TRUE(viewer->autoScales());
+    EXPECT_DOUBLE_EQ(viewer->scale(), fitted);
+
+    // A pinch's scale goes the same way, bounded at half and six times the fitted width.
+    viewer->zoomBy(100);
+    EXPECT_NEAR(viewer->scale(), 6 * fitted, 1e-9);
+    viewer->zoomBy(0.001);
+    EXPECT_NEAR(viewer->scale(), 0.5 * fitted, 1e-9);
+    EXPECT_FALSE(viewer->autoScales());
+}
+
+TEST(OverviewDocument, BuiltGuideIsA4PagesWithEveryHeadingInOrderNoneEndingAPage) {
+    loadOverviewResource();
+    QFile resource(OverviewViewController::DocumentPath);
+    ASSERT_TRUE(resource.open(QIODevice::ReadOnly));
+    const QByteArray bytes = resource.readAll();
+    // "Arial" is set in Liberation Sans, embedded.
+    EXPECT_TRUE(bytes.contains("LiberationSans"));
+    EXPECT_TRUE(bytes.contains("/FontFile2"));
+
+    QPdfDocument pdf;
+    ASSERT_EQ(pdf.load(OverviewViewController::DocumentPath), QPdfDocument::Error::None);
+    ASSERT_GE(pdf.pageCount(), 5);
+    QString all;
+    for (int page = 0; page < pdf.pageCount(); ++page) {
+        EXPECT_NEAR(pdf.pagePointSize(page).width(), 595.2, 0.01);
+        EXPECT_NEAR(pdf.pagePointSize(page).height(), 841.8, 0.01);
+        const QString text = pageText(pdf, page);
+        EXPECT_FALSE(text.isEmpty()) << page;
+        for (const QString& heading : sourceHeadings())
+            EXPECT_FALSE(text.endsWith(heading)) << heading.toStdString() << " ends page " << page;
+        all += text + QLatin1Char(' ');
+    }
+    const QStringList headings = sourceHeadings();
+    ASSERT_GE(headings.size(), 8);
+    qsizetype at = 0;
+    for (const QString& heading : headings) {
+        const qsizetype found = all.indexOf(heading, at);
+        EXPECT_GE(found, at) << heading.toStdString();
+        if (found >= 0)
+            at = found + heading.size();
+    }
+}
