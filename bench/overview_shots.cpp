@@ -28,7 +28,7 @@ int main(int argc, char** argv) {
         const QString suffix = QStringLiteral("-%1%2").arg(width).arg(dark ? "-dark" : "");
         // Pages are drawn by a worker thread; give it time.
         auto shot = [&](const char* name) {
-            settle(600);
+            settle(1500);
             window.grab().save(out + "/" + name + suffix + ".png");
         };
         viewer->setAutoScales(true);
