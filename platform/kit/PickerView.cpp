@@ -1,5 +1,6 @@
 #include "platform/kit/PickerView.h"
 
+#include <QLineEdit>
 #include <QListWidget>
 #include <QVBoxLayout>
 
@@ -15,6 +16,11 @@ PickerView::PickerView(QWidget* parent)
     list_->setFont(f);
     connect(list_, &QListWidget::itemClicked, this,
             [this](QListWidgetItem* item) { pick(list_->row(item)); });
+    // Enter picks the row the arrow keys or typing went to (a click may activate as well).
+    connect(list_, &QListWidget::activated, this, [this](const QModelIndex& index) {
+        if (isOpen())
+            pick(index.row());
+    });
     hide();
 }
 
@@ -36,6 +42,12 @@ void PickerView::openFor(QWidget* field) {
     const QPoint below = field->mapToGlobal(QPoint(0, field->height()));
     setGeometry(below.x(), below.y(), std::max(field->width(), 200), 216);
     show();
+    // The keyboard starts on the field's value, or on the first row.
+    const auto* edit = qobject_cast<QLineEdit*>(field);
+    const QList<QListWidgetItem*> same =
+        edit ? list_->findItems(edit->text(), Qt::MatchExactly) : QList<QListWidgetItem*>();
+    list_->setCurrentRow(same.isEmpty() ? 0 : list_->row(same.first()));
+    list_->setFocus(Qt::PopupFocusReason);
 }
 
 void PickerView::close() {
