@@ -39,12 +39,12 @@ bool openOrTell(const QUrl& url, const DesktopWebBrowser::Opener& opener) {
     if (opener ? opener(url) : QDesktopServices::openUrl(url))
         return true;
     DesktopServices::tellUnavailable(
-        url.isLocalFile() ? QStringLiteral("Can't Open File") : QStringLiteral("Can't Open Web Page"),
-        url.isLocalFile()
-            ? QStringLiteral("No program is set up on this computer to open %1.")
-                  .arg(url.toLocalFile())
-            : QStringLiteral("No web browser is set up on this computer to open %1.")
-                  .arg(url.toDisplayString()));
+        url.isLocalFile() ? QStringLiteral("Can't Open File")
+                          : QStringLiteral("Can't Open Web Page"),
+        url.isLocalFile() ? QStringLiteral("No program is set up on this computer to open %1.")
+                                .arg(url.toLocalFile())
+                          : QStringLiteral("No web browser is set up on this computer to open %1.")
+                                .arg(url.toDisplayString()));
     return false;
 }
 } // namespace
@@ -64,9 +64,8 @@ bool DesktopMailComposer::canSendMail() {
     if (QStandardPaths::findExecutable(QStringLiteral("xdg-mime")).isEmpty())
         return true;
     QProcess query;
-    query.start(QStringLiteral("xdg-mime"),
-                {QStringLiteral("query"), QStringLiteral("default"),
-                 QStringLiteral("x-scheme-handler/mailto")});
+    query.start(QStringLiteral("xdg-mime"), {QStringLiteral("query"), QStringLiteral("default"),
+                                             QStringLiteral("x-scheme-handler/mailto")});
     if (!query.waitForFinished(3000)) {
         query.kill();
         query.waitForFinished(1000);

@@ -27,7 +27,8 @@ int main(int argc, char** argv) {
         painter.setRenderHint(QPainter::Antialiasing);
         svg.render(&painter);
         painter.end();
-        const QString dir = QStringLiteral("%1/%2x%2").arg(QString::fromLocal8Bit(argv[2])).arg(size);
+        const QString dir =
+            QStringLiteral("%1/%2x%2").arg(QString::fromLocal8Bit(argv[2])).arg(size);
         QDir().mkpath(dir);
         if (!image.save(dir + QLatin1Char('/') + name + QStringLiteral(".png"))) {
             std::fprintf(stderr, "render_icon: cannot write %s\n", qPrintable(dir));

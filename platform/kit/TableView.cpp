@@ -72,7 +72,7 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override {
         int section = 0, row = 0;
         return locate(index.row(), section, row) == 1 ? Qt::ItemIsEnabled | Qt::ItemIsSelectable
-                                                       : Qt::NoItemFlags;
+                                                      : Qt::NoItemFlags;
     }
     // kind: 0 header, 1 row, 2 footer
     int locate(int listRow, int& section, int& row) const {

@@ -175,7 +175,8 @@ void ViewController::takeKeyboardFocus() {
     if (AlertController::topmostOver(window()))
         return;
     // A screen that put the keyboard somewhere itself while appearing keeps it there.
-    if (QWidget* focus = window()->focusWidget(); focus && isAncestorOf(focus) && focus->isVisible())
+    if (QWidget* focus = window()->focusWidget();
+        focus && isAncestorOf(focus) && focus->isVisible())
         return;
     if (QWidget* w = preferredFocusWidget())
         w->setFocus(Qt::OtherFocusReason);

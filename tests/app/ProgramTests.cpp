@@ -47,8 +47,8 @@ TEST_F(PelvaneTest, CommandLineAnswersHelpAndVersionAndRefusesTheUnknown) {
         const Run r = run({help});
         EXPECT_EQ(r.exitCode, 0);
         EXPECT_TRUE(r.out.startsWith("Usage: pelvane [options]\n")) << qPrintable(r.out);
-        for (const char* option : {"--data-dir DIR", "--export FILE", "--import FILE", "--dark",
-                                   "--version"})
+        for (const char* option :
+             {"--data-dir DIR", "--export FILE", "--import FILE", "--dark", "--version"})
             EXPECT_TRUE(r.out.contains(option)) << option;
         EXPECT_TRUE(r.err.isEmpty());
     }
@@ -56,9 +56,9 @@ TEST_F(PelvaneTest, CommandLineAnswersHelpAndVersionAndRefusesTheUnknown) {
     EXPECT_EQ(version.exitCode, 0);
     EXPECT_EQ(version.out, "Pelvane " PELVANE_VERSION "\n");
 
-    for (const QStringList& wrong : {QStringList{"--colour"}, QStringList{"stray"},
-                                     QStringList{"--export"},
-                                     QStringList{"--export", "a", "--import", "b"}}) {
+    for (const QStringList& wrong :
+         {QStringList{"--colour"}, QStringList{"stray"}, QStringList{"--export"},
+          QStringList{"--export", "a", "--import", "b"}}) {
         const Run r = run(wrong);
         EXPECT_EQ(r.exitCode, 2) << qPrintable(wrong.join(' '));
         EXPECT_TRUE(r.out.isEmpty());

@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QTest>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -61,9 +62,8 @@ public:
             table = new TableView(this);
             table->registerCell("Cell", [] { return new Cell; });
             search = new SearchController;
-            search->placeAbove(table, "Search", [this](SearchController* s) {
-                rows.searches << s->text();
-            });
+            search->placeAbove(table, "Search",
+                               [this](SearchController* s) { rows.searches << s->text(); });
             table->setDataSource(&rows);
             layout->addWidget(table);
         }
@@ -98,7 +98,9 @@ protected:
         QApplication::processEvents();
         PelvaneTest::TearDown();
     }
-    Screen* top() { return static_cast<Screen*>(window->navigationController()->topViewController()); }
+    Screen* top() {
+        return static_cast<Screen*>(window->navigationController()->topViewController());
+    }
     QWidget* focus() { return window->focusWidget(); }
     // A key as the user presses it: to whatever has the keyboard.
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
@@ -121,7 +123,8 @@ TEST_F(KeyboardTest, AnAlertTakesTheKeyboardFromEverythingBehindIt) {
     ASSERT_EQ(shortcuts, 1); // the shortcut works while no alert is shown
 
     QStringList ran;
-    auto* confirm = new AlertController("Remove Front Coin Image", "Do You Want to Remove This Image?");
+    auto* confirm =
+        new AlertController("Remove Front Coin Image", "Do You Want to Remove This Image?");
     confirm->addAction("Yes", AlertController::ActionStyle::Default, [&] { ran << "Yes"; });
     confirm->addAction("No", AlertController::ActionStyle::Cancel, [&] { ran << "No"; });
     root->present(confirm);
@@ -172,7 +175,8 @@ TEST_F(KeyboardTest, AnAlertTakesTheKeyboardFromEverythingBehindIt) {
         EXPECT_EQ(root->clicks, 1);
     }
     // With several actions and none to cancel, Escape leaves the alert up.
-    auto* choice = new AlertController("Picture", "From where?", AlertController::Style::ActionSheet);
+    auto* choice =
+        new AlertController("Picture", "From where?", AlertController::Style::ActionSheet);
     choice->addAction("Camera");
     choice->addAction("Files");
     root->present(choice);
@@ -206,11 +210,13 @@ TEST_F(KeyboardTest, ScreensGoBackAndSaveByKey) {
     top()->navigationItem().leftItems = {
         {QStringLiteral("\u2039 Back"), [&] { ++unwound; }, nullptr, QStringLiteral("BackButton")}};
     top()->updateNavigationBar();
+    QApplication::processEvents(); // the bar shows its new items
     press(Qt::Key_Escape);
     EXPECT_EQ(unwound, 1);
 
     // No key reaches a screen while an alert is up.
-    root->present(AlertController::okAlert("Record not Saved!", "Required Fields in RED not Entered"));
+    root->present(
+        AlertController::okAlert("Record not Saved!", "Required Fields in RED not Entered"));
     QTest::keyClick(top()->button, Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(top()->saves, 0);
 }
