@@ -1,5 +1,7 @@
 #include "platform/kit/PickerView.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QVBoxLayout>
@@ -21,7 +23,22 @@ PickerView::PickerView(QWidget* parent)
         if (isOpen())
             pick(index.row());
     });
+    list_->installEventFilter(this);
     hide();
+}
+
+bool PickerView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != list_ || event->type() != QEvent::KeyPress)
+        return false;
+    auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() != Qt::Key_Tab && key->key() != Qt::Key_Backtab)
+        return false;
+    close();
+    if (field_) {
+        QKeyEvent tab(QEvent::KeyPress, key->key(), key->modifiers());
+        QApplication::sendEvent(field_, &tab);
+    }
+    return true;
 }
 
 QStringList PickerView::titles() const {

@@ -309,4 +309,10 @@ TEST_F(KeyboardTest, PickersWorkWithArrowsTypingAndEnter) {
     QTest::keyClick(choices, Qt::Key_Escape);
     EXPECT_FALSE(picker.isOpen());
     EXPECT_EQ(field->text(), "MS-60");
+    // Tab leaves the open picker for the next field.
+    QTest::keyClick(field, Qt::Key_Down);
+    ASSERT_TRUE(picker.isOpen());
+    QTest::keyClick(choices, Qt::Key_Tab);
+    EXPECT_FALSE(picker.isOpen());
+    EXPECT_EQ(window->focusWidget(), next);
 }
