@@ -6,45 +6,107 @@
 #include <QCommandLineParser>
 #include <QDir>
 
+namespace {
+// Every option once: its names, the name of its value (none for a switch), the line --help
+// shows, and what it sets.
+struct Option {
+    QStringList names;
+    QString valueName;
+    QString description;
+    void (*apply)(LaunchOptions&, const QString& value);
+};
+
+const QList<Option>& options() {
+    static const QList<Option> all = {
+        {{"data-dir"},
+         "DIR",
+         "Keep the collection and preferences in DIR.",
+         [](LaunchOptions& o, const QString& v) { o.dataDir = v; }},
+        {{"export"},
+         "FILE",
+         "Write the exchange file of the collection to FILE and exit.",
+         [](LaunchOptions& o, const QString& v) { o.exportFile = v; }},
+        {{"import"},
+         "FILE",
+         "Merge the exchange file FILE into the collection and exit.",
+         [](LaunchOptions& o, const QString& v) { o.importFile = v; }},
+        {{"dark"},
+         {},
+         "Use the dark appearance.",
+         [](LaunchOptions& o, const QString&) { o.dark = true; }},
+        {{"grab"},
+         "PNG",
+         "Save a picture of the window to PNG and quit.",
+         [](LaunchOptions& o, const QString& v) { o.grabFile = v; }},
+        {{"open-menu"},
+         {},
+         "Start with the menu opened.",
+         [](LaunchOptions& o, const QString&) { o.openMenu = true; }},
+        {{"h", "help"},
+         {},
+         "Show this help and exit.",
+         [](LaunchOptions& o, const QString&) { o.message = launchHelpText(); }},
+        {{"v", "version"},
+         {},
+         "Show the version and exit.",
+         [](LaunchOptions& o, const QString&) {
+             o.message = QStringLiteral("Pelvane " PELVANE_VERSION "\n");
+         }},
+    };
+    return all;
+}
+
+QString usageError(const QString& problem) {
+    return QStringLiteral("pelvane: %1\nUsage: pelvane [options]\n"
+                          "Try 'pelvane --help' for the options.")
+        .arg(problem);
+}
+} // namespace
+
+QString launchHelpText() {
+    QStringList left;
+    qsizetype width = 0;
+    for (const Option& o : options()) {
+        QStringList names;
+        for (const QString& n : o.names)
+            names << (n.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + n;
+        left << names.join(QStringLiteral(", ")) +
+                    (o.valueName.isEmpty() ? QString() : QLatin1Char(' ') + o.valueName);
+        width = std::max(width, left.last().size());
+    }
+    QString text = QStringLiteral("Usage: pelvane [options]\n"
+                                  "Pelvane, a catalogue of a coin collection. Without options it "
+                                  "opens the catalogue's window.\n\nOptions:\n");
+    for (qsizetype i = 0; i < left.size(); ++i)
+        text += QStringLiteral("  %1  %2\n")
+                    .arg(left[i].leftJustified(width), options()[i].description);
+    return text;
+}
+
 LaunchOptions parseLaunchOptions(const QStringList& arguments) {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Pelvane, a catalogue of a coin collection"));
-    parser.addHelpOption();
-    const QCommandLineOption dataDir(QStringLiteral("data-dir"),
-                                     QStringLiteral("Keep the collection and preferences in DIR."),
-                                     QStringLiteral("DIR"));
-    const QCommandLineOption exportFile(
-        QStringLiteral("export"), QStringLiteral("Write the exchange file of the collection."),
-        QStringLiteral("FILE"));
-    const QCommandLineOption importFile(
-        QStringLiteral("import"), QStringLiteral("Merge an exchange file into the collection."),
-        QStringLiteral("FILE"));
-    const QCommandLineOption grab(QStringLiteral("grab"),
-                                  QStringLiteral("Save a picture of the window and quit."),
-                                  QStringLiteral("PNG"));
-    const QCommandLineOption dark(QStringLiteral("dark"),
-                                  QStringLiteral("Use the dark appearance."));
-    const QCommandLineOption openMenu(QStringLiteral("open-menu"),
-                                      QStringLiteral("Start with the menu opened."));
-    parser.addOptions({dataDir, exportFile, importFile, grab, dark, openMenu});
-    LaunchOptions options;
+    QList<QCommandLineOption> parserOptions;
+    for (const Option& o : options())
+        parserOptions << QCommandLineOption(o.names, o.description, o.valueName);
+    parser.addOptions(parserOptions);
+    LaunchOptions launch;
     if (!parser.parse(arguments)) {
-        options.error = parser.errorText();
-        return options;
+        launch.error = usageError(parser.errorText());
+        return launch;
     }
-    if (parser.isSet(QStringLiteral("help"))) {
-        options.error = parser.helpText();
-        return options;
+    if (!parser.positionalArguments().isEmpty()) {
+        launch.error = usageError(
+            QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().first()));
+        return launch;
     }
-    options.dataDir = parser.value(dataDir);
-    options.exportFile = parser.value(exportFile);
-    options.importFile = parser.value(importFile);
-    options.grabFile = parser.value(grab);
-    options.dark = parser.isSet(dark);
-    options.openMenu = parser.isSet(openMenu);
-    if (!options.exportFile.isEmpty() && !options.importFile.isEmpty())
-        options.error = QStringLiteral("--export and --import cannot be combined");
-    return options;
+    for (qsizetype i = 0; i < options().size(); ++i)
+        if (parser.isSet(parserOptions[i]))
+            options()[i].apply(launch, parser.value(parserOptions[i]));
+    if (!launch.message.isEmpty())
+        return launch;
+    if (!launch.exportFile.isEmpty() && !launch.importFile.isEmpty())
+        launch.error = usageError(QStringLiteral("--export and --import cannot be combined."));
+    return launch;
 }
 
 void useDataDirectory(const QString& dir) {

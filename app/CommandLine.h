@@ -10,9 +10,12 @@ struct LaunchOptions {
     QString grabFile;      // --grab PNG: save a picture of the window after start-up and exit
     bool dark = false;     // --dark: the dark appearance, whatever the desktop says
     bool openMenu = false; // --open-menu: start with the menu opened (screenshots)
-    QString error;         // set when the arguments make no sense
+    QString message;       // --help, --version: printed on stdout, then the program exits with 0
+    QString error;         // set when the arguments make no sense: printed on stderr, exit 2
 };
 
 LaunchOptions parseLaunchOptions(const QStringList& arguments);
+// The text --help prints: the usage line and one line per option.
+QString launchHelpText();
 // Points the store and the preferences at DIR (created if missing).
 void useDataDirectory(const QString& dir);

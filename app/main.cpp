@@ -2,14 +2,13 @@
 #include "app/CommandLine.h"
 #include "app/Storyboard.h"
 #include "exchange/CommandLine.h"
-#include "platform/Fatal.h"
 #include "platform/kit/Appearance.h"
+#include "platform/kit/FatalMessage.h"
 #include "platform/kit/Window.h"
 #include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>
-#include <QMessageBox>
-#include <QThread>
+#include <QIcon>
 #include <QTimer>
 
 #include <cstdio>
@@ -40,6 +39,10 @@ int main(int argc, char** argv) {
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
     const LaunchOptions options = parseLaunchOptions(arguments);
+    if (!options.message.isEmpty()) {
+        std::fputs(qPrintable(options.message), stdout);
+        return 0;
+    }
     if (!options.error.isEmpty()) {
         std::fprintf(stderr, "%s\n", qPrintable(options.error));
         return 2;
@@ -48,12 +51,9 @@ int main(int argc, char** argv) {
         return runWithoutWindow(argc, argv, options);
 
     QApplication app(argc, argv);
-    // The window session shows a designed stop before the program ends; the stop itself
-    // (the report on stderr, the abort) follows as everywhere.
-    Fatal::setHandler([](const QString& message, const char*, int) {
-        if (QThread::currentThread() == qApp->thread())
-            QMessageBox::critical(nullptr, QStringLiteral("Fatal error"), message);
-    });
+    FatalMessage::installForWindowSession();
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.pelvane.Pelvane"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/pelvane.svg")));
     prepare(options);
     AppDelegate delegate;
     delegate.didFinishLaunching();

@@ -1,5 +1,8 @@
 #include "platform/DesktopServices.h"
 
+#include "platform/kit/AlertController.h"
+#include "platform/kit/Window.h"
+
 #include <QApplication>
 #include <QCamera>
 #include <QClipboard>
@@ -21,8 +24,55 @@
 #include <QVBoxLayout>
 #include <QVideoWidget>
 
+namespace {
+// The program's window to tell the user in: the active one, else the first main window shown.
+QWidget* programWindow() {
+    if (QWidget* active = QApplication::activeWindow(); active && qobject_cast<Window*>(active))
+        return active;
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (qobject_cast<Window*>(w) && w->isVisible())
+            return w;
+    return QApplication::activeWindow();
+}
+
+bool openOrTell(const QUrl& url, const DesktopWebBrowser::Opener& opener) {
+    if (opener ? opener(url) : QDesktopServices::openUrl(url))
+        return true;
+    DesktopServices::tellUnavailable(
+        url.isLocalFile() ? QStringLiteral("Can't Open File")
+                          : QStringLiteral("Can't Open Web Page"),
+        url.isLocalFile() ? QStringLiteral("No program is set up on this computer to open %1.")
+                                .arg(url.toLocalFile())
+                          : QStringLiteral("No web browser is set up on this computer to open %1.")
+                                .arg(url.toDisplayString()));
+    return false;
+}
+} // namespace
+
+namespace DesktopServices {
+void tellUnavailable(const QString& title, const QString& message) {
+    if (QWidget* window = programWindow())
+        AlertController::okAlert(title, message)->showOver(window);
+}
+} // namespace DesktopServices
+
 bool DesktopMailComposer::canSendMail() {
-    return !QStandardPaths::findExecutable(QStringLiteral("xdg-email")).isEmpty();
+    if (QStandardPaths::findExecutable(QStringLiteral("xdg-email")).isEmpty())
+        return false;
+    // xdg-email hands the message to the program set up for mailto: addresses; with none it
+    // fails after the fact, so ask first.
+    if (QStandardPaths::findExecutable(QStringLiteral("xdg-mime")).isEmpty())
+        return true;
+    QProcess query;
+    query.start(QStringLiteral("xdg-mime"), {QStringLiteral("query"), QStringLiteral("default"),
+                                             QStringLiteral("x-scheme-handler/mailto")});
+    if (!query.waitForFinished(3000)) {
+        query.kill();
+        query.waitForFinished(1000);
+        return true; // slow to answer is no proof of absence
+    }
+    return query.exitStatus() == QProcess::NormalExit && query.exitCode() == 0 &&
+           !query.readAllStandardOutput().trimmed().isEmpty();
 }
 
 void DesktopMailComposer::compose(const MailMessage& m, QWidget*, std::function<void()> finished) {
@@ -39,7 +89,10 @@ void DesktopMailComposer::compose(const MailMessage& m, QWidget*, std::function<
             args << QStringLiteral("--attach") << f.fileName();
     }
     args << m.recipients;
-    QProcess::startDetached(QStringLiteral("xdg-email"), args);
+    if (!QProcess::startDetached(QStringLiteral("xdg-email"), args))
+        DesktopServices::tellUnavailable(QStringLiteral("Can't Send Email"),
+                                         QStringLiteral("The mail program of this computer could "
+                                                        "not be started."));
     if (finished)
         finished();
 }
@@ -64,10 +117,9 @@ void DesktopShareSheet::present(const QList<ShareItem>& items, const QStringList
                 dialog->open();
             });
             menu->addAction(QStringLiteral("Open"),
-                            [path] { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
+                            [path] { openOrTell(QUrl::fromLocalFile(path), {}); });
         } else if (!item.url.isEmpty()) {
-            menu->addAction(QStringLiteral("Open"),
-                            [url = item.url] { QDesktopServices::openUrl(url); });
+            menu->addAction(QStringLiteral("Open"), [url = item.url] { openOrTell(url, {}); });
         }
         if (!excluded.contains(ShareSheet::CopyToPasteboard)) {
             if (!item.image.isNull())
@@ -90,11 +142,14 @@ void DesktopShareSheet::present(const QList<ShareItem>& items, const QStringList
     menu->popup(at ? at->mapToGlobal(at->rect().center()) : QPoint());
 }
 
+DesktopWebBrowser::DesktopWebBrowser(Opener opener)
+    : opener_(std::move(opener)) {}
+
 void DesktopWebBrowser::openInApp(const QUrl& url) {
-    QDesktopServices::openUrl(url);
+    openOrTell(url, opener_);
 }
 void DesktopWebBrowser::openExternally(const QUrl& url) {
-    QDesktopServices::openUrl(url);
+    openOrTell(url, opener_);
 }
 
 bool DesktopImagePicker::isCameraAvailable() {

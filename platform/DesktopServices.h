@@ -2,6 +2,14 @@
 // The desktop implementations of the platform services.
 #include "platform/Services.h"
 
+// When the desktop cannot do what was asked (no web browser, no mail program), the user is told
+// so by an alert over the program's window.
+namespace DesktopServices {
+void tellUnavailable(const QString& title, const QString& message);
+} // namespace DesktopServices
+
+// Mail goes to the desktop's mail program through xdg-email; it can be sent when that is
+// installed and a program is set up for mailto: addresses.
 class DesktopMailComposer : public MailComposer {
 public:
     bool canSendMail() override;
@@ -23,8 +31,14 @@ public:
 
 class DesktopWebBrowser : public WebBrowser {
 public:
+    // How an address is handed to the desktop: true when something there took it.
+    using Opener = std::function<bool(const QUrl&)>;
+    explicit DesktopWebBrowser(Opener opener = {});
     void openInApp(const QUrl& url) override;
     void openExternally(const QUrl& url) override;
+
+private:
+    Opener opener_;
 };
 
 class DesktopImagePicker : public ImagePicker {

@@ -13,6 +13,7 @@ packages=(
   libgtest-dev libgmock-dev
   fonts-liberation
   xvfb xauth poppler-utils
+  appstream desktop-file-utils
   clang-format
 )
 

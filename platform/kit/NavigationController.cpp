@@ -3,7 +3,9 @@
 #include "platform/kit/Symbols.h"
 #include "platform/kit/ViewController.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -78,6 +80,8 @@ void NavigationController::pushViewController(ViewController* screen, bool anima
     if (previous)
         previous->viewWillDisappear(animated);
     screen->viewWillAppear(animated);
+    if (previous)
+        previous->releaseKeyboardFocus(this);
     screens_.append(screen);
     stack_->addWidget(screen);
     stack_->setCurrentWidget(screen);
@@ -85,6 +89,8 @@ void NavigationController::pushViewController(ViewController* screen, bool anima
     if (previous)
         previous->viewDidDisappear(animated);
     screen->viewDidAppear(animated);
+    if (previous)
+        screen->takeKeyboardFocus();
 }
 
 ViewController* NavigationController::popViewController(bool animated) {
@@ -103,6 +109,7 @@ void NavigationController::popToViewController(ViewController* screen, bool anim
     ViewController* leaving = topViewController();
     leaving->viewWillDisappear(animated);
     screen->viewWillAppear(animated);
+    leaving->releaseKeyboardFocus(this);
     stack_->setCurrentWidget(screen);
     while (screens_.size() > index + 1) {
         QPointer<ViewController> gone = screens_.takeLast();
@@ -117,6 +124,7 @@ void NavigationController::popToViewController(ViewController* screen, bool anim
     }
     refreshBar();
     screen->viewDidAppear(animated);
+    screen->takeKeyboardFocus();
 }
 
 void NavigationController::popToRootViewController(bool animated) {
@@ -185,4 +193,26 @@ void NavigationController::setRootViewController(ViewController* screen) {
     stack_->addWidget(screen);
     stack_->setCurrentWidget(screen);
     refreshBar();
+}
+
+bool NavigationController::goBack() {
+    if (bar_->isHidden())
+        return false;
+    for (auto* button : bar_->findChildren<QAbstractButton*>(QStringLiteral("BackButton")))
+        if (button->isVisibleTo(bar_) && button->isEnabled()) {
+            button->click();
+            return true;
+        }
+    return false;
+}
+
+void NavigationController::keyPressEvent(QKeyEvent* event) {
+    ViewController* top = topViewController();
+    QWidget* focus = QApplication::focusWidget();
+    // A key from inside the top screen was offered to it already.
+    if (top && !(focus && top->isAncestorOf(focus)) && top->handleKeyCommand(event)) {
+        event->accept();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }

@@ -42,6 +42,13 @@ public:
 
     // Tests press the back button through this.
     QToolButton* backButton() const { return back_; }
+    // Clicks the back button the bar shows: the stack's own, or a screen's bar item named
+    // "BackButton" in its place. False when the bar shows none.
+    bool goBack();
+
+protected:
+    // Keys from the bar's buttons go to the screen on top.
+    void keyPressEvent(class QKeyEvent* event) override;
 
 private:
     QWidget* bar_;

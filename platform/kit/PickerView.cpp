@@ -1,5 +1,8 @@
 #include "platform/kit/PickerView.h"
 
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QVBoxLayout>
 
@@ -15,7 +18,27 @@ PickerView::PickerView(QWidget* parent)
     list_->setFont(f);
     connect(list_, &QListWidget::itemClicked, this,
             [this](QListWidgetItem* item) { pick(list_->row(item)); });
+    // Enter picks the row the arrow keys or typing went to (a click may activate as well).
+    connect(list_, &QListWidget::activated, this, [this](const QModelIndex& index) {
+        if (isOpen())
+            pick(index.row());
+    });
+    list_->installEventFilter(this);
     hide();
+}
+
+bool PickerView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != list_ || event->type() != QEvent::KeyPress)
+        return false;
+    auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() != Qt::Key_Tab && key->key() != Qt::Key_Backtab)
+        return false;
+    close();
+    if (field_) {
+        QKeyEvent tab(QEvent::KeyPress, key->key(), key->modifiers());
+        QApplication::sendEvent(field_, &tab);
+    }
+    return true;
 }
 
 QStringList PickerView::titles() const {
@@ -36,6 +59,12 @@ void PickerView::openFor(QWidget* field) {
     const QPoint below = field->mapToGlobal(QPoint(0, field->height()));
     setGeometry(below.x(), below.y(), std::max(field->width(), 200), 216);
     show();
+    // The keyboard starts on the field's value, or on the first row.
+    const auto* edit = qobject_cast<QLineEdit*>(field);
+    const QList<QListWidgetItem*> same =
+        edit ? list_->findItems(edit->text(), Qt::MatchExactly) : QList<QListWidgetItem*>();
+    list_->setCurrentRow(same.isEmpty() ? 0 : list_->row(same.first()));
+    list_->setFocus(Qt::PopupFocusReason);
 }
 
 void PickerView::close() {

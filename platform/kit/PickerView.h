@@ -29,6 +29,10 @@ public:
     void pick(int row);
     QStringList titles() const;
 
+protected:
+    // Tab leaves the picker for the next field, as it would from the field itself.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     PickerViewDataSource* source_ = nullptr;
     QListWidget* list_;

@@ -4,6 +4,7 @@
 #include "platform/kit/TableView.h"
 
 #include <QAction>
+#include <QKeyEvent>
 
 SearchController::SearchController(QWidget* parent)
     : QLineEdit(parent) {
@@ -45,6 +46,16 @@ void SearchController::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
     if (!active_)
         setActive(true); // the updater hears of the search starting, before any keystroke
+}
+
+void SearchController::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier && !text().isEmpty())
+        if (auto* clearAction = findChild<QAction*>(QStringLiteral("ClearButton"))) {
+            clearAction->trigger();
+            event->accept();
+            return;
+        }
+    QLineEdit::keyPressEvent(event);
 }
 
 void SearchController::placeAbove(TableView* table, const QString& placeholder,

@@ -22,6 +22,8 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    // Escape empties the field as its clear button does.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     bool active_ = false;

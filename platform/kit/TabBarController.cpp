@@ -46,12 +46,16 @@ void TabBarController::setSelectedIndex(int index) {
         leaving->viewWillDisappear(false);
     if (showing)
         showing->viewWillAppear(false);
+    if (leaving)
+        leaving->releaseKeyboardFocus(this);
     stack_->setCurrentIndex(index);
     bar_->setCurrentIndex(index);
     if (leaving)
         leaving->viewDidDisappear(false);
     if (showing)
         showing->viewDidAppear(false);
+    if (showing && isVisible())
+        showing->takeKeyboardFocus();
 }
 
 NavigationController* TabBarController::tab(int index) const {
@@ -86,4 +90,9 @@ void TabBarController::viewWillDisappear(bool animated) {
 void TabBarController::viewDidDisappear(bool animated) {
     if (ViewController* screen = selectedScreen())
         screen->viewDidDisappear(animated);
+}
+
+QWidget* TabBarController::preferredFocusWidget() {
+    ViewController* screen = selectedScreen();
+    return screen ? screen->preferredFocusWidget() : this;
 }

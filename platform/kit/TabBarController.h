@@ -20,6 +20,9 @@ public:
     // The top screen of the selected tab.
     ViewController* selectedScreen() const;
 
+    // The selected tab's screen takes the keyboard.
+    QWidget* preferredFocusWidget() override;
+
     // Passed on to the screen on top of the selected tab.
     void viewWillAppear(bool animated) override;
     void viewDidAppear(bool animated) override;

@@ -2,8 +2,10 @@
 
 #include <QAbstractListModel>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -20,8 +22,10 @@ constexpr int kSwipeThreshold = 30;
 
 TableViewCell::TableViewCell(QWidget* parent)
     : QWidget(parent) {
-    // Cells are drawn into the table, never shown as windows of their own.
+    // Cells are drawn into the table, never shown as windows of their own. Shown off screen they
+    // still count as open windows, which kept the program running after its window closed.
     setAttribute(Qt::WA_DontShowOnScreen);
+    setAttribute(Qt::WA_QuitOnClose, false);
 }
 
 // Flattens sections into list rows: [header] rows... [footer] per section.
@@ -64,6 +68,12 @@ public:
         return parent.isValid() ? 0 : total_;
     }
     QVariant data(const QModelIndex&, int) const override { return {}; }
+    // Headers and footers are passed over by the arrow keys.
+    Qt::ItemFlags flags(const QModelIndex& index) const override {
+        int section = 0, row = 0;
+        return locate(index.row(), section, row) == 1 ? Qt::ItemIsEnabled | Qt::ItemIsSelectable
+                                                      : Qt::NoItemFlags;
+    }
     // kind: 0 header, 1 row, 2 footer
     int locate(int listRow, int& section, int& row) const {
         for (int i = int(sections_.size()) - 1; i >= 0; --i) {
@@ -166,9 +176,22 @@ public:
         painter->setClipRect(QRect(r.left(), r.top(), r.width() - shift, r.height()));
         painter->drawPixmap(r.left() - shift, r.top(), image);
         painter->restore();
+        if (table_->keyboardMark_ && (option.state & QStyle::State_HasFocus))
+            paintKeyboardMark(painter, option, r);
     }
 
 private:
+    // The row the arrow keys are on: a ring in the highlight colour around the cell.
+    static void paintKeyboardMark(QPainter* painter, const QStyleOptionViewItem& option,
+                                  const QRect& r) {
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(QPen(option.palette.color(QPalette::Highlight), 3));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(QRectF(r).adjusted(1.5, 1.5, -1.5, -1.5), 10, 10);
+        painter->restore();
+    }
+
     TableView* table_;
 };
 
@@ -287,6 +310,8 @@ TableView::TableView(QWidget* parent)
     list_->setFrameShape(QFrame::NoFrame);
     swipeFilter_ = new SwipeFilter(this);
     list_->viewport()->installEventFilter(swipeFilter_);
+    list_->installEventFilter(this);
+    list_->viewport()->installEventFilter(this);
     QScroller::grabGesture(list_->viewport(), QScroller::TouchGesture);
 }
 
@@ -411,6 +436,81 @@ void TableView::setRevealedRow(int row) {
     list_->viewport()->update();
 }
 
+bool TableView::focusSearchField() {
+    auto* field = qobject_cast<QLineEdit*>(header_);
+    if (!field || !field->isVisible())
+        return false;
+    field->setFocus(Qt::ShortcutFocusReason);
+    return true;
+}
+
+std::optional<IndexPath> TableView::currentRow() const {
+    bool isRow = false;
+    const QModelIndex current = list_->currentIndex();
+    const IndexPath path = pathForListRow(current.row(), &isRow);
+    return current.isValid() && isRow ? std::optional(path) : std::nullopt;
+}
+
+bool TableView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == list_->viewport() && event->type() == QEvent::MouseButtonPress)
+        keyboardMark_ = false;
+    if (watched == list_ && event->type() == QEvent::KeyPress)
+        return handleListKey(static_cast<QKeyEvent*>(event));
+    return false;
+}
+
+bool TableView::handleListKey(QKeyEvent* event) {
+    const Qt::KeyboardModifiers commandKeys =
+        Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        keyboardMark_ = true;
+        list_->viewport()->update();
+        return false; // the list moves its current row itself
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (const auto path = currentRow())
+            selectRow(*path);
+        return true;
+    case Qt::Key_Delete:
+    case Qt::Key_Backspace:
+        if (currentRow()) {
+            const int row = list_->currentIndex().row();
+            const QRect rect = list_->visualRect(list_->currentIndex());
+            showActionsMenu(row, list_->viewport()->mapToGlobal(rect.center()));
+        }
+        return true;
+    default:
+        break;
+    }
+    // Typing goes on in the search field, as if it had been typed there.
+    const QString text = event->text();
+    if (!text.isEmpty() && text.at(0).isPrint() && !(event->modifiers() & commandKeys) &&
+        focusSearchField()) {
+        QApplication::sendEvent(header_, event);
+        return true;
+    }
+    return false;
+}
+
+void TableView::keyPressEvent(QKeyEvent* event) {
+    // From the search field: Escape (after it emptied the field) and Down go to the rows.
+    const bool fromSearch = header_ && header_->hasFocus();
+    if (fromSearch && (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Down) &&
+        event->modifiers() == Qt::NoModifier && model_->rowCount() > 0) {
+        keyboardMark_ = event->key() == Qt::Key_Down;
+        list_->setFocus(Qt::OtherFocusReason);
+        event->accept();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
 void TableView::showActionsMenu(int row, QPoint globalPos) {
     bool isRow = false;
     const IndexPath path = pathForListRow(row, &isRow);
@@ -425,5 +525,8 @@ void TableView::showActionsMenu(int row, QPoint globalPos) {
         const QString title = a.title;
         menu->addAction(title, this, [this, path, title] { triggerSwipeAction(path, title); });
     }
+    // Enter takes the first action at once when the menu was opened from the keyboard.
+    if (list_->hasFocus())
+        menu->setActiveAction(menu->actions().value(0));
     menu->popup(globalPos);
 }

@@ -6,6 +6,7 @@
 #include <QListView>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 class QAbstractItemModel;
 class QVBoxLayout;
@@ -94,7 +95,18 @@ public:
     int revealedRow() const { return revealed_; }
     void setRevealedRow(int row);
 
+    // Keyboard: arrows move the current row, Enter opens it as a tap, Delete offers its swipe
+    // actions, typing goes on in the search field above, and Escape there clears it.
+    bool focusSearchField();
+    // The row the keyboard is on, if any.
+    std::optional<IndexPath> currentRow() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(class QKeyEvent* event) override;
+
 private:
+    bool handleListKey(class QKeyEvent* event);
     friend class TableDelegate;
     friend class TableModel;
     friend class SwipeFilter;
@@ -114,4 +126,6 @@ private:
     qreal headerPoints_ = 13;
     int revealed_ = -1;
     int cellsRequested_ = 0;
+    // The current row is marked only once the keyboard moved it, not for mouse and touch.
+    bool keyboardMark_ = false;
 };

@@ -2,6 +2,7 @@
 
 #include "platform/kit/PickerView.h"
 
+#include <QKeyEvent>
 #include <QTextCursor>
 
 namespace TextInput {
@@ -69,6 +70,17 @@ void TextField::mousePressEvent(QMouseEvent* event) {
     QLineEdit::mousePressEvent(event);
     if (picker_ && !picker_->isOpen())
         picker_->openFor(this);
+}
+
+void TextField::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    if (picker_ && !picker_->isOpen() &&
+        (key == Qt::Key_Down || key == Qt::Key_F4 || key == Qt::Key_Space)) {
+        picker_->openFor(this);
+        event->accept();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
 }
 
 void TextField::focusOutEvent(QFocusEvent* event) {

@@ -47,6 +47,8 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    // Down, Alt+Down, F4 or Space open a closed picker again.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void onEdited(const QString& text);

@@ -2,7 +2,9 @@
 
 #include "platform/kit/AlertController.h"
 #include "platform/kit/NavigationController.h"
+#include "platform/kit/TableView.h"
 
+#include <QKeyEvent>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -110,6 +112,7 @@ void ViewController::present(ViewController* screen) {
     nav->pushViewController(screen, false);
     nav->show();
     nav->raise();
+    screen->takeKeyboardFocus();
 }
 
 void ViewController::dismiss() {
@@ -118,6 +121,8 @@ void ViewController::dismiss() {
         return;
     nav->hide();
     nav->deleteLater();
+    if (ViewController* presenter = nav->presentingViewController())
+        presenter->takeKeyboardFocus();
 }
 
 void ViewController::present(AlertController* alert) {
@@ -135,4 +140,58 @@ void ViewController::after(int ms, std::function<void()> f) {
         if (self)
             f();
     });
+}
+
+void ViewController::addKeyCommand(QKeySequence::StandardKey key, std::function<void()> action) {
+    keyCommands_.append({key, std::move(action)});
+}
+
+bool ViewController::handleKeyCommand(QKeyEvent* event) {
+    for (const auto& [key, action] : keyCommands_)
+        if (event->matches(key)) {
+            action();
+            return true;
+        }
+    if (event->matches(QKeySequence::Find))
+        if (auto* table = findChild<TableView*>(); table && table->isVisible())
+            return table->focusSearchField();
+    const bool back = event->matches(QKeySequence::Back) ||
+                      (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier);
+    return back && goBack();
+}
+
+bool ViewController::goBack() {
+    NavigationController* nav = navigationController();
+    return nav && nav->topViewController() == this && nav->goBack();
+}
+
+QWidget* ViewController::preferredFocusWidget() {
+    if (auto* table = findChild<TableView*>())
+        return table->listView();
+    return this;
+}
+
+void ViewController::takeKeyboardFocus() {
+    if (AlertController::topmostOver(window()))
+        return;
+    // A screen that put the keyboard somewhere itself while appearing keeps it there.
+    if (QWidget* focus = window()->focusWidget();
+        focus && isAncestorOf(focus) && focus->isVisible())
+        return;
+    if (QWidget* w = preferredFocusWidget())
+        w->setFocus(Qt::OtherFocusReason);
+}
+
+void ViewController::releaseKeyboardFocus(QWidget* holder) {
+    // Otherwise hiding the screen hands the keyboard to whatever widget comes next, which may
+    // be a field of the next screen that starts editing or searching when focused.
+    if (QWidget* focus = window()->focusWidget(); focus && isAncestorOf(focus))
+        holder->setFocus(Qt::OtherFocusReason);
+}
+
+void ViewController::keyPressEvent(QKeyEvent* event) {
+    if (handleKeyCommand(event))
+        event->accept();
+    else
+        QWidget::keyPressEvent(event);
 }

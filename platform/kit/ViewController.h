@@ -5,6 +5,7 @@
 #include "platform/kit/Storyboard.h"
 
 #include <QHash>
+#include <QKeySequence>
 #include <QList>
 #include <QPointer>
 #include <QWidget>
@@ -75,6 +76,23 @@ public:
     // Runs f on the main thread after ms milliseconds, unless the screen has gone by then.
     void after(int ms, std::function<void()> f);
 
+    // Keyboard. A key nothing inside the screen used comes here: first the screen's own
+    // commands (Ctrl+S for a form's Save), then Ctrl+F to the search field, then Escape and
+    // Alt+Left back where the back button would go. True when the key was used.
+    void addKeyCommand(QKeySequence::StandardKey key, std::function<void()> action);
+    bool handleKeyCommand(class QKeyEvent* event);
+    // Goes back as the visible back button of the screen's bar would; false when there is none.
+    bool goBack();
+    // Where the keyboard goes when the screen comes to the front: its list, if it has one.
+    virtual QWidget* preferredFocusWidget();
+    // Gives the keyboard to the screen, unless an alert holds it.
+    void takeKeyboardFocus();
+    // Before the screen is hidden: the keyboard waits in `holder` for the next screen.
+    void releaseKeyboardFocus(QWidget* holder);
+
+protected:
+    void keyPressEvent(class QKeyEvent* event) override;
+
 private:
     friend class NavigationController;
     bool loaded_ = false;
@@ -82,4 +100,5 @@ private:
     NavigationItem navigationItem_;
     QHash<QString, std::function<void(StoryboardSegue&)>> unwinds_;
     QPointer<AlertController> alert_;
+    QList<std::pair<QKeySequence::StandardKey, std::function<void()>>> keyCommands_;
 };

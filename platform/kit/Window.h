@@ -11,6 +11,13 @@ class Window : public QWidget {
 public:
     explicit Window(ViewController* root, QWidget* parent = nullptr);
     NavigationController* navigationController() const { return nav_; }
+    // The screen the user sees in front: the top of the last stack presented (or of the
+    // window's own), in a tab bar the selected tab's.
+    ViewController* frontScreen() const;
+
+protected:
+    // Keys that found no focused widget go to the screen in front.
+    void keyPressEvent(class QKeyEvent* event) override;
 
 private:
     NavigationController* nav_;

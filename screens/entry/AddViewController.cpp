@@ -8,6 +8,7 @@
 AddViewController::AddViewController(QWidget* parent)
     : CoinFormViewController(parent) {
     connect(SaveButton, &QPushButton::clicked, this, &AddViewController::SaveNewCardButtonClicked);
+    addKeyCommand(QKeySequence::Save, [this] { SaveNewCardButtonClicked(); });
     connect(FrontRemoveButton, &QPushButton::clicked, this, &AddViewController::RemoveFrontImage);
     connect(RearRemoveButton, &QPushButton::clicked, this, &AddViewController::RemoveBackImage);
 }

@@ -26,6 +26,7 @@ EditViewController::EditViewController(QWidget* parent)
     NotesButton->setObjectName(QStringLiteral("NotesButton"));
     form_->addRow(QString(), NotesButton);
     connect(SaveButton, &QPushButton::clicked, this, &EditViewController::SaveButtonClicked);
+    addKeyCommand(QKeySequence::Save, [this] { SaveButtonClicked(); });
     connect(FrontRemoveButton, &QPushButton::clicked, this, &EditViewController::RemoveFrontImage);
     connect(RearRemoveButton, &QPushButton::clicked, this, &EditViewController::RemoveBackImage);
     connect(NotesButton, &QPushButton::clicked, this,

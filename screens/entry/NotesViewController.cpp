@@ -20,6 +20,7 @@ NotesViewController::NotesViewController(QWidget* parent)
     layout->addWidget(NotesTextView, 1);
     layout->addWidget(SaveButton);
     connect(SaveButton, &QPushButton::clicked, this, &NotesViewController::SaveButtonClicked);
+    addKeyCommand(QKeySequence::Save, [this] { SaveButtonClicked(); });
 }
 
 void NotesViewController::viewDidLoad() {

@@ -26,6 +26,7 @@ ReferenceValueViewController::ReferenceValueViewController(const ReferenceValueK
     layout->addWidget(SaveButton);
     layout->addStretch();
     connect(SaveButton, &QPushButton::clicked, this, [this] { save(); });
+    addKeyCommand(QKeySequence::Save, [this] { save(); });
 }
 
 void ReferenceValueViewController::setUpField(const QString& title) {

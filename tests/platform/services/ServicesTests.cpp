@@ -1,4 +1,5 @@
 #include "TestSupport.h"
+#include "platform/DesktopServices.h"
 #include "platform/Files.h"
 #include "platform/ImageCoding.h"
 #include "platform/fakes/Fakes.h"
@@ -8,6 +9,7 @@
 #include <QFile>
 #include <QImageWriter>
 #include <QPainter>
+#include <QTemporaryDir>
 
 TEST(ImageCoding, PhotosAreStoredAsSquareJpegs) {
     QImage photo(4000, 3000, QImage::Format_RGB32);
@@ -125,4 +127,27 @@ TEST(ImageCoding, ForgedSizesAreRefusedBeforeDecoding) {
     EXPECT_TRUE(ImageCoding::decode(jpegClaiming(40000, 10)).isNull());
     EXPECT_FALSE(ImageCoding::decode(jpegClaiming(8, 8)).isNull());
     EXPECT_FALSE(ImageCoding::reencodeJpeg(jpegClaiming(8, 8), 0.6).isEmpty());
+}
+
+// Mail can be sent only where xdg-email is installed and a program is set up for mailto:
+// addresses; the desktop's own tools answer, here stand-ins on the PATH.
+TEST(Platform, MailNeedsAMailProgramSetUp) {
+    QTemporaryDir bin;
+    auto script = [&](const char* name, const QByteArray& body) {
+        QFile f(bin.filePath(QString::fromLatin1(name)));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write("#!/bin/sh\n" + body);
+        f.close();
+        f.setPermissions(f.permissions() | QFileDevice::ExeOwner);
+    };
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", bin.path().toLocal8Bit());
+    DesktopMailComposer mail;
+    EXPECT_FALSE(mail.canSendMail()); // no xdg-email at all
+    script("xdg-email", "exit 0\n");
+    script("xdg-mime", "exit 0\n"); // answers with no program
+    EXPECT_FALSE(mail.canSendMail());
+    script("xdg-mime", "echo thunderbird.desktop\n");
+    EXPECT_TRUE(mail.canSendMail());
+    qputenv("PATH", path);
 }

@@ -1,0 +1,166 @@
+// The program as a desktop user meets it: keys on the real screens, closing the window, a
+// desktop without a web browser, a designed stop told in the window.
+#include "ScreenFixture.h"
+#include "platform/DesktopServices.h"
+#include "platform/kit/FatalMessage.h"
+#include "screens/entry/AddViewController.h"
+#include "screens/entry/EditViewController.h"
+#include "screens/list/MainListTableViewController.h"
+
+#include <QElapsedTimer>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <thread>
+
+class DesktopTest : public ScreenTest {
+protected:
+    void SetUp() override {
+        ScreenTest::SetUp();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QWidget* focus = window->focusWidget();
+        QTest::keyClick(focus ? focus : window.get(), Qt::Key(key), modifiers);
+        QApplication::processEvents();
+    }
+};
+
+TEST_F(DesktopTest, TheMainListAndTheAddFormAnswerTheKeyboard) {
+    addCoin("Penny", 1950);
+    addCoin("Dime", 1960);
+    menu->performSegue("ListCoins");
+    auto* list = topAs<MainListTableViewController>();
+    ASSERT_NE(list, nullptr);
+    EXPECT_EQ(window->focusWidget(), list->tableView->listView());
+
+    // Typing searches; Escape clears the search and then goes down to the rows.
+    QTest::keyClicks(window->focusWidget(), "Di");
+    EXPECT_EQ(list->searchController->text(), "Di");
+    EXPECT_TRUE(list->searchController->isActive());
+    press(Qt::Key_Escape);
+    EXPECT_EQ(list->searchController->text(), "");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(window->focusWidget(), list->tableView->listView());
+
+    // Delete offers the swipe's action for the row the arrows are on.
+    press(Qt::Key_Down);
+    const IndexPath second = *list->tableView->currentRow();
+    const QString gone = list->CoinList.at(second.row)->denomination();
+    press(Qt::Key_Delete);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    QTest::keyClick(menu, Qt::Key_Return);
+    QApplication::processEvents();
+    ASSERT_EQ(all<Coins>().size(), 1);
+    EXPECT_NE(all<Coins>().first()->denomination(), gone);
+
+    // Enter opens the row as a tap does; Escape comes back.
+    press(Qt::Key_Up);
+    press(Qt::Key_Return);
+    ASSERT_NE(topAs<EditViewController>(), nullptr);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(top(), list);
+
+    // Ctrl+S is the form's Save: with the required fields empty it says so and saves nothing.
+    list->performSegue("AddCoin");
+    auto* add = topAs<AddViewController>();
+    ASSERT_NE(add, nullptr);
+    press(Qt::Key_S, Qt::ControlModifier);
+    ASSERT_NE(AlertController::current(), nullptr);
+    EXPECT_EQ(AlertController::current()->title(), "Record not Saved!");
+    press(Qt::Key_Return);
+    EXPECT_EQ(AlertController::current(), nullptr);
+    add->DenominationTextField->setFocus();
+    QTest::keyClicks(add->DenominationTextField, "Nickel");
+    add->YearTextField->setFocus();
+    QTest::keyClicks(add->YearTextField, "1970");
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(top(), list);
+    EXPECT_EQ(all<Coins>().size(), 2);
+}
+
+// The window closing ends the program on every screen, also where rows were drawn.
+TEST_F(DesktopTest, ClosingTheWindowEndsTheProgramWhicheverScreenShows) {
+    addCoin("Penny", 1950);
+    for (const char* segue : {"", "ListCoins", "RateShare", "TabBarController"}) {
+        window = std::make_unique<Window>(menu = new MainMenuViewController);
+        window->show();
+        if (*segue)
+            menu->performSegue(segue);
+        window->grab(); // the rows are drawn, as on screen
+        bool stuck = false;
+        QTimer guard; // gone with this round, so it never fires into the next
+        guard.setSingleShot(true);
+        QObject::connect(&guard, &QTimer::timeout, [&stuck] {
+            stuck = true;
+            QApplication::exit(1);
+        });
+        guard.start(3000);
+        QTimer::singleShot(0, window.get(), [this] { window->close(); });
+        EXPECT_EQ(QApplication::exec(), 0) << segue;
+        EXPECT_FALSE(stuck) << segue;
+    }
+}
+
+TEST_F(DesktopTest, ADesktopWithoutWebBrowserSaysSo) {
+    QList<QUrl> asked;
+    Platform::install(std::make_unique<DesktopWebBrowser>([&](const QUrl& url) {
+        asked << url;
+        return false;
+    }));
+    menu->performSegue("RateShare");
+    auto* rateShare = dynamic_cast<TableViewDataSource*>(top());
+    ASSERT_NE(rateShare, nullptr);
+    rateShare->didSelectRow(top()->findChild<TableView*>(), {0, 3}); // the product page
+    ASSERT_EQ(asked.size(), 1);
+    auto* alert = AlertController::current();
+    ASSERT_NE(alert, nullptr);
+    EXPECT_EQ(alert->title(), "Can't Open Web Page");
+    EXPECT_TRUE(alert->message().contains(asked.first().toDisplayString()));
+    EXPECT_EQ(alert->window(), window.get());
+}
+
+TEST_F(DesktopTest, ADesignedStopIsShownFromAnyThread) {
+    // The main thread shows the message for a worker and the worker waits until it is closed.
+    QString shown;
+    QTimer closer;
+    QObject::connect(&closer, &QTimer::timeout, [&] {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (auto* box = qobject_cast<QMessageBox*>(w); box && box->isVisible()) {
+                shown = box->text();
+                box->button(QMessageBox::Ok)->click();
+            }
+    });
+    closer.start(50);
+    std::atomic<bool> returned = false;
+    std::thread worker([&] {
+        FatalMessage::show("Unresolved error disk full");
+        returned = true;
+    });
+    EXPECT_TRUE(waitUntil([&] { return returned.load(); }, 10000));
+    worker.join();
+    EXPECT_EQ(shown, "Unresolved error disk full");
+
+    // On the main thread itself.
+    shown.clear();
+    FatalMessage::show("Unresolved error no store");
+    EXPECT_EQ(shown, "Unresolved error no store");
+
+    // A main thread waiting for the worker cannot show it: the worker gives up and goes on to
+    // its end instead of waiting for ever.
+    closer.stop();
+    QElapsedTimer clock;
+    clock.start();
+    std::thread blocked([] { FatalMessage::show("Unresolved error"); });
+    blocked.join();
+    EXPECT_LT(clock.elapsed(), 8000);
+    QApplication::processEvents(); // the late request shows nothing that stays
+    for (QWidget* w : QApplication::topLevelWidgets()) {
+        if (auto* box = qobject_cast<QMessageBox*>(w)) {
+            EXPECT_FALSE(box->isVisible());
+        }
+    }
+}
