@@ -13,6 +13,7 @@
 class NavigationController;
 class AlertController;
 class QMenu;
+class QPushButton;
 
 struct BarButtonItem {
     QString title;
@@ -74,6 +75,14 @@ public:
 
     // Runs f on the main thread after ms milliseconds, unless the screen has gone by then.
     void after(int ms, std::function<void()> f);
+
+    // The widest the screen is laid out at; wider windows centre it, so a desktop window
+    // does not stretch a phone layout. A screen with a wide arrangement of its own asks more.
+    static constexpr int kReadableWidth = 720;
+    virtual int readableWidth() const { return kReadableWidth; }
+    // Puts a form's button in the top bar as well, reachable without scrolling: the same
+    // title and action, enabled while the button is. Call after setting the right items.
+    void showInBar(QPushButton* button);
 
 private:
     friend class NavigationController;
