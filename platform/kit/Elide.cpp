@@ -9,8 +9,7 @@ namespace {
 const QString kEllipsis = QStringLiteral("\u2026");
 
 bool isPlainLine(const QLabel* label) {
-    return !label->wordWrap() && !label->text().isEmpty() &&
-           label->textFormat() != Qt::RichText &&
+    return !label->wordWrap() && !label->text().isEmpty() && label->textFormat() != Qt::RichText &&
            !(label->textFormat() == Qt::AutoText && Qt::mightBeRichText(label->text()));
 }
 

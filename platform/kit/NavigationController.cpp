@@ -157,8 +157,8 @@ void NavigationController::refreshBar() {
     back_->setVisible(canGoBack);
     if (canGoBack) {
         const QString previous = screens_[screens_.size() - 2]->title();
-        fullBack_ = QStringLiteral("\u2039 ") +
-                    (previous.isEmpty() ? QStringLiteral("Back") : previous);
+        fullBack_ =
+            QStringLiteral("\u2039 ") + (previous.isEmpty() ? QStringLiteral("Back") : previous);
     }
     fitBarTexts();
     for (QHBoxLayout* items : {rightItems_, leftItems_})

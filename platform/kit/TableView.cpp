@@ -5,8 +5,8 @@
 #include <QAbstractListModel>
 #include <QApplication>
 #include <QLabel>
-#include <QLineEdit>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>

@@ -9,8 +9,8 @@
 #include "screens/groups/YearGroupTableViewController.h"
 
 #include <QHBoxLayout>
-#include <QSet>
 #include <QScopeGuard>
+#include <QSet>
 #include <QVBoxLayout>
 #include <algorithm>
 

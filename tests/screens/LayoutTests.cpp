@@ -17,9 +17,7 @@
 
 class LayoutTest : public ScreenTest {
 protected:
-    QPushButton* barButton(const QString& name) {
-        return window->findChild<QPushButton*>(name);
-    }
+    QPushButton* barButton(const QString& name) { return window->findChild<QPushButton*>(name); }
     void settle() {
         for (int i = 0; i < 3; ++i)
             QApplication::processEvents();

@@ -185,8 +185,12 @@ TEST_F(ExchangeScreenTest, ImportKeepsTheWindowAliveAndSavesWhatTheMergeSaves) {
         FetchRequest request(QStringLiteral("Coins"));
         request.sortDescriptors = {{"descrip", true}, {"year", true}};
         for (const CoinPtr& c : ctx().fetch<Coins>(request))
-            out << QStringList{c->country(), c->descrip(), c->mintMark(), c->notes(),
-                               QString::number(c->year()), QString::number(c->value()),
+            out << QStringList{c->country(),
+                               c->descrip(),
+                               c->mintMark(),
+                               c->notes(),
+                               QString::number(c->year()),
+                               QString::number(c->value()),
                                QString::number(c->frontImage().size()),
                                QString::number(c->backImage().size())};
         return out;
