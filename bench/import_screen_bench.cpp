@@ -3,6 +3,7 @@
 // import) and the longest the window went without an event-loop turn.
 // Prints one figure per line.
 #include "BenchProgram.h"
+#include "ProcessMemory.h"
 #include "exchange/CommandLine.h"
 #include "exchange/ExchangeWriter.h"
 #include "exchange/ImportViewController.h"
@@ -17,25 +18,14 @@
 
 namespace {
 
-long statusKb(const char* key) {
-    QFile status(QStringLiteral("/proc/self/status"));
-    status.open(QIODevice::ReadOnly);
-    for (const QByteArray& line : status.readAll().split('\n'))
-        if (line.startsWith(key))
-            return line.mid(qsizetype(qstrlen(key))).trimmed().split(' ').first().toLong();
-    return 0;
-}
-
 // Peak resident memory counted from here on.
 long startCounting() {
-    QFile clear(QStringLiteral("/proc/self/clear_refs"));
-    if (clear.open(QIODevice::WriteOnly))
-        clear.write("5");
-    return statusKb("VmRSS:");
+    ProcessMemory::resetPeak();
+    return ProcessMemory::currentKb();
 }
 
 double peakMbSince(long baseKb) {
-    return double(statusKb("VmHWM:") - baseKb) / 1024.0;
+    return double(ProcessMemory::peakKb() - baseKb) / 1024.0;
 }
 
 AlertController* waitForAlert() {
