@@ -23,6 +23,7 @@ int main(int argc, char** argv) {
     BenchProgram::Running program(dir.path());
     MainMenuViewController* menu = program.menu;
     Window& window = program.window;
+    applyShotSize(window);
     settle(100);
     auto shot = [&](const char* name) {
         settle(150);

@@ -36,6 +36,7 @@ int main(int argc, char** argv) {
     AppStoryboard::install();
     auto* menu = new MainMenuViewController;
     Window window(menu);
+    applyShotSize(window);
     window.show();
     settle(100);
     window.grab().save(out + "/menu-closed" + suffix + ".png");
@@ -48,11 +49,22 @@ int main(int argc, char** argv) {
     nav->topViewController()->performSegue("ImportCoins");
     auto* import = static_cast<ImportViewController*>(nav->topViewController());
     fakes.documentPicker->next = QStringLiteral(PELVANE_SOURCE_DIR "/samples/Pelvane-sample.csv");
+    auto alertShown = [] {
+        while (!AlertController::current())
+            settle(10);
+    };
     import->LoadFile();
+    alertShown();
     settle(100);
     window.grab().save(out + "/import-loaded" + suffix + ".png");
     AlertController::current()->triggerAction("OK");
+    // A few lines per step, so that the grab catches the merge under way.
+    import->linesPerStep = 4;
     import->ImportTextFile();
+    QApplication::processEvents();
+    QApplication::processEvents();
+    window.grab().save(out + "/import-progress" + suffix + ".png");
+    alertShown();
     settle(100);
     window.grab().save(out + "/import-done" + suffix + ".png");
     AlertController::current()->triggerAction("OK");

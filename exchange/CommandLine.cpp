@@ -7,9 +7,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QStringDecoder>
-
-#include <utility>
 
 #include <cstdio>
 
@@ -49,27 +46,13 @@ int runImport(ManagedObjectContext& context, const QString& file) {
         say(QStringLiteral("Cannot read %1: %2").arg(file, in.errorString()));
         return 1;
     }
-    QByteArray bytes = in.readAll();
+    std::optional<QByteArray> text = utf8Text(in.readAll());
     in.close();
-    const auto encoding = QStringConverter::encodingForData(bytes);
-    if (!encoding || *encoding == QStringConverter::Utf8) {
-        // Checked where it lies rather than copied into text and back: the file is held once.
-        if (!QUtf8StringView(bytes).isValidUtf8()) {
-            say(QStringLiteral("Cannot read %1: it is not text").arg(file));
-            return 1;
-        }
-        if (bytes.startsWith("\xEF\xBB\xBF"))
-            bytes.remove(0, 3);
-    } else {
-        QStringDecoder decoder(*encoding);
-        const QString text = decoder(std::exchange(bytes, {}));
-        if (decoder.hasError()) {
-            say(QStringLiteral("Cannot read %1: it is not text").arg(file));
-            return 1;
-        }
-        bytes = text.toUtf8();
+    if (!text) {
+        say(QStringLiteral("Cannot read %1: it is not text").arg(file));
+        return 1;
     }
-    const ImportResult result = mergeExchangeText(context, std::move(bytes));
+    const ImportResult result = mergeExchangeText(context, std::move(*text));
     if (result.wrongFile) {
         say(info.fileName() + QStringLiteral(" Is The Incorrect Import File"));
         return 2;

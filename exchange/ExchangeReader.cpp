@@ -10,8 +10,11 @@
 #include "platform/Fatal.h"
 #include "platform/ImageCoding.h"
 
+#include <QStringDecoder>
 #include <QStringList>
 #include <QVarLengthArray>
+
+#include <utility>
 
 namespace Exchange {
 
@@ -108,8 +111,9 @@ void apply(Coins& coin, const Fields& fields, bool isNew) {
 
 } // namespace
 
-ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
-    ImportResult result;
+Merge::Merge(ManagedObjectContext& context, QByteArray utf8)
+    : context_(context)
+    , text_(std::move(utf8)) {
     // A second container for the same model: opened and released, as the import always did.
     {
         PersistentContainer second(QStringLiteral("Pelvane"));
@@ -125,6 +129,7 @@ ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
     // The three replacements (carriage returns to line feeds, apostrophes dropped, commas to
     // semicolons) touch ASCII characters only, so they are safe on UTF-8 bytes; one pass does
     // them all.
+    QByteArray& text = text_;
     char* write = text.data();
     for (const char c : std::as_const(text)) {
         if (c == '\'')
@@ -133,40 +138,42 @@ ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
     }
     text.truncate(write - text.constData());
     const QByteArrayView marker(Marker);
-    QList<QByteArrayView> lines;
     for (qsizetype start = 0; start <= text.size();) {
         qsizetype end = text.indexOf('\n', start);
         if (end < 0)
             end = text.size();
         const QByteArrayView line(text.constData() + start, end - start);
         if (!line.isEmpty())
-            lines.append(line);
+            lines_.append(line);
         start = end + 1;
     }
-    result.lastLineUnended = !text.isEmpty() && !text.endsWith('\n');
-    if (result.lastLineUnended)
+    result_.lastLineUnended = !text.isEmpty() && !text.endsWith('\n');
+    if (result_.lastLineUnended)
         Console::log(QStringLiteral("Warning: the last line has no line end; the file may have "
                                     "been cut short"));
-    result.wrongFile = !lines.contains(marker);
-    lines.removeIf([&](QByteArrayView l) { return l == marker; });
-    if (result.wrongFile)
-        return result;
+    result_.wrongFile = !lines_.contains(marker);
+    lines_.removeIf([&](QByteArrayView l) { return l == marker; });
+}
 
-    // Waiting for the lock again on every line would take hours for a big file.
-    struct BusyWait {
-        ManagedObjectContext& context;
-        bool changed = false;
-        void dontWait() {
-            context.setWaitWhenBusy(false);
-            changed = true;
-        }
-        ~BusyWait() {
-            if (changed)
-                context.setWaitWhenBusy(true);
-        }
-    } busy{context};
-    for (QByteArrayView bytes : std::as_const(lines)) {
-        const Fields fields = splitFields(bytes);
+Merge::~Merge() {
+    if (waitChanged_)
+        context_.setWaitWhenBusy(true);
+}
+
+// Waiting for the lock again on every line would take hours for a big file.
+void Merge::dontWaitWhenBusy() {
+    context_.setWaitWhenBusy(false);
+    waitChanged_ = true;
+}
+
+bool Merge::step(qsizetype count) {
+    if (result_.wrongFile)
+        return false;
+    ManagedObjectContext& context = context_;
+    ImportResult& result = result_;
+    for (const qsizetype stop = std::min(lines_.size(), next_ + std::max<qsizetype>(count, 1));
+         next_ < stop; ++next_) {
+        const Fields fields = splitFields(lines_[next_]);
         // A line with more fields than there are attributes is no line of ours, whether it
         // would create, update or be skipped.
         if (fields.size() > kAttributes.size())
@@ -189,7 +196,7 @@ ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
             return fetchOrPrint<Coins>(context, request, &fetchFailure);
         }();
         if (fetchFailure.isBusy())
-            busy.dontWait();
+            dontWaitWhenBusy();
         if (results.isEmpty()) {
             auto coin = context.insert<Coins>();
             apply(*coin, fields, true);
@@ -198,7 +205,7 @@ ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
                 if (result.notSaved++ == 0)
                     result.notSavedReason = failure->message;
                 if (failure->isBusy())
-                    busy.dontWait();
+                    dontWaitWhenBusy();
             } else {
                 // A save writes every coin left pending before it.
                 result.notSaved = 0;
@@ -214,7 +221,31 @@ ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
             ++result.skipped;
         }
     }
-    return result;
+    return next_ < lines_.size();
+}
+
+ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
+    Merge merge(context, std::move(text));
+    while (merge.step(merge.lineCount())) {
+    }
+    return merge.result();
+}
+
+std::optional<QByteArray> utf8Text(QByteArray bytes) {
+    const auto encoding = QStringConverter::encodingForData(bytes);
+    if (!encoding || *encoding == QStringConverter::Utf8) {
+        // Checked where it lies rather than copied into text and back: the file is held once.
+        if (!QUtf8StringView(bytes).isValidUtf8())
+            return std::nullopt;
+        if (bytes.startsWith("\xEF\xBB\xBF"))
+            bytes.remove(0, 3);
+        return bytes;
+    }
+    QStringDecoder decoder(*encoding);
+    const QString text = decoder(std::exchange(bytes, {}));
+    if (decoder.hasError())
+        return std::nullopt;
+    return text.toUtf8();
 }
 
 } // namespace Exchange

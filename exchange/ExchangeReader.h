@@ -4,7 +4,11 @@
 // a line that matches exactly one coin rewrites it (left unsaved), a line that matches more
 // is skipped.
 #include <QByteArray>
+#include <QByteArrayView>
+#include <QList>
 #include <QString>
+
+#include <optional>
 
 class ManagedObjectContext;
 
@@ -23,6 +27,36 @@ struct ImportResult {
     // The last line had no line end: the file may have been cut short.
     bool lastLineUnended = false;
 };
+
+// The merge a few lines at a time, so that a screen can show progress and repaint between
+// steps; the lines, their order and the saves are exactly those of one mergeExchangeText call.
+class Merge {
+public:
+    // Opens the second container, normalises the text, splits it and checks the marker.
+    Merge(ManagedObjectContext& context, QByteArray utf8);
+    ~Merge();
+    Merge(const Merge&) = delete;
+    Merge& operator=(const Merge&) = delete;
+
+    // Merges up to `lines` more lines; false once every line is done (or the file is wrong).
+    bool step(qsizetype lines);
+    qsizetype linesDone() const { return next_; }
+    qsizetype lineCount() const { return result_.wrongFile ? 0 : lines_.size(); }
+    const ImportResult& result() const { return result_; }
+
+private:
+    void dontWaitWhenBusy();
+    ManagedObjectContext& context_;
+    QByteArray text_;
+    QList<QByteArrayView> lines_;
+    qsizetype next_ = 0;
+    ImportResult result_;
+    bool waitChanged_ = false;
+};
+
+// A file's bytes as UTF-8 text: UTF-8 (a leading byte-order mark dropped), or UTF-16/32 when a
+// byte-order mark says so. Nothing when the bytes are no text in that encoding.
+std::optional<QByteArray> utf8Text(QByteArray bytes);
 
 // Works on the file's UTF-8 bytes line by line, so a large file is held once, not as text.
 // Once the store has answered busy (another program holds it), later saves of the same

@@ -6,18 +6,99 @@
 #include "platform/Platform.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
+#include "platform/kit/Views.h"
 #include "screens/Application.h"
 
+#include <QFile>
 #include <QFileInfo>
+#include <QFutureWatcher>
 #include <QLabel>
+#include <QPromise>
 #include <QVBoxLayout>
+#include <QtConcurrent/QtConcurrentRun>
+
+#include <utility>
+
+// What the reading thread hands back: the text for the merge, and what the text view shows.
+struct ImportViewController::Loaded {
+    std::optional<QByteArray> text;
+    QString shown;
+    QString error;
+};
+
+namespace {
+
+// The text view shows each line with its pictures cut to a few characters: base64 means
+// nothing to a reader, and the whole of it would be laid out and held a second time.
+QString shownText(const QByteArray& utf8, QPromise<ImportViewController::Loaded>& promise) {
+    constexpr qsizetype kLongField = 120, kShownStart = 24;
+    QString shown;
+    shown.reserve(qMin<qsizetype>(utf8.size(), 1 << 20));
+    qsizetype start = 0, lastReport = 0;
+    while (start < utf8.size()) {
+        qsizetype end = utf8.indexOf('^', start);
+        const qsizetype lineEnd = utf8.indexOf('\n', start);
+        if (end < 0 || (lineEnd >= 0 && lineEnd < end))
+            end = lineEnd;
+        if (end < 0)
+            end = utf8.size();
+        const QByteArrayView field(utf8.constData() + start, end - start);
+        if (field.size() > kLongField && !field.contains(' '))
+            shown += QString::fromUtf8(field.first(kShownStart)) + QChar(0x2026);
+        else
+            shown += QString::fromUtf8(field);
+        if (end < utf8.size())
+            shown += QChar(uchar(utf8[end]));
+        start = end + 1;
+        if (start - lastReport > (1 << 22)) {
+            lastReport = start;
+            promise.setProgressValue(500 + int(500 * start / utf8.size()));
+        }
+    }
+    return shown;
+}
+
+void readFile(QPromise<ImportViewController::Loaded>& promise, const QString& path) {
+    ImportViewController::Loaded loaded;
+    promise.setProgressRange(0, 1000);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        loaded.error = file.errorString();
+        promise.addResult(std::move(loaded));
+        return;
+    }
+    QByteArray bytes;
+    const qint64 size = file.size();
+    if (size > 0)
+        bytes.reserve(size);
+    constexpr qint64 kChunk = 4 << 20;
+    while (!file.atEnd()) {
+        const qsizetype had = bytes.size();
+        bytes.resize(had + kChunk);
+        const qint64 got = file.read(bytes.data() + had, kChunk);
+        bytes.resize(had + qMax<qint64>(got, 0));
+        if (got <= 0)
+            break;
+        if (size > 0)
+            promise.setProgressValue(int(qMin<qint64>(500, 500 * bytes.size() / size)));
+    }
+    loaded.text = Exchange::utf8Text(std::move(bytes));
+    if (!loaded.text)
+        loaded.error = QStringLiteral("The file is not text in a known encoding.");
+    else
+        loaded.shown = shownText(*loaded.text, promise);
+    promise.addResult(std::move(loaded));
+}
+
+} // namespace
 
 ImportViewController::ImportViewController(QWidget* parent)
     : ViewController(parent)
     , LoadFileButton(new QPushButton(QStringLiteral("Load File"), this))
     , ImportButton(new QPushButton(QStringLiteral("Import File"), this))
     , ImportTextView(new TextView(this))
-    , HelpTextView(new TextView(this)) {
+    , HelpTextView(new TextView(this))
+    , ImportProgressView(new ProgressView(this)) {
     LoadFileButton->setObjectName(QStringLiteral("LoadFileButton"));
     ImportButton->setObjectName(QStringLiteral("ImportButton"));
     ImportTextView->setReadOnly(true);
@@ -28,7 +109,10 @@ ImportViewController::ImportViewController(QWidget* parent)
     layout->addWidget(HelpTextView, 1);
     layout->addWidget(LoadFileButton);
     layout->addWidget(ImportTextView, 3);
+    layout->addWidget(ImportProgressView);
     layout->addWidget(ImportButton);
+    ImportProgressView->setObjectName(QStringLiteral("ImportProgressView"));
+    ImportProgressView->hide();
     for (QPushButton* b : {LoadFileButton, ImportButton})
         b->setMinimumHeight(44);
     connect(LoadFileButton, &QPushButton::clicked, this, &ImportViewController::LoadFile);
@@ -56,14 +140,41 @@ void ImportViewController::LoadFile() {
         [this](const QString& path) { documentPicked(path); }, {});
 }
 
+ImportViewController::~ImportViewController() = default;
+
+void ImportViewController::setBusy(bool busy) {
+    busy_ = busy;
+    ImportProgressView->setProgress(0);
+    ImportProgressView->setVisible(busy);
+    // Leaving half way would drop the rest of the file.
+    navigationItem().hidesBackButton = busy;
+    updateNavigationBar();
+}
+
 void ImportViewController::documentPicked(const QString& path) {
+    if (busy_)
+        return;
     filename = QFileInfo(path).fileName();
-    QString text, error;
-    if (!Files::readText(path, text, &error)) {
-        Console::log(error);
+    LoadFileButton->setEnabled(false);
+    setBusy(true);
+    auto* watcher = new QFutureWatcher<Loaded>(this);
+    connect(watcher, &QFutureWatcherBase::progressValueChanged, ImportProgressView,
+            [this](int value) { ImportProgressView->setProgress(float(value) / 1000.0f); });
+    connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        fileRead(watcher->future().takeResult());
+    });
+    watcher->setFuture(QtConcurrent::run(readFile, path));
+}
+
+void ImportViewController::fileRead(const Loaded& loaded) {
+    setBusy(false);
+    if (!loaded.text) {
+        Console::log(loaded.error);
+        LoadFileButton->setEnabled(!document);
     } else {
-        document = text;
-        ImportTextView->setText(text);
+        document = *loaded.text;
+        ImportTextView->setText(loaded.shown);
         ImportButton->setEnabled(true);
         LoadFileButton->setEnabled(false);
     }
@@ -73,10 +184,30 @@ void ImportViewController::documentPicked(const QString& path) {
 }
 
 void ImportViewController::ImportTextFile() {
-    if (!document)
+    if (!document || busy_)
         return;
     managedObjectContext = Application::viewContext();
-    wrongFile = Exchange::mergeExchangeText(*managedObjectContext, *document).wrongFile;
+    ImportButton->setEnabled(false);
+    setBusy(true);
+    // The merge takes the text over: normalising it in place needs no second copy.
+    merge_ = std::make_unique<Exchange::Merge>(*managedObjectContext, std::exchange(*document, {}));
+    after(0, [this] { mergeStep(); });
+}
+
+void ImportViewController::mergeStep() {
+    const bool more = merge_->step(linesPerStep);
+    if (merge_->lineCount() > 0)
+        ImportProgressView->setProgress(float(merge_->linesDone()) / float(merge_->lineCount()));
+    if (more)
+        after(0, [this] { mergeStep(); });
+    else
+        finishImport();
+}
+
+void ImportViewController::finishImport() {
+    wrongFile = merge_->result().wrongFile;
+    merge_.reset();
+    setBusy(false);
     AlertController* alert =
         !*wrongFile ? new AlertController(QStringLiteral("Data Import File"),
                                           QStringLiteral("Data File Import Completed"))

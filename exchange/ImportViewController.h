@@ -5,28 +5,53 @@
 #include "platform/kit/ViewController.h"
 
 #include <QPushButton>
+#include <memory>
 #include <optional>
 
 class ManagedObjectContext;
+class ProgressView;
+namespace Exchange {
+class Merge;
+}
 
 class ImportViewController : public ViewController {
     Q_OBJECT
 public:
     explicit ImportViewController(QWidget* parent = nullptr);
+    ~ImportViewController() override;
     void viewDidLoad() override;
 
     void LoadFile();
-    // The document picker's answer.
+    // The document picker's answer: the file is read on a worker thread; the "loaded" alert
+    // comes when it is done.
     void documentPicked(const QString& path);
+    // Merges a few lines per turn of the event loop, so the window repaints and shows progress.
     void ImportTextFile();
+    // Reading or merging is under way.
+    bool isBusy() const { return busy_; }
 
     QPushButton *LoadFileButton, *ImportButton;
     TextView *ImportTextView, *HelpTextView;
-    std::optional<QString> document;
+    ProgressView* ImportProgressView;
+    // The file's text as UTF-8 bytes, the form the merge reads: a large file is held once.
+    std::optional<QByteArray> document;
     std::optional<QString> filename;
     ManagedObjectContext* managedObjectContext = nullptr;
     std::optional<bool> wrongFile;
     bool DarkMode = false;
+    // Lines merged per turn of the event loop.
+    int linesPerStep = 50;
+
+    // What reading a file gives (defined beside the reading).
+    struct Loaded;
+
+private:
+    void fileRead(const Loaded& loaded);
+    void mergeStep();
+    void finishImport();
+    void setBusy(bool busy);
+    bool busy_ = false;
+    std::unique_ptr<Exchange::Merge> merge_;
 };
 
 // The menu's entry: a choice between the export and the import screen.

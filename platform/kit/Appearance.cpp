@@ -39,6 +39,14 @@ QColor rowColor() {
     return QColor::fromHsvF(0.5f, 0.06f, 0.96f, 1.0f);
 }
 
+QColor visibleBorder(const QColor& border) {
+    // A black border vanishes into a dark window; a mid grey shows on the window and on the
+    // pale rows alike.
+    if (Appearance::isDark() && border.lightness() < 80)
+        return QColor(142, 142, 147);
+    return border;
+}
+
 void round(QWidget* widget, int radius, int borderWidth, const QColor& border,
            const QColor& background) {
     if (widget->objectName().isEmpty())
@@ -46,11 +54,15 @@ void round(QWidget* widget, int radius, int borderWidth, const QColor& border,
     QString css = QStringLiteral("#%1 { border: %2px solid %3; border-radius: %4px; padding: 4px;")
                       .arg(widget->objectName())
                       .arg(borderWidth)
-                      .arg(border.name())
+                      .arg(visibleBorder(border).name())
                       .arg(radius);
     if (background.isValid())
         css += QStringLiteral(" background-color: %1;").arg(background.name());
-    css += QStringLiteral(" } #%1:disabled { color: gray; }").arg(widget->objectName());
+    // The focus shows once, as the border in the highlight colour, not as a second dotted
+    // frame inside it.
+    css += QStringLiteral(" outline: none; } #%1:focus { border-color: %2; }")
+               .arg(widget->objectName(), widget->palette().color(QPalette::Highlight).name());
+    css += QStringLiteral(" #%1:disabled { color: gray; }").arg(widget->objectName());
     widget->setAttribute(Qt::WA_StyledBackground, true);
     widget->setStyleSheet(css);
 }

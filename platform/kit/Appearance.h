@@ -13,6 +13,8 @@ class QWidget;
 namespace Styling {
 // Rows: hue 0.5, saturation 0.06, brightness 0.96.
 QColor rowColor();
+// The border colour as drawn: black turns grey in dark mode, where it would not show.
+QColor visibleBorder(const QColor& border);
 // Corner radius, border width and colour (and optionally a background) for a button, label,
 // image view or text input.
 void round(QWidget* widget, int radius, int borderWidth, const QColor& border,

@@ -1,5 +1,6 @@
 #include "platform/kit/NavigationController.h"
 
+#include "platform/kit/Elide.h"
 #include "platform/kit/Symbols.h"
 #include "platform/kit/ViewController.h"
 
@@ -29,6 +30,7 @@ NavigationController::NavigationController(ViewController* root, QWidget* parent
     bold.setPointSizeF(bold.pointSizeF() * 1.15);
     title_->setFont(bold);
     title_->setAlignment(Qt::AlignCenter);
+    title_->setMinimumWidth(1);
     auto* left = new QWidget(bar_);
     auto* leftLayout = new QHBoxLayout(left);
     leftLayout->setContentsMargins(0, 0, 0, 0);
@@ -45,11 +47,21 @@ NavigationController::NavigationController(ViewController* root, QWidget* parent
     barLayout->addWidget(title_, 3);
     barLayout->addWidget(right, 2);
     bar_->setMinimumHeight(44);
-    auto* layout = new QVBoxLayout(this);
+    column_ = new QWidget(this);
+    auto* layout = new QVBoxLayout(column_);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
+    bar_->setParent(column_);
+    stack_->setParent(column_);
     layout->addWidget(bar_);
     layout->addWidget(stack_, 1);
+    // The column takes the width up to its maximum; what is left goes to both sides alike.
+    auto* centred = new QHBoxLayout(this);
+    centred->setContentsMargins(0, 0, 0, 0);
+    centred->setSpacing(0);
+    centred->addStretch(1);
+    centred->addWidget(column_, 1000);
+    centred->addStretch(1);
     connect(back_, &QToolButton::clicked, this, [this] { popViewController(true); });
     if (root)
         pushViewController(root, false);
@@ -140,16 +152,23 @@ bool NavigationController::isNavigationBarHidden() const {
     return bar_->isHidden();
 }
 
+void NavigationController::fitReadableWidth() {
+    const ViewController* top = topViewController();
+    column_->setMaximumWidth(top ? top->readableWidth() : QWIDGETSIZE_MAX);
+}
+
 void NavigationController::refreshBar() {
     ViewController* top = topViewController();
-    title_->setText(top ? top->title() : QString());
+    fitReadableWidth();
+    fullTitle_ = top ? top->title() : QString();
     const bool canGoBack = screens_.size() > 1 && top && !top->navigationItem().hidesBackButton;
     back_->setVisible(canGoBack);
     if (canGoBack) {
         const QString previous = screens_[screens_.size() - 2]->title();
-        back_->setText(QStringLiteral("\u2039 ") +
-                       (previous.isEmpty() ? QStringLiteral("Back") : previous));
+        fullBack_ =
+            QStringLiteral("\u2039 ") + (previous.isEmpty() ? QStringLiteral("Back") : previous);
     }
+    fitBarTexts();
     for (QHBoxLayout* items : {rightItems_, leftItems_})
         while (QLayoutItem* item = items->takeAt(0)) {
             delete item->widget();
@@ -184,6 +203,19 @@ void NavigationController::refreshBar() {
         rightItems_->addWidget(makeButton(item));
     for (const BarButtonItem& item : top->navigationItem().leftItems)
         leftItems_->addWidget(makeButton(item));
+}
+
+void NavigationController::fitBarTexts() {
+    // The bar's thirds stand 2 : 3 : 2; the texts take what their part leaves.
+    const int width = std::min(this->width(), column_->maximumWidth()) - 16;
+    title_->setText(Elide::atWord(fullTitle_, title_->fontMetrics(), width * 3 / 7 - 8));
+    back_->setText(Elide::atWord(fullBack_, back_->fontMetrics(), width * 2 / 7 - 24));
+    back_->setToolTip(back_->text() == fullBack_ ? QString() : fullBack_);
+}
+
+void NavigationController::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    fitBarTexts();
 }
 
 void NavigationController::setRootViewController(ViewController* screen) {

@@ -51,6 +51,13 @@ protected:
     void keyPressEvent(class QKeyEvent* event) override;
 
 private:
+    // Bar and screen stand in a column no wider than the top screen's readable width.
+    void fitReadableWidth();
+    // Title and back button end with an ellipsis when the bar is too narrow for them.
+    void fitBarTexts();
+    void resizeEvent(QResizeEvent* event) override;
+    QString fullTitle_, fullBack_;
+    QWidget* column_ = nullptr;
     QWidget* bar_;
     QToolButton* back_;
     QLabel* title_;

@@ -1,5 +1,7 @@
 #include "platform/kit/TableView.h"
 
+#include "platform/kit/Elide.h"
+
 #include <QAbstractListModel>
 #include <QApplication>
 #include <QKeyEvent>
@@ -159,11 +161,16 @@ public:
             }
             painter->restore();
         }
+        // Long texts get the row's width and end with an ellipsis instead of running off it.
+        Elide::letLabelsShrink(cell);
+        if (cell->layout())
+            cell->layout()->activate();
         cell->resize(r.size());
         if (cell->isHidden())
             cell->show(); // activates its layout; it never reaches the screen
         if (cell->layout())
             cell->layout()->activate();
+        const Elide::FittedLabels fitted(cell);
         // Rendered through a pixmap: rendering a widget straight onto the painter of another
         // widget's paint event picks up that widget's offset in the window a second time.
         const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
@@ -368,9 +375,21 @@ TableViewCell* TableView::dequeueReusableCell(const QString& identifier) {
 void TableView::setTableHeaderView(QWidget* view) {
     if (header_)
         layout_->removeWidget(header_);
+    delete headerMargins_;
+    headerMargins_ = nullptr;
     header_ = view;
-    if (view)
-        layout_->insertWidget(0, view);
+    if (!view)
+        return;
+    // The header keeps clear of the window's edges, as the rows do.
+    headerMargins_ = new QVBoxLayout;
+    headerMargins_->setContentsMargins(8, 6, 8, 4);
+    headerMargins_->addWidget(view);
+    layout_->insertLayout(0, headerMargins_);
+    // A new search shows its first match, not where the last list was scrolled to; connected
+    // after the search's own reporting, so it follows the reload.
+    if (auto* search = qobject_cast<QLineEdit*>(view))
+        connect(search, &QLineEdit::textChanged, this, &TableView::scrollToTop,
+                Qt::UniqueConnection);
 }
 
 int TableView::numberOfRows(int section) const {
@@ -401,6 +420,12 @@ IndexPath TableView::pathForListRow(int row, bool* isRow) const {
     if (isRow)
         *isRow = kind == 1;
     return {section, r};
+}
+
+void TableView::scrollToTop() {
+    // The pending layout of a reload would put the old scroll position back.
+    list_->doItemsLayout();
+    list_->scrollToTop();
 }
 
 void TableView::deselectRow(IndexPath, bool) {

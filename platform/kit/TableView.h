@@ -82,6 +82,8 @@ public:
     int cellsRequested() const { return cellsRequested_; }
     QString footerTitle(int section) const;
     void deselectRow(IndexPath, bool animated = true);
+    // Shows the first row at the top, also after a reload whose layout is still pending.
+    void scrollToTop();
     void selectRow(IndexPath path); // as a tap does
     // Runs a row's swipe action by its title, as a click on the revealed button does.
     bool triggerSwipeAction(IndexPath path, const QString& title);
@@ -115,6 +117,7 @@ private:
     TableViewDataSource* source_ = nullptr;
     QVBoxLayout* layout_;
     QWidget* header_ = nullptr;
+    QVBoxLayout* headerMargins_ = nullptr;
     class QLabel* sectionHeader_;
     class QLabel* sectionFooter_ = nullptr;
     QListView* list_;

@@ -4,7 +4,9 @@
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/TableView.h"
 
+#include <QEvent>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -140,6 +142,44 @@ void ViewController::after(int ms, std::function<void()> f) {
         if (self)
             f();
     });
+}
+
+namespace {
+// Tells when a watched widget is enabled or disabled.
+class EnabledWatcher : public QObject {
+public:
+    EnabledWatcher(QObject* parent, std::function<void()> changed)
+        : QObject(parent)
+        , changed_(std::move(changed)) {}
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::EnabledChange)
+            changed_();
+        return false;
+    }
+
+private:
+    std::function<void()> changed_;
+};
+} // namespace
+
+void ViewController::showInBar(QPushButton* button) {
+    const QString name = button->objectName() + QStringLiteral("InBar");
+    BarButtonItem item;
+    item.title = button->text();
+    item.action = [button = QPointer<QPushButton>(button)] {
+        if (button)
+            button->click();
+    };
+    item.objectName = name;
+    item.enabled = button->isEnabled();
+    navigationItem_.rightItems.append(item);
+    button->installEventFilter(new EnabledWatcher(button, [this, button, name] {
+        for (BarButtonItem& shown : navigationItem_.rightItems)
+            if (shown.objectName == name)
+                shown.enabled = button->isEnabled();
+        updateNavigationBar();
+    }));
+    updateNavigationBar();
 }
 
 void ViewController::addKeyCommand(QKeySequence::StandardKey key, std::function<void()> action) {

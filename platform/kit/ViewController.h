@@ -14,6 +14,7 @@
 class NavigationController;
 class AlertController;
 class QMenu;
+class QPushButton;
 
 struct BarButtonItem {
     QString title;
@@ -75,6 +76,14 @@ public:
 
     // Runs f on the main thread after ms milliseconds, unless the screen has gone by then.
     void after(int ms, std::function<void()> f);
+
+    // The widest the screen is laid out at; wider windows centre it, so a desktop window
+    // does not stretch a phone layout. A screen with a wide arrangement of its own asks more.
+    static constexpr int kReadableWidth = 720;
+    virtual int readableWidth() const { return kReadableWidth; }
+    // Puts a form's button in the top bar as well, reachable without scrolling: the same
+    // title and action, enabled while the button is. Call after setting the right items.
+    void showInBar(QPushButton* button);
 
     // Keyboard. A key nothing inside the screen used comes here: first the screen's own
     // commands (Ctrl+S for a form's Save), then Ctrl+F to the search field, then Escape and

@@ -160,6 +160,7 @@ void CoinFormViewController::setUpForm() {
     // The empty picture slots show as frames.
     for (ImageView* v : {FrontImage, BackImage})
         Styling::round(v, 5, 1, Appearance::isDark() ? Qt::white : Qt::black);
+    showInBar(SaveButton);
 }
 
 void CoinFormViewController::loadPickerLists() {

@@ -45,8 +45,8 @@ void EditViewController::viewDidLoad() {
     FrontImage->installEventFilter(this);
     BackImage->installEventFilter(this);
     ValueTextField->installEventFilter(this);
-    navigationItem().rightItems = {{QStringLiteral("Share"), [this] { shareButtonClicked(); },
-                                    nullptr, QStringLiteral("ShareButton")}};
+    navigationItem().rightItems.prepend({QStringLiteral("Share"), [this] { shareButtonClicked(); },
+                                         nullptr, QStringLiteral("ShareButton")});
     ShareButton->hide();
     updateNavigationBar();
     // Asked five seconds after opening; nothing happens if the screen has gone by then.

@@ -27,6 +27,7 @@ void NotesViewController::viewDidLoad() {
     setTitle(QStringLiteral("Notes"));
     Styling::round(NotesTextView, 5, 1, Appearance::isDark() ? Qt::white : Qt::black);
     Styling::round(SaveButton, 10, 2, Qt::black);
+    showInBar(SaveButton);
     NotesTextView->setText(SelectedNotes);
 }
 

@@ -28,7 +28,7 @@ void ZoomCollectionViewCell::paintEvent(QPaintEvent*) {
     p.setClipPath(clip);
     p.drawImage(rect().adjusted(2, 2, -2, -2), ZoomImage);
     p.setClipping(false);
-    p.setPen(QPen(Qt::black, 2));
+    p.setPen(QPen(Styling::visibleBorder(Qt::black), 2));
     p.drawRoundedRect(rect().adjusted(1, 1, -1, -1), 10, 10);
 }
 

@@ -9,6 +9,7 @@
 #include "screens/groups/DenominationBreakdownTableViewController.h"
 #include "screens/groups/YearBreakdownTableViewController.h"
 
+#include <QScopeGuard>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -164,6 +165,8 @@ void BreakdownTableViewController::load() {
 void BreakdownTableViewController::SortButtonTapped() {
     if (!SortAsc)
         return;
+    // The new order is shown from its first row, whichever way it is reloaded.
+    const auto toTop = qScopeGuard([this] { tableView->scrollToTop(); });
     SortAsc = !*SortAsc;
     if (!searching()) {
         load();

@@ -9,6 +9,7 @@
 #include "screens/groups/YearGroupTableViewController.h"
 
 #include <QHBoxLayout>
+#include <QScopeGuard>
 #include <QSet>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -154,6 +155,8 @@ void GroupTableViewController::refreshCounts() {
 void GroupTableViewController::SortButtonTapped() {
     if (!SortAsc)
         return;
+    // The new order is shown from its first row, whichever way it is reloaded.
+    const auto toTop = qScopeGuard([this] { tableView->scrollToTop(); });
     SortAsc = !*SortAsc;
     SortAscending = *SortAsc;
     if (!searching()) {

@@ -71,6 +71,7 @@ void MainListTableViewController::chooseSort(const QString& menuTitle) {
         SortName = choice.sortName;
         searchController->setPlaceholderText(choice.placeholder);
         fetchCoins();
+        tableView->scrollToTop(); // the new order is shown from its first row
     }
 }
 

@@ -8,6 +8,7 @@
 #include "screens/Application.h"
 #include "screens/reference/EditReferenceViewController.h"
 
+#include <QScopeGuard>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -95,6 +96,8 @@ void ReferenceTableViewController::updateSearchResults(SearchController* search)
 void ReferenceTableViewController::SortButtonTapped() {
     if (!SortAsc)
         return;
+    // The new order is shown from its first row, whichever way it is reloaded.
+    const auto toTop = qScopeGuard([this] { tableView->scrollToTop(); });
     SortAsc = !*SortAsc;
     if (!searching()) {
         fetch();

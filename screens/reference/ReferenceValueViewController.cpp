@@ -35,6 +35,7 @@ void ReferenceValueViewController::setUpField(const QString& title) {
     textField->setFocus();
     Styling::round(textField, 5, 1, Appearance::isDark() ? Qt::white : Qt::black);
     Styling::round(SaveButton, 10, 2, Qt::black);
+    showInBar(SaveButton);
 }
 
 void ReferenceValueViewController::viewDidAppear(bool) {

@@ -56,6 +56,8 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    // Its wide arrangement puts every control in one row above the list.
+    int readableWidth() const override { return 1240; }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
