@@ -44,9 +44,10 @@ QString fieldText(const Fields& fields, qsizetype position) {
     return position < fields.size() ? QString::fromUtf8(fields[position]) : QStringLiteral("");
 }
 
-// The attribute value a field gives; an invalid QVariant with *parsed false when a number
-// does not parse. Pictures that are no valid base64 give no value. Double quotes are dropped
-// first; a field left empty gives nothing to set (*skip).
+// The attribute value a field gives (a text as its UTF-8 bytes where it is valid UTF-8); an
+// invalid QVariant with *parsed false when a number does not parse. Pictures that are no
+// valid base64 give no value. Double quotes are dropped first; a field left empty gives
+// nothing to set (*skip).
 QVariant convert(AttributeType type, const QString& attribute, QByteArrayView field, bool* parsed,
                  bool* skip, QString* shown) {
     *parsed = true;
@@ -61,6 +62,20 @@ QVariant convert(AttributeType type, const QString& attribute, QByteArrayView fi
         *skip = field.isEmpty();
         auto bytes = ImageCoding::strictBase64Decode(field);
         return bytes ? QVariant(*bytes) : QVariant();
+    }
+    // Quotes and tildes are ASCII, so valid UTF-8 loses and changes them in its bytes as text
+    // would; the text is then held as those bytes (see ManagedObject::setText), a huge field
+    // once rather than also as UTF-16.
+    if (type == AttributeType::Text && QUtf8StringView(field).isValidUtf8()) {
+        const bool notes = attribute == QLatin1String("notes");
+        QByteArray bytes(field.size(), Qt::Uninitialized);
+        char* write = bytes.data();
+        for (const char c : field)
+            if (c != '"')
+                *write++ = notes && c == '~' ? '\n' : c;
+        bytes.truncate(write - bytes.constData());
+        *skip = bytes.isEmpty();
+        return bytes;
     }
     QString text = QString::fromUtf8(field);
     text.remove(u'"');
@@ -105,7 +120,10 @@ void apply(Coins& coin, const Fields& fields, bool isNew) {
                        "Pelvane/ImportViewController", 271);
         if (type == AttributeType::Data && !value.isValid() && isNew)
             continue; // not valid base64: the new coin simply has no such picture
-        coin.setValue(attribute, value);
+        if (type == AttributeType::Text && value.typeId() == QMetaType::QByteArray)
+            coin.setText(attribute, value.toByteArray());
+        else
+            coin.setValue(attribute, value);
     }
 }
 

@@ -16,7 +16,10 @@ static void bindMainValues(SqliteStatement& st, const ManagedObject& o) {
     for (std::size_t i = 0; i < e.attributes.size(); ++i) {
         if (e.attributes[i].type == AttributeType::Data)
             continue;
-        st.bind(col++, o.hasValue(int(i)) ? o.value(int(i)) : QVariant());
+        if (const QByteArray* utf8 = o.textBytes(int(i)))
+            st.bindUtf8(col++, *utf8);
+        else
+            st.bind(col++, o.hasValue(int(i)) ? o.value(int(i)) : QVariant());
     }
 }
 

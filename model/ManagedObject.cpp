@@ -3,6 +3,8 @@
 #include "model/ManagedObjectContext.h"
 #include "platform/Fatal.h"
 
+#include <QAnyStringView>
+
 ManagedObject::ManagedObject(const EntityDescription& entity)
     : entity_(&entity)
     , texts_(std::size_t(entity.textCount))
@@ -45,7 +47,11 @@ QVariant ManagedObject::value(int attribute) const {
     const auto slot = std::size_t(a.slot);
     switch (a.type) {
     case AttributeType::Text:
-        return present ? QVariant(texts_[slot]) : QVariant();
+        if (!present)
+            return QVariant();
+        if (const QByteArray* bytes = utf8Text(slot))
+            return QVariant(QString::fromUtf8(*bytes));
+        return QVariant(texts_[slot]);
     case AttributeType::Data:
         loadDataIfNeeded();
         return (present_ & (1u << attribute)) ? QVariant(data_[slot]) : QVariant();
@@ -78,6 +84,7 @@ void ManagedObject::setValue(int attribute, const QVariant& v) {
         present_ |= bit;
     switch (a.type) {
     case AttributeType::Text:
+        dropUtf8Text(slot);
         texts_[slot] = absent ? QString() : v.toString();
         break;
     case AttributeType::Data:
@@ -100,6 +107,46 @@ void ManagedObject::setValue(int attribute, const QVariant& v) {
         return;
     if (context_)
         context_->noteChange(*this, attribute);
+}
+
+void ManagedObject::setText(int attribute, const QByteArray& utf8) {
+    if (utf8.isEmpty()) {
+        setValue(attribute, QVariant());
+        return;
+    }
+    const quint32 bit = 1u << attribute;
+    const auto slot = std::size_t(entity_->attributes[std::size_t(attribute)].slot);
+    // Compared where they lie: the import rewrites every field of the coins it matches, and
+    // an unchanged text is no change.
+    if (present_ & bit) {
+        const QByteArray* held = utf8Text(slot);
+        if (held ? *held == utf8 : QAnyStringView::equal(texts_[slot], QUtf8StringView(utf8)))
+            return;
+    }
+    present_ |= bit;
+    texts_[slot] = QString();
+    dropUtf8Text(slot);
+    utf8Texts_.emplace_back(slot, utf8);
+    if (context_)
+        context_->noteChange(*this, attribute);
+}
+
+const QByteArray* ManagedObject::textBytes(int attribute) const {
+    const AttributeDescription& a = entity_->attributes[std::size_t(attribute)];
+    if (a.type != AttributeType::Text || !(present_ & (1u << attribute)))
+        return nullptr;
+    return utf8Text(std::size_t(a.slot));
+}
+
+const QByteArray* ManagedObject::utf8Text(std::size_t slot) const {
+    for (const auto& [at, bytes] : utf8Texts_)
+        if (at == slot)
+            return &bytes;
+    return nullptr;
+}
+
+void ManagedObject::dropUtf8Text(std::size_t slot) {
+    std::erase_if(utf8Texts_, [slot](const auto& entry) { return entry.first == slot; });
 }
 
 void ManagedObject::loadDataIfNeeded() const {

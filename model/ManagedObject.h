@@ -34,6 +34,12 @@ public:
     void setValue(int attribute, const QVariant& value);
     // True when the attribute holds a value; always true for a number.
     bool hasValue(int attribute) const;
+    // A text given as its UTF-8 bytes (valid UTF-8; empty bytes clear it) and held as such
+    // until it is read: a huge imported field is then held once and written to the store as it
+    // is, rather than also as UTF-16 and again as UTF-8 for the store.
+    void setText(int attribute, const QByteArray& utf8);
+    // The bytes a text was given as by setText(), or nullptr.
+    const QByteArray* textBytes(int attribute) const;
 
     bool isInserted() const { return state_ == State::Inserted; }
     bool isUpdated() const { return state_ == State::Updated; }
@@ -44,12 +50,16 @@ private:
     enum class State : quint8 { Clean, Inserted, Updated, Deleted, Gone };
 
     void loadDataIfNeeded() const;
+    const QByteArray* utf8Text(std::size_t slot) const;
+    void dropUtf8Text(std::size_t slot);
 
     const EntityDescription* entity_;
     ManagedObjectContext* context_ = nullptr;
     qint64 rowId_ = 0;
     quint64 insertSeq_ = 0; // order of unsaved inserts
     std::vector<QString> texts_;
+    // Texts held as UTF-8 instead (by slot): only what setText() gave, so mostly empty.
+    std::vector<std::pair<std::size_t, QByteArray>> utf8Texts_;
     mutable std::vector<QByteArray> data_;
     std::vector<double> numbers_;
     quint32 present_ = 0;            // bit per attribute: holds a value

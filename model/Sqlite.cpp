@@ -60,7 +60,11 @@ void SqliteStatement::bindDouble(int i, double v) {
 }
 
 void SqliteStatement::bindText(int i, const QString& v) {
-    bound_.append(v.toUtf8());
+    bindUtf8(i, v.toUtf8());
+}
+
+void SqliteStatement::bindUtf8(int i, const QByteArray& utf8) {
+    bound_.append(utf8);
     sqlite3_bind_text(stmt_, i, bound_.last().constData(), int(bound_.last().size()),
                       SQLITE_STATIC);
 }

@@ -26,6 +26,8 @@ public:
     void bindInt(int i, qint64 v);
     void bindDouble(int i, double v);
     void bindText(int i, const QString& v);
+    // A text already in UTF-8, bound where it lies.
+    void bindUtf8(int i, const QByteArray& utf8);
     void bindBlob(int i, const QByteArray& v);
     // Binds an absent QVariant as NULL, numbers, texts and bytes by their type.
     void bind(int i, const QVariant& v);

@@ -226,7 +226,7 @@ std::pair<int, long> runMeasured(const QStringList& arguments) {
 }
 } // namespace
 
-// Input that is no regular file is refused, any input is held within three times its size,
+// Input that is no regular file is refused, a huge line is held within a few times its size,
 // and a file cut short is imported as far as it goes, with a warning.
 TEST_F(PelvaneTest, ImportTakesRegularFilesWithinBoundedMemory) {
     const QString store = dir() + "/store";
@@ -245,25 +245,25 @@ TEST_F(PelvaneTest, ImportTakesRegularFilesWithinBoundedMemory) {
 #if defined(__SANITIZE_ADDRESS__)
     GTEST_SKIP() << "the sanitizers' own memory is no measure of the import's";
 #endif
-    // One line of 48 MB as a picture field: held within three times the file. As one text
-    // field it is held as UTF-16 and written as a SQLite record besides: about 5.8 times, which
-    // is still over the three times wanted; the bound keeps it from sliding back to the 7.8
-    // times it took before the import read the file's bytes in place.
+    // One line of 48 MB as a picture field, then as one text field: held within three times
+    // the file, and the text within four. The text is a key field, which SQLite itself holds
+    // twice while it writes the row and its index entry; with the file held too, that alone
+    // is three times. Measured: 2.5 and 4.0 times (6.0 while texts went through UTF-16).
     const qsizetype size = 48 * 1000 * 1000;
     write(path("small.csv"), "[PELVANE]\nChile^1 Peso\n");
     const long base =
         runMeasured({"--data-dir", dir() + "/m0", "--import", path("small.csv")}).second;
     const struct {
         QByteArray prefix;
-        int times;
-    } lines[] = {{"[PELVANE]\nChile^^^^^^^^^^^^^^^^^^^^", 3}, {"[PELVANE]\n", 7}};
+        double times;
+    } lines[] = {{"[PELVANE]\nChile^^^^^^^^^^^^^^^^^^^^", 3}, {"[PELVANE]\n", 4.3}};
     for (const auto& line : lines) {
         write(path("big.csv"), line.prefix + QByteArray(size, 'A'));
         const auto [code, peak] =
-            runMeasured({"--data-dir", dir() + "/m" + QString::number(line.times), "--import",
+            runMeasured({"--data-dir", dir() + "/m" + QString::number(line.times * 10), "--import",
                          path("big.csv")});
         EXPECT_EQ(code, 0);
-        EXPECT_LT(peak - base, line.times * size / 1024)
+        EXPECT_LT(peak - base, qint64(line.times * double(size) / 1024))
             << "peak " << peak << " KiB, base " << base;
         QFile::remove(path("big.csv"));
     }

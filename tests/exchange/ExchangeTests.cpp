@@ -115,6 +115,36 @@ TEST_F(StoreTest, ReaderMergesByTheFourKeys) {
     EXPECT_EQ(r.created, 0);
 }
 
+// Texts are taken from the file's bytes without going through UTF-16, yet saved, read and
+// compared exactly as the text they spell; bytes that are no UTF-8 become U+FFFD as before.
+TEST_F(StoreTest, ReaderSavesTextsAsTheTextTheySpell) {
+    const QByteArray file =
+        "[PELVANE]\n"
+        "M\xC3\xA9xico^5 Centavos^\xF0\x9F\xAA\x99 \"coin\"^bad \xFF\xC3^^^^^Mo^"
+        "x~y\xC3\xA9~^^^^^^^^^1970\n";
+    EXPECT_EQ(mergeExchangeText(ctx(), file).created, 1);
+    const QString mexico = QString::fromUtf8("M\xC3\xA9xico");
+    auto saved = fetch(eq("country == %@", mexico));
+    ASSERT_EQ(saved.size(), 1);
+    EXPECT_EQ(saved[0]->denomination(), "5 Centavos");
+    EXPECT_EQ(saved[0]->descrip(), QString::fromUtf8("\xF0\x9F\xAA\x99 coin"));
+    EXPECT_EQ(saved[0]->designer(), QString::fromUtf8("bad \xFF\xC3"));
+    EXPECT_EQ(saved[0]->notes(), QString::fromUtf8("x\ny\xC3\xA9\n"));
+
+    // The same line again changes nothing; a changed text reads back before and after saving.
+    auto r = mergeExchangeText(ctx(), file);
+    EXPECT_EQ(r.updated, 1);
+    EXPECT_FALSE(ctx().hasChanges());
+    const QByteArray changed = QByteArray(file).replace("x~y", "z~");
+    EXPECT_EQ(mergeExchangeText(ctx(), changed).updated, 1);
+    EXPECT_TRUE(ctx().hasChanges());
+    EXPECT_EQ(saved[0]->notes(), QString::fromUtf8("z\n\xC3\xA9\n"));
+    ASSERT_FALSE(ctx().save());
+    saved.clear();
+    reopen();
+    EXPECT_EQ(fetch(eq("notes == %@", QString::fromUtf8("z\n\xC3\xA9\n"))).size(), 1);
+}
+
 TEST_F(StoreTest, CommandLineReportsWrongAndUnreadableFiles) {
     QFile notes(path("notes.txt"));
     ASSERT_TRUE(notes.open(QIODevice::WriteOnly));
