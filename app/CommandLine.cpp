@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "model/PersistentContainer.h"
+#include "platform/Files.h"
 #include "platform/UserDefaults.h"
 
 #include <QCommandLineParser>
@@ -26,7 +27,14 @@ LaunchOptions parseLaunchOptions(const QStringList& arguments) {
                                   QStringLiteral("Use the dark appearance."));
     const QCommandLineOption openMenu(QStringLiteral("open-menu"),
                                       QStringLiteral("Start with the menu opened."));
-    parser.addOptions({dataDir, exportFile, importFile, grab, dark, openMenu});
+    const QCommandLineOption report(
+        QStringLiteral("report"),
+        QStringLiteral("Write the PDF report of a group: denomination, country or year, then "
+                       "the VALUE."),
+        QStringLiteral("KIND"));
+    const QCommandLineOption pdf(QStringLiteral("pdf"), QStringLiteral("Write the report to FILE."),
+                                 QStringLiteral("FILE"));
+    parser.addOptions({dataDir, exportFile, importFile, grab, dark, openMenu, report, pdf});
     LaunchOptions options;
     if (!parser.parse(arguments)) {
         options.error = parser.errorText();
@@ -42,6 +50,9 @@ LaunchOptions parseLaunchOptions(const QStringList& arguments) {
     options.grabFile = parser.value(grab);
     options.dark = parser.isSet(dark);
     options.openMenu = parser.isSet(openMenu);
+    if (parser.isSet(report))
+        options.report = QStringList{parser.value(report)} + parser.positionalArguments();
+    options.pdfFile = parser.value(pdf);
     if (!options.exportFile.isEmpty() && !options.importFile.isEmpty())
         options.error = QStringLiteral("--export and --import cannot be combined");
     return options;
@@ -52,4 +63,5 @@ void useDataDirectory(const QString& dir) {
     QDir().mkpath(absolute);
     PersistentContainer::setDefaultDirectory(absolute);
     UserDefaults::useFile(QDir(absolute).filePath(QStringLiteral("Pelvane.ini")));
+    Files::setDocumentsDirectory(QDir(absolute).filePath(QStringLiteral("Documents")));
 }

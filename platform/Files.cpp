@@ -3,12 +3,32 @@
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
+#include <QStandardPaths>
 #include <QStringDecoder>
 
 namespace Files {
 
 QString temporaryDirectory() {
     return QDir::tempPath() + QLatin1Char('/');
+}
+
+namespace {
+QString& documentsSetting() {
+    static QString dir;
+    return dir;
+}
+} // namespace
+
+QString documentsDirectory() {
+    QString dir = documentsSetting();
+    if (dir.isEmpty())
+        dir = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QDir().mkpath(dir);
+    return dir.endsWith(QLatin1Char('/')) ? dir : dir + QLatin1Char('/');
+}
+
+void setDocumentsDirectory(const QString& dir) {
+    documentsSetting() = dir;
 }
 
 bool writeAll(QIODevice& device, const QByteArray& bytes, QString* error) {

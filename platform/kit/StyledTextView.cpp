@@ -1,0 +1,22 @@
+#include "platform/kit/StyledTextView.h"
+
+#include <QScroller>
+#include <QTextDocument>
+
+StyledTextView::StyledTextView(QWidget* parent)
+    : QTextEdit(parent) {
+    setReadOnly(true);
+    QScroller::grabGesture(viewport(), QScroller::LeftMouseButtonGesture);
+}
+
+void StyledTextView::setAttributedText(std::unique_ptr<QTextDocument> document) {
+    QTextDocument* before = QTextEdit::document();
+    document->setParent(this);
+    setDocument(document.release());
+    if (before && before->parent() == this)
+        before->deleteLater();
+}
+
+void StyledTextView::clear() {
+    setAttributedText(std::make_unique<QTextDocument>());
+}
