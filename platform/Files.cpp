@@ -46,7 +46,10 @@ bool writeAll(QIODevice& device, const QByteArray& bytes, QString* error) {
 
 bool writeAtomically(const QString& path, const QByteArray& bytes, QString* error) {
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && writeAll(file, bytes, error) && file.commit())
+    // Unbuffered: a small file would otherwise sit in the buffer until commit(), which does
+    // not notice that writing it out failed and puts the cut file in place of the earlier one.
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeAll(file, bytes, error) &&
+        file.commit())
         return true;
     if (error && (file.error() != QFileDevice::NoError || error->isEmpty()))
         *error = file.errorString();

@@ -1,5 +1,6 @@
 #include "platform/kit/StyledTextView.h"
 
+#include <QPointer>
 #include <QScroller>
 #include <QTextDocument>
 
@@ -10,7 +11,8 @@ StyledTextView::StyledTextView(QWidget* parent)
 }
 
 void StyledTextView::setAttributedText(std::unique_ptr<QTextDocument> document) {
-    QTextDocument* before = QTextEdit::document();
+    // The editor deletes a document of its own itself; one given to it stays with its parent.
+    const QPointer<QTextDocument> before = QTextEdit::document();
     document->setParent(this);
     setDocument(document.release());
     if (before && before->parent() == this)

@@ -42,10 +42,10 @@ QString money(const Coins& c) {
 QString total(const Coins& c) {
     return Currency::text(double(c.quantity()) * double(c.value()));
 }
-QString denomination(const Coins& c) {
+QString denominationText(const Coins& c) {
     return c.denomination();
 }
-QString country(const Coins& c) {
+QString countryText(const Coins& c) {
     return c.country();
 }
 using A = Coins::Attr;
@@ -83,7 +83,7 @@ const Kind& Kind::denomination() {
         .unwind = "unwindToDenominationTableView",
         .pdfFileName = "CoinListByDenomination.pdf",
         .reportTitle = "Coins Filtered by Denomination: ",
-        .titleValue = denomination,
+        .titleValue = denominationText,
         .listingLines =
             [](CoinDocument& d, const Coins& c) {
                 denominationLine(d, c);
@@ -116,7 +116,7 @@ const Kind& Kind::country() {
         .unwind = "unwindToCountryTableView",
         .pdfFileName = "CoinListByCountry.pdf",
         .reportTitle = "Coins Filtered by Country: ",
-        .titleValue = country,
+        .titleValue = countryText,
         .listingLines =
             [](CoinDocument& d, const Coins& c) {
                 countryLine(d, c);
@@ -412,21 +412,23 @@ void BreakdownTableViewController::ShareCoinButtonClicked() {
     ProgressView_->setProgress(0);
     ProgressView_->show();
     QPointer<BreakdownTableViewController> self(this);
-    std::shared_ptr<QTextDocument> document = CoinString;
-    document->moveToThread(nullptr);
+    // The worker draws a copy of its own, made here and given to it with no thread, so that
+    // nothing of it is ever touched from two threads.
+    QTextDocument* copy = CoinString->clone();
+    copy->moveToThread(nullptr);
     auto* watcher = new QFutureWatcher<QByteArray>(this);
     connect(watcher, &QFutureWatcher<QByteArray>::finished, this, [this, watcher] {
         watcher->deleteLater();
-        CoinString->moveToThread(thread());
         reportRunning_ = false;
         ProgressView_->hide();
         updateShareButton();
         writePdf(watcher->result());
         shareReport();
     });
-    watcher->setFuture(QtConcurrent::run([document, self] {
-        document->moveToThread(QThread::currentThread());
-        QByteArray bytes = CoinDocument::pdf(*document, [self](int done, int all) {
+    watcher->setFuture(QtConcurrent::run([copy, self] {
+        copy->moveToThread(QThread::currentThread());
+        const std::unique_ptr<QTextDocument> document(copy);
+        return CoinDocument::pdf(*document, [self](int done, int all) {
             QMetaObject::invokeMethod(
                 qApp,
                 [self, done, all] {
@@ -435,8 +437,6 @@ void BreakdownTableViewController::ShareCoinButtonClicked() {
                 },
                 Qt::QueuedConnection);
         });
-        document->moveToThread(nullptr);
-        return bytes;
     }));
 }
 

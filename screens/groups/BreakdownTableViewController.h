@@ -3,6 +3,7 @@
 // number and total value, search, sort, swipe delete and the way into the edit screen. One
 // implementation; the three screens differ only by their Kind (BreakdownTableViewController.cpp
 // holds the three side by side).
+#include "model/Predicate.h"
 #include "model/Records.h"
 #include "platform/kit/SearchController.h"
 #include "platform/kit/TableView.h"
@@ -101,7 +102,7 @@ public:
     quint64 CoinCount = 0;
     std::optional<bool> SortAsc;
     bool DarkMode = false;
-    std::shared_ptr<QTextDocument> CoinString;
+    std::unique_ptr<QTextDocument> CoinString;
     QUrl outputFileURL;
     ProgressView* ProgressView_;
 

@@ -1,0 +1,61 @@
+#include "../screens/groups/ReportTestSupport.h"
+#include "TestSupport.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+
+// Scripts write the report of a group with no display at all.
+TEST_F(PelvaneTest, TheReportRunsFromTheCommandLine) {
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        env.remove(QString::fromLatin1(name));
+    QString errors, output;
+    auto run = [&](const QStringList& arguments) {
+        QProcess program;
+        program.setProcessEnvironment(env);
+        program.start(QStringLiteral(PELVANE_BINARY),
+                      QStringList{QStringLiteral("--data-dir"), dir() + "/store"} + arguments);
+        EXPECT_TRUE(program.waitForFinished(60000));
+        errors = QString::fromUtf8(program.readAllStandardError());
+        output = QString::fromUtf8(program.readAllStandardOutput());
+        return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+    };
+    ASSERT_EQ(run({"--import", PELVANE_SOURCE_DIR "/samples/Pelvane-sample.csv"}), 0);
+
+    const QString file = dir() + "/wheat.pdf";
+    EXPECT_EQ(run({"--report", "denomination", "1 Cent Lincoln Wheat", "--pdf", file}), 0);
+    EXPECT_EQ(output.trimmed(), "wrote PDF file with multiple pages to: " + file);
+    PdfPages wheat(file);
+    ASSERT_EQ(wheat.count(), 1);
+    EXPECT_NEAR(wheat.size(0).width(), 595.2, 0.01);
+    EXPECT_TRUE(wheat.all().startsWith("Coins Filtered by Denomination: 1 Cent Lincoln Wheat"));
+    EXPECT_TRUE(wheat.inOrder({"Coin Year: 1909", "Coin Year: 1914"})) << wheat.all().toStdString();
+
+    // The documents folder inside the data folder unless told otherwise.
+    EXPECT_EQ(run({"--report", "year", "1909"}), 0);
+    PdfPages year(dir() + "/store/Documents/CoinListByYear.pdf");
+    EXPECT_TRUE(year.all().startsWith("Coins Filtered by Year: 1909 Coin Denomination: "));
+    EXPECT_EQ(run({"--report", "country", "Canada"}), 0);
+    EXPECT_GT(PdfPages(dir() + "/store/Documents/CoinListByCountry.pdf").count(), 0);
+
+    EXPECT_EQ(run({"--report", "country", "Atlantis", "--pdf", dir() + "/none.pdf"}), 1);
+    EXPECT_FALSE(errors.isEmpty());
+    EXPECT_FALSE(QFile::exists(dir() + "/none.pdf"));
+    EXPECT_EQ(run({"--report", "colour", "red"}), 2);
+    EXPECT_TRUE(errors.startsWith("usage: pelvane"));
+    EXPECT_EQ(run({"--report", "year", "40000"}), 2);
+    EXPECT_EQ(run({"--report", "year"}), 2);
+
+    // A file that cannot be replaced stays as it was.
+    QDir().mkpath(dir() + "/locked");
+    const QString kept = dir() + "/locked/report.pdf";
+    QFile::copy(file, kept);
+    QFile::setPermissions(dir() + "/locked", QFile::ReadOwner | QFile::ExeOwner);
+    EXPECT_EQ(run({"--report", "year", "1909", "--pdf", kept}), 1);
+    QFile::setPermissions(dir() + "/locked",
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_TRUE(output.startsWith("Could not create PDF file: ")) << output.toStdString();
+    EXPECT_EQ(PdfPages(kept).texts, wheat.texts);
+}
