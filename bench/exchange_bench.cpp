@@ -1,5 +1,6 @@
 // Exchange-file figures on 32,000 coins, each with two distinct ~3 KB pictures.
 // Prints one figure per line.
+#include "PeakMemory.h"
 #include "exchange/ExchangeReader.h"
 #include "exchange/ExchangeWriter.h"
 #include "model/ManagedObjectContext.h"
@@ -39,27 +40,7 @@ std::unique_ptr<PersistentContainer> open(const QString& dir) {
     return c;
 }
 
-// A memory figure of /proc/self/status in kB (Linux): VmHWM is the peak resident memory since
-// the last reset, VmRSS the current one.
-long statusKb(const char* key) {
-    QFile status(QStringLiteral("/proc/self/status"));
-    status.open(QIODevice::ReadOnly);
-    for (const QByteArray& line : status.readAll().split('\n'))
-        if (line.startsWith(key))
-            return line.mid(qsizetype(qstrlen(key))).trimmed().split(' ').first().toLong();
-    return 0;
-}
-long peakKb() {
-    return statusKb("VmHWM:");
-}
-long currentKb() {
-    return statusKb("VmRSS:");
-}
-void resetPeak() {
-    QFile clear(QStringLiteral("/proc/self/clear_refs"));
-    if (clear.open(QIODevice::WriteOnly))
-        clear.write("5");
-}
+using namespace PeakMemory;
 
 // The coins of the benchmark; the yardstick inserts the same records.
 void fill(Coins& coin, int i, const QList<QByteArray>& pics) {

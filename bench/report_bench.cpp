@@ -2,29 +2,15 @@
 // pictures each, from the share action to the closed file, with the peak memory of the larger
 // one, and the print screen's listing of 1,000 coins. One figure per line.
 #include "BenchProgram.h"
+#include "PeakMemory.h"
 #include "screens/ProcessState.h"
 #include "screens/groups/DenominationBreakdownTableViewController.h"
 #include "screens/groups/PrintCoinsViewController.h"
 
-#include <QFile>
-
 using namespace BenchCollection;
+using namespace PeakMemory;
 
 namespace {
-long statusKb(const char* key) {
-    QFile status(QStringLiteral("/proc/self/status"));
-    status.open(QIODevice::ReadOnly);
-    for (const QByteArray& line : status.readAll().split('\n'))
-        if (line.startsWith(key))
-            return line.mid(qsizetype(qstrlen(key))).trimmed().split(' ').first().toLong();
-    return 0;
-}
-void resetPeak() {
-    QFile clear(QStringLiteral("/proc/self/clear_refs"));
-    if (clear.open(QIODevice::WriteOnly))
-        clear.write("5");
-}
-
 // Two groups, each coin with a front and a back picture of its own.
 void buildGroups(const QString& dir) {
     PersistentContainer::setDefaultDirectory(dir);
@@ -72,10 +58,10 @@ int main(int argc, char** argv) {
     report(program, "Dime"); // fonts and plugins loaded once
     const double thousand = report(program, "Dime");
     print("report: pdf of 1,000 coins", thousand, "s", "<= 1.2 s");
-    const long before = statusKb("VmRSS:");
+    const long before = currentKb();
     resetPeak();
     const double fourThousand = report(program, "Cent");
-    const double peakMb = double(statusKb("VmHWM:") - before) / 1024.0;
+    const double peakMb = double(peakKb() - before) / 1024.0;
     print("report: pdf of 4,000 coins", fourThousand, "s", "<= 4.5 x the 1,000 figure");
     print("report: pdf of 4,000 / pdf of 1,000", fourThousand / thousand, "x", "<= 4.5");
     print("report: peak memory of the 4,000-coin pdf", peakMb, "MB", "-");

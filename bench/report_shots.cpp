@@ -16,6 +16,8 @@
 #include <QApplication>
 #include <QScrollBar>
 
+#include <cstdio>
+
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     if (argc < 4)
@@ -43,7 +45,14 @@ int main(int argc, char** argv) {
     tabs->setSelectedIndex(1);
     auto* countries =
         static_cast<GroupTableViewController*>(tabs->tab(1)->viewControllers().value(0));
-    countries->tableView->selectRow({0, int(countries->FilteredValueList.indexOf(country))});
+    settle(100);
+    int row = int(countries->ValueList.indexOf(country));
+    if (row < 0) {
+        std::fprintf(stderr, "no country %s among %s\n", qPrintable(country),
+                     qPrintable(countries->ValueList.join(", ")));
+        return 1;
+    }
+    countries->tableView->selectRow({0, row});
     auto* breakdown = static_cast<BreakdownTableViewController*>(tabs->tab(1)->topViewController());
     settle(100);
     breakdown->ShareCoinButtonClicked();

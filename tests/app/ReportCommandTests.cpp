@@ -28,7 +28,7 @@ TEST_F(PelvaneTest, TheReportRunsFromTheCommandLine) {
     EXPECT_EQ(run({"--report", "denomination", "1 Cent Lincoln Wheat", "--pdf", file}), 0);
     EXPECT_EQ(output.trimmed(), "wrote PDF file with multiple pages to: " + file);
     PdfPages wheat(file);
-    ASSERT_EQ(wheat.count(), 1);
+    ASSERT_EQ(wheat.count(), 2);
     EXPECT_NEAR(wheat.size(0).width(), 595.2, 0.01);
     EXPECT_TRUE(wheat.all().startsWith("Coins Filtered by Denomination: 1 Cent Lincoln Wheat"));
     EXPECT_TRUE(wheat.inOrder({"Coin Year: 1909", "Coin Year: 1914"})) << wheat.all().toStdString();

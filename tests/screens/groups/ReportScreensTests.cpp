@@ -15,9 +15,6 @@
 #include <QTextBlock>
 #include <QTextDocument>
 
-#include <csignal>
-#include <sys/resource.h>
-
 namespace {
 QByteArray picture(Qt::GlobalColor colour) {
     QImage image(100, 100, QImage::Format_RGB32);
@@ -317,18 +314,13 @@ TEST_F(ReportTest, AWriteCutShortKeepsTheEarlierReport) {
 
     addCoin("Dime", 1800, 1, 1.0f, "USA", "P");
     b->load();
-    const auto previous = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit old{};
-    getrlimit(RLIMIT_FSIZE, &old);
-    rlimit limit = old;
-    limit.rlim_cur = 4096;
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
-    Console::startCapture();
-    fakes.shareSheet->presented.clear();
-    barButton(b, "ShareButton")->click();
-    setrlimit(RLIMIT_FSIZE, &old);
-    std::signal(SIGXFSZ, previous);
-
+    {
+        FileSizeLimit limit(4096);
+        ASSERT_TRUE(limit.isSet());
+        Console::startCapture();
+        fakes.shareSheet->presented.clear();
+        barButton(b, "ShareButton")->click();
+    }
     EXPECT_EQ(Console::captured(), QStringList{"Could not create PDF file: File too large"});
     EXPECT_EQ(fakes.shareSheet->presented.size(), 1);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
