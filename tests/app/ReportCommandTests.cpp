@@ -1,26 +1,18 @@
 #include "../screens/groups/ReportTestSupport.h"
+#include "Headless.h"
 #include "TestSupport.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
-#include <QProcessEnvironment>
 
 // Scripts write the report of a group with no display at all.
 TEST_F(PelvaneTest, TheReportRunsFromTheCommandLine) {
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        env.remove(QString::fromLatin1(name));
     QString errors, output;
     auto run = [&](const QStringList& arguments) {
-        QProcess program;
-        program.setProcessEnvironment(env);
-        program.start(QStringLiteral(PELVANE_BINARY),
-                      QStringList{QStringLiteral("--data-dir"), dir() + "/store"} + arguments);
-        EXPECT_TRUE(program.waitForFinished(60000));
-        errors = QString::fromUtf8(program.readAllStandardError());
-        output = QString::fromUtf8(program.readAllStandardOutput());
-        return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+        const HeadlessRun r = runHeadless(dir() + "/store", arguments);
+        errors = r.errors;
+        output = r.output;
+        return r.exitCode;
     };
     ASSERT_EQ(run({"--import", PELVANE_SOURCE_DIR "/samples/Pelvane-sample.csv"}), 0);
 
