@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "model/PersistentContainer.h"
+#include "platform/Files.h"
 #include "platform/UserDefaults.h"
 
 #include <QCommandLineParser>
@@ -30,6 +31,15 @@ const QList<Option>& options() {
          "FILE",
          "Merge the exchange file FILE into the collection and exit.",
          [](LaunchOptions& o, const QString& v) { o.importFile = v; }},
+        {{"report"},
+         "KIND",
+         "Write the PDF report of a group and exit: KIND is denomination, country or year, "
+         "followed by the group's VALUE.",
+         [](LaunchOptions& o, const QString& v) { o.report = QStringList{v}; }},
+        {{"pdf"},
+         "FILE",
+         "Write the report to FILE instead of the documents folder.",
+         [](LaunchOptions& o, const QString& v) { o.pdfFile = v; }},
         {{"dark"},
          {},
          "Use the dark appearance.",
@@ -94,14 +104,17 @@ LaunchOptions parseLaunchOptions(const QStringList& arguments) {
         launch.error = usageError(parser.errorText());
         return launch;
     }
-    if (!parser.positionalArguments().isEmpty()) {
+    for (qsizetype i = 0; i < options().size(); ++i)
+        if (parser.isSet(parserOptions[i]))
+            options()[i].apply(launch, parser.value(parserOptions[i]));
+    // The only free argument is the group a report is for (--report year 1964).
+    if (!launch.report.isEmpty())
+        launch.report += parser.positionalArguments();
+    else if (!parser.positionalArguments().isEmpty()) {
         launch.error = usageError(
             QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().first()));
         return launch;
     }
-    for (qsizetype i = 0; i < options().size(); ++i)
-        if (parser.isSet(parserOptions[i]))
-            options()[i].apply(launch, parser.value(parserOptions[i]));
     if (!launch.message.isEmpty())
         return launch;
     if (!launch.exportFile.isEmpty() && !launch.importFile.isEmpty())
@@ -114,4 +127,5 @@ void useDataDirectory(const QString& dir) {
     QDir().mkpath(absolute);
     PersistentContainer::setDefaultDirectory(absolute);
     UserDefaults::useFile(QDir(absolute).filePath(QStringLiteral("Pelvane.ini")));
+    Files::setDocumentsDirectory(QDir(absolute).filePath(QStringLiteral("Documents")));
 }

@@ -10,6 +10,8 @@ struct LaunchOptions {
     QString grabFile;      // --grab PNG: save a picture of the window after start-up and exit
     bool dark = false;     // --dark: the dark appearance, whatever the desktop says
     bool openMenu = false; // --open-menu: start with the menu opened (screenshots)
+    QStringList report;    // --report KIND VALUE: write the PDF report of a group and exit
+    QString pdfFile;       // --pdf FILE: where the report goes
     QString message;       // --help, --version: printed on stdout, then the program exits with 0
     QString error;         // set when the arguments make no sense: printed on stderr, exit 2
 };

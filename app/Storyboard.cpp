@@ -13,6 +13,7 @@
 #include "screens/groups/CountryGroupTableViewController.h"
 #include "screens/groups/DenominationBreakdownTableViewController.h"
 #include "screens/groups/DenominationGroupTableViewController.h"
+#include "screens/groups/PrintCoinsViewController.h"
 #include "screens/groups/YearBreakdownTableViewController.h"
 #include "screens/groups/YearGroupTableViewController.h"
 #include "screens/list/MainListTableViewController.h"
@@ -64,5 +65,6 @@ void install() {
     push("showCountryBreakdown", [] { return new CountryBreakdownTableViewController; });
     push("showYearBreakdown", [] { return new YearBreakdownTableViewController; });
     push("Grouped", [] { return new EditViewController; });
+    push("PrintCoins", [] { return new PrintCoinsViewController; });
 }
 } // namespace AppStoryboard

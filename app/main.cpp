@@ -5,9 +5,11 @@
 #include "platform/kit/Appearance.h"
 #include "platform/kit/FatalMessage.h"
 #include "platform/kit/Window.h"
+#include "screens/groups/ReportCommand.h"
 #include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QTimer>
 
@@ -32,6 +34,20 @@ int runWithoutWindow(int argc, char** argv, const LaunchOptions& options) {
     return !options.exportFile.isEmpty() ? Exchange::runExport(context, options.exportFile)
                                          : Exchange::runImport(context, options.importFile);
 }
+// The report lays text out and draws it, so it needs fonts but never a display.
+int runReport(int argc, char** argv, const LaunchOptions& options) {
+    if (const QString wrong = ReportCommand::check(options.report); !wrong.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qPrintable(wrong));
+        return 2;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    prepare(options);
+    AppDelegate delegate;
+    delegate.didFinishLaunching();
+    return ReportCommand::run(*delegate.persistentContainer().viewContext(), options.report,
+                              options.pdfFile);
+}
 } // namespace
 
 int main(int argc, char** argv) {
@@ -49,6 +65,8 @@ int main(int argc, char** argv) {
     }
     if (!options.exportFile.isEmpty() || !options.importFile.isEmpty())
         return runWithoutWindow(argc, argv, options);
+    if (!options.report.isEmpty())
+        return runReport(argc, argv, options);
 
     QApplication app(argc, argv);
     FatalMessage::installForWindowSession();

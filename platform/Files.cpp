@@ -3,12 +3,32 @@
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
+#include <QStandardPaths>
 #include <QStringDecoder>
 
 namespace Files {
 
 QString temporaryDirectory() {
     return QDir::tempPath() + QLatin1Char('/');
+}
+
+namespace {
+QString& documentsSetting() {
+    static QString dir;
+    return dir;
+}
+} // namespace
+
+QString documentsDirectory() {
+    QString dir = documentsSetting();
+    if (dir.isEmpty())
+        dir = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QDir().mkpath(dir);
+    return dir.endsWith(QLatin1Char('/')) ? dir : dir + QLatin1Char('/');
+}
+
+void setDocumentsDirectory(const QString& dir) {
+    documentsSetting() = dir;
 }
 
 bool writeAll(QIODevice& device, const QByteArray& bytes, QString* error) {
@@ -26,7 +46,10 @@ bool writeAll(QIODevice& device, const QByteArray& bytes, QString* error) {
 
 bool writeAtomically(const QString& path, const QByteArray& bytes, QString* error) {
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && writeAll(file, bytes, error) && file.commit())
+    // Unbuffered: a small file would otherwise sit in the buffer until commit(), which does
+    // not notice that writing it out failed and puts the cut file in place of the earlier one.
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeAll(file, bytes, error) &&
+        file.commit())
         return true;
     if (error && (file.error() != QFileDevice::NoError || error->isEmpty()))
         *error = file.errorString();

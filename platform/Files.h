@@ -8,6 +8,10 @@ class QIODevice;
 namespace Files {
 // The temporary folder, ending with "/".
 QString temporaryDirectory();
+// The documents folder, ending with "/": the user's documents, or the one set (inside the data
+// folder when one is given). Created when asked for.
+QString documentsDirectory();
+void setDocumentsDirectory(const QString& dir);
 // Replaces the file in one step (never half-written); false with the reason in *error, the
 // system's own ("No space left on device", "File too large"), and the earlier file whole.
 bool writeAtomically(const QString& path, const QByteArray& bytes, QString* error = nullptr);

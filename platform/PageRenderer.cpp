@@ -65,7 +65,9 @@ void PageRenderer::drawPage(QPainter& painter, int index, const QRectF& bounds) 
     painter.setClipRect(QRectF(0, 0, m_printable.width(), height));
     painter.translate(0, -index * height);
     QAbstractTextDocumentLayout::PaintContext context;
-    context.clip = QRectF(0, index * height, m_printable.width(), height);
+    // A line that only touches the page's edge belongs to the page beside it: drawn here too, it
+    // would be hidden by the clip but still be in the page's text.
+    context.clip = QRectF(0, index * height + 0.5, m_printable.width(), height - 1);
     context.palette.setColor(QPalette::Text, Qt::black);
     m_document.documentLayout()->draw(&painter, context);
     painter.restore();

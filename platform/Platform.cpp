@@ -1,5 +1,6 @@
 #include "platform/Platform.h"
 
+#include "platform/DesktopPrintController.h"
 #include "platform/DesktopServices.h"
 
 namespace {
@@ -40,6 +41,9 @@ ReviewRequester& reviewRequester() {
 PhotoLibrary& photoLibrary() {
     return get<PhotoLibrary, DesktopPhotoLibrary>();
 }
+PrintController& printController() {
+    return get<PrintController, DesktopPrintController>();
+}
 
 void install(std::unique_ptr<MailComposer> s) {
     slot<MailComposer>() = std::move(s);
@@ -65,6 +69,9 @@ void install(std::unique_ptr<ReviewRequester> s) {
 void install(std::unique_ptr<PhotoLibrary> s) {
     slot<PhotoLibrary>() = std::move(s);
 }
+void install(std::unique_ptr<PrintController> s) {
+    slot<PrintController>() = std::move(s);
+}
 
 void reset() {
     slot<MailComposer>().reset();
@@ -75,5 +82,6 @@ void reset() {
     slot<DocumentPicker>().reset();
     slot<ReviewRequester>().reset();
     slot<PhotoLibrary>().reset();
+    slot<PrintController>().reset();
 }
 } // namespace Platform

@@ -11,7 +11,7 @@ packages=(
   qt6-image-formats-plugins qt6-svg-dev libqt6svg6
   libsqlite3-dev libjpeg-dev
   libgtest-dev libgmock-dev
-  fonts-liberation
+  fonts-liberation fonts-wqy-microhei
   xvfb xauth poppler-utils
   appstream desktop-file-utils
   clang-format

@@ -3,6 +3,7 @@
 #include "TestSupport.h"
 #include "app/AppDelegate.h"
 #include "model/Records.h"
+#include "platform/Files.h"
 #include "screens/ProcessState.h"
 
 class AppTest : public PelvaneTest {
@@ -10,6 +11,7 @@ protected:
     void SetUp() override {
         PelvaneTest::SetUp();
         PersistentContainer::setDefaultDirectory(dir());
+        Files::setDocumentsDirectory(dir() + QStringLiteral("/Documents"));
         resetProcessState();
         delegate = std::make_unique<AppDelegate>();
     }

@@ -1,5 +1,8 @@
 #include "TestSupport.h"
 
+#include <csignal>
+#include <sys/resource.h>
+
 #include "platform/Console.h"
 #include "platform/UserDefaults.h"
 
@@ -81,4 +84,21 @@ QByteArray jpegClaiming(int width, int height) {
     bytes[sof + 7] = char(width >> 8);
     bytes[sof + 8] = char(width & 0xFF);
     return bytes;
+}
+
+FileSizeLimit::FileSizeLimit(unsigned long bytes) {
+    previousHandler_ = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    previousLimit_ = limit.rlim_cur;
+    limit.rlim_cur = bytes;
+    set_ = setrlimit(RLIMIT_FSIZE, &limit) == 0;
+}
+
+FileSizeLimit::~FileSizeLimit() {
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = previousLimit_;
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, previousHandler_);
 }

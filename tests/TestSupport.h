@@ -16,6 +16,22 @@ private:
     QTemporaryDir tmp_;
 };
 
+// A file-size limit on this process while it lives, as a full or quota-bound disk gives:
+// writing past `bytes` fails with "File too large" instead of stopping the process.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(unsigned long bytes);
+    ~FileSizeLimit();
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+    bool isSet() const { return set_; }
+
+private:
+    bool set_ = false;
+    unsigned long previousLimit_ = 0;
+    void (*previousHandler_)(int) = nullptr;
+};
+
 // Spins the event loop until pred() holds or the time is up; true when it holds.
 bool waitUntil(const std::function<bool()>& pred, int timeoutMs = 3000);
 

@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 
 #include <QList>
+#include <QPrinter>
 
 struct FakeMailComposer : MailComposer {
     bool canSend = true;
@@ -78,6 +79,32 @@ struct FakePhotoLibrary : PhotoLibrary {
     }
 };
 
+// Prints the handed document into a PDF file, as a person choosing print-to-file would.
+struct FakePrintController : PrintController {
+    QString outputFile; // where the pages go; empty: the user cancels
+    int presented = 0;
+    bool showedNumberOfCopies = false;
+    int copies = 1;
+    void present(QTextDocument& document, const PrintInfo&, bool showsNumberOfCopies, QWidget*,
+                 std::function<void(bool, const QString&)> completion) override {
+        ++presented;
+        showedNumberOfCopies = showsNumberOfCopies;
+        if (outputFile.isEmpty()) {
+            if (completion)
+                completion(false, QString());
+            return;
+        }
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(outputFile);
+        printer.setCopyCount(copies);
+        QString error;
+        const bool printed = PrintController::print(document, printer, &error);
+        if (completion)
+            completion(printed, error);
+    }
+};
+
 // Installs a fresh fake of every service and keeps pointers to them for inspection.
 struct Fakes {
     FakeMailComposer* mail;
@@ -88,11 +115,12 @@ struct Fakes {
     FakeDocumentPicker* documentPicker;
     FakeReviewRequester* reviewRequester;
     FakePhotoLibrary* photoLibrary;
+    FakePrintController* printController;
 
     static Fakes install() {
         Fakes f{new FakeMailComposer,    new FakeMessageComposer, new FakeShareSheet,
                 new FakeWebBrowser,      new FakeImagePicker,     new FakeDocumentPicker,
-                new FakeReviewRequester, new FakePhotoLibrary};
+                new FakeReviewRequester, new FakePhotoLibrary,    new FakePrintController};
         Platform::install(std::unique_ptr<MailComposer>(f.mail));
         Platform::install(std::unique_ptr<MessageComposer>(f.messages));
         Platform::install(std::unique_ptr<ShareSheet>(f.shareSheet));
@@ -101,6 +129,7 @@ struct Fakes {
         Platform::install(std::unique_ptr<DocumentPicker>(f.documentPicker));
         Platform::install(std::unique_ptr<ReviewRequester>(f.reviewRequester));
         Platform::install(std::unique_ptr<PhotoLibrary>(f.photoLibrary));
+        Platform::install(std::unique_ptr<PrintController>(f.printController));
         return f;
     }
 };

@@ -1,16 +1,27 @@
 #include "screens/groups/BreakdownTableViewController.h"
 
+#include "platform/Files.h"
+#include "platform/Platform.h"
 #include "platform/kit/Appearance.h"
+#include "platform/kit/Views.h"
 #include "screens/Application.h"
 #include "screens/Currency.h"
 #include "screens/DetailReceiver.h"
 #include "screens/ProcessState.h"
+#include "screens/TextMessageAlert.h"
+#include "screens/groups/CoinDocument.h"
 #include "screens/groups/CountryBreakdownTableViewController.h"
 #include "screens/groups/DenominationBreakdownTableViewController.h"
 #include "screens/groups/YearBreakdownTableViewController.h"
 
+#include <QCoreApplication>
+#include <QFutureWatcher>
+#include <QPointer>
 #include <QScopeGuard>
+#include <QTextDocument>
+#include <QThread>
 #include <QVBoxLayout>
+#include <QtConcurrent>
 #include <algorithm>
 
 namespace {
@@ -31,6 +42,25 @@ QString money(const Coins& c) {
 }
 QString total(const Coins& c) {
     return Currency::text(double(c.quantity()) * double(c.value()));
+}
+QString denominationText(const Coins& c) {
+    return c.denomination();
+}
+QString countryText(const Coins& c) {
+    return c.country();
+}
+using A = Coins::Attr;
+void denominationLine(CoinDocument& d, const Coins& c) {
+    d.appendLine(QStringLiteral("Denomination: "), c, A::denomination);
+}
+void descriptionLine(CoinDocument& d, const Coins& c) {
+    d.appendLine(QStringLiteral("Description: "), c, A::descrip);
+}
+void countryLine(CoinDocument& d, const Coins& c) {
+    d.appendLine(QStringLiteral("Country: "), c, A::country);
+}
+void gradeLine(CoinDocument& d, const Coins& c) {
+    d.appendLine(QStringLiteral("Grade #: "), c, A::gradeNumber);
 }
 } // namespace
 
@@ -53,6 +83,14 @@ const Kind& Kind::denomination() {
         .calledFromList = "DenominationBreakdown",
         .unwind = "unwindToDenominationTableView",
         .pdfFileName = "CoinListByDenomination.pdf",
+        .reportTitle = "Coins Filtered by Denomination: ",
+        .titleValue = denominationText,
+        .listingLines =
+            [](CoinDocument& d, const Coins& c) {
+                denominationLine(d, c);
+                descriptionLine(d, c);
+                countryLine(d, c);
+            },
         .makeCell = []() -> BreakdownTableViewCell* {
             return new DenominationBreakdownTableViewCell;
         }};
@@ -78,6 +116,15 @@ const Kind& Kind::country() {
         .calledFromList = "CountryBreakdown",
         .unwind = "unwindToCountryTableView",
         .pdfFileName = "CoinListByCountry.pdf",
+        .reportTitle = "Coins Filtered by Country: ",
+        .titleValue = countryText,
+        .listingLines =
+            [](CoinDocument& d, const Coins& c) {
+                countryLine(d, c);
+                denominationLine(d, c);
+                descriptionLine(d, c);
+                gradeLine(d, c);
+            },
         .makeCell = []() -> BreakdownTableViewCell* { return new CountryBreakdownTableViewCell; }};
     return k;
 }
@@ -99,8 +146,33 @@ const Kind& Kind::year() {
         .calledFromList = "YearBreakdown",
         .unwind = "unwindToYearTableView",
         .pdfFileName = "CoinListByYear.pdf",
+        .reportTitle = "Coins Filtered by Year: ",
+        .titleValue = yearText,
+        .listingLines =
+            [](CoinDocument& d, const Coins& c) {
+                d.appendLine(QStringLiteral("Year: "), yearText(c));
+                denominationLine(d, c);
+                descriptionLine(d, c);
+                countryLine(d, c);
+                gradeLine(d, c);
+            },
         .makeCell = []() -> BreakdownTableViewCell* { return new YearBreakdownTableViewCell; }};
     return k;
+}
+
+const Kind* Kind::forOrigin(const QString& calledFromList) {
+    for (const Kind* k : {&denomination(), &country(), &year()})
+        if (k->calledFromList == calledFromList)
+            return k;
+    return nullptr;
+}
+
+FetchRequest Kind::fetchRequest(const QString& groupValue, bool ascending) const {
+    FetchRequest request(QStringLiteral("Coins"));
+    request.returnsObjectsAsFaults = false;
+    request.predicate = Predicate::format(predicate, groupValue);
+    request.sortDescriptors = {{firstSortKey, ascending}, {secondSortKey, ascending}};
+    return request;
 }
 
 BreakdownTableViewCell::BreakdownTableViewCell(QWidget* parent)
@@ -115,10 +187,14 @@ BreakdownTableViewController::BreakdownTableViewController(const Kind& kind, QWi
     : ViewController(parent)
     , searchController(new SearchController(this))
     , tableView(new TableView(this))
+    , outputFileURL(QUrl::fromLocalFile(Files::documentsDirectory() + kind.pdfFileName))
+    , ProgressView_(new ProgressView(this))
     , kind_(kind) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(ProgressView_);
     layout->addWidget(tableView);
+    ProgressView_->hide();
     tableView->registerCell(QStringLiteral("Cell"), [&kind] { return kind.makeCell(); });
     registerUnwindAction(kind.unwind, [this](StoryboardSegue& s) { unwindToTableView(s); });
     context = managedObjectContext = Application::viewContext();
@@ -134,13 +210,24 @@ void BreakdownTableViewController::viewDidLoad() {
     load();
     navigationItem().rightItems = {
         {QStringLiteral("Share"), [this] { ShareCoinButtonClicked(); }, nullptr,
-         QStringLiteral("ShareButton"), QStringLiteral("square.and.arrow.up"), false},
+         QStringLiteral("ShareButton"), QStringLiteral("square.and.arrow.up")},
         {QStringLiteral("Print"), [this] { PrintButtonClicked(); }, nullptr,
-         QStringLiteral("PrintButton"), QStringLiteral("printer"), false},
+         QStringLiteral("PrintButton"), QStringLiteral("printer")},
         {QStringLiteral("Sort"), [this] { SortButtonTapped(); }, nullptr,
          QStringLiteral("SortButton"), QStringLiteral("arrow.up.arrow.down")}};
     updateNavigationBar();
+    updateShareButton();
     DarkMode = Appearance::isDark();
+}
+
+void BreakdownTableViewController::updateShareButton() {
+    // An empty list has no first coin to name the report after.
+    const bool enabled = !listInUse().isEmpty() && !reportRunning_;
+    BarButtonItem& share = navigationItem().rightItems[0];
+    if (share.enabled == enabled)
+        return;
+    share.enabled = enabled;
+    updateNavigationBar();
 }
 
 void BreakdownTableViewController::load() {
@@ -148,11 +235,7 @@ void BreakdownTableViewController::load() {
     value = 0;
     CoinCount = 0;
     searchKeysAt_.reset();
-    FetchRequest request(QStringLiteral("Coins"));
-    request.returnsObjectsAsFaults = false;
-    request.predicate = Predicate::format(kind_.predicate, kind_.groupValue());
-    const bool ascending = SortAsc.value_or(true);
-    request.sortDescriptors = {{kind_.firstSortKey, ascending}, {kind_.secondSortKey, ascending}};
+    const FetchRequest request = kind_.fetchRequest(kind_.groupValue(), SortAsc.value_or(true));
     // A failed fetch leaves the list empty.
     CoinList = context->fetch<Coins>(request);
     for (const CoinPtr& coin : std::as_const(CoinList)) {
@@ -160,6 +243,8 @@ void BreakdownTableViewController::load() {
         CoinCount += quint64(qint64(coin->quantity()));
     }
     tableView->reloadData();
+    if (!navigationItem().rightItems.isEmpty())
+        updateShareButton();
 }
 
 void BreakdownTableViewController::SortButtonTapped() {
@@ -206,6 +291,7 @@ void BreakdownTableViewController::updateSearchResultsForSearchController(
     if (text.isEmpty()) {
         FilteredCoinList = CoinList;
         tableView->reloadData();
+        updateShareButton();
         return;
     }
     const QString wanted = kind_.searchIgnoresCase ? text.toLower() : text;
@@ -219,6 +305,7 @@ void BreakdownTableViewController::updateSearchResultsForSearchController(
     filteredValue_ = sum;
     filteredValueAt_ = context->changeCount();
     tableView->reloadData();
+    updateShareButton();
 }
 
 void BreakdownTableViewController::unwindToTableView(StoryboardSegue&) {
@@ -299,4 +386,69 @@ void BreakdownTableViewController::deleteCoinAt(int row) {
         FilteredCoinList.removeOne(coin);
     }
     tableView->deleteRows({{0, row}});
+    updateShareButton();
+}
+
+void BreakdownTableViewController::PrintButtonClicked() {
+    performSegue(QStringLiteral("PrintCoins"), this);
+}
+
+void BreakdownTableViewController::ShareCoinButtonClicked() {
+    if (!Platform::messages().canSendText()) {
+        TextMessageAlert::presentLater(this);
+        return;
+    }
+    const QList<CoinPtr> coins = listInUse();
+    if (coins.isEmpty() || reportRunning_)
+        return;
+    CoinString = CoinDocument::report(kind_.reportTitle + kind_.titleValue(*coins.first()), coins,
+                                      width() / 6.0);
+    if (coins.size() < ReportInBackgroundFrom) {
+        writePdf(CoinDocument::pdf(*CoinString));
+        shareReport();
+        return;
+    }
+    // A long report is laid out and drawn in a worker, so the window keeps repainting and shows
+    // how far it has come; the bytes are the same.
+    reportRunning_ = true;
+    updateShareButton();
+    ProgressView_->setProgress(0);
+    ProgressView_->show();
+    QPointer<BreakdownTableViewController> self(this);
+    // The worker draws a copy of its own, made here and given to it with no thread, so that
+    // nothing of it is ever touched from two threads.
+    QTextDocument* copy = CoinString->clone();
+    copy->moveToThread(nullptr);
+    auto* watcher = new QFutureWatcher<QByteArray>(this);
+    connect(watcher, &QFutureWatcher<QByteArray>::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        reportRunning_ = false;
+        ProgressView_->hide();
+        updateShareButton();
+        writePdf(watcher->result());
+        shareReport();
+    });
+    watcher->setFuture(QtConcurrent::run([copy, self] {
+        copy->moveToThread(QThread::currentThread());
+        const std::unique_ptr<QTextDocument> document(copy);
+        return CoinDocument::pdf(*document, [self](int done, int all) {
+            QMetaObject::invokeMethod(
+                qApp,
+                [self, done, all] {
+                    if (self)
+                        self->ProgressView_->setProgress(float(done) / float(all), true);
+                },
+                Qt::QueuedConnection);
+        });
+    }));
+}
+
+void BreakdownTableViewController::writePdf(const QByteArray& bytes) {
+    CoinDocument::writePdfFile(outputFileURL.toLocalFile(), bytes);
+}
+
+void BreakdownTableViewController::shareReport() {
+    ShareItem file;
+    file.url = outputFileURL;
+    Platform::shareSheet().present({file}, {}, this);
 }

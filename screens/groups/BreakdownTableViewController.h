@@ -3,6 +3,7 @@
 // number and total value, search, sort, swipe delete and the way into the edit screen. One
 // implementation; the three screens differ only by their Kind (BreakdownTableViewController.cpp
 // holds the three side by side).
+#include "model/Predicate.h"
 #include "model/Records.h"
 #include "platform/kit/SearchController.h"
 #include "platform/kit/TableView.h"
@@ -11,7 +12,12 @@
 #include "screens/CoinRowCell.h"
 
 #include <QUrl>
+#include <memory>
 #include <optional>
+
+class CoinDocument;
+class ProgressView;
+class QTextDocument;
 
 class BreakdownTableViewCell : public CoinRowCell {
     Q_OBJECT
@@ -41,12 +47,24 @@ public:
         QString calledFromList; // the origin marker the edit screen returns by
         QString unwind;         // the unwind segue back here
         QString pdfFileName;
+        // The title of the report and of the print listing: this text and the first coin's
+        // value.
+        QString reportTitle;
+        QString (*titleValue)(const Coins&);
+        // The lines of a coin in the print listing, before its summary line.
+        void (*listingLines)(CoinDocument&, const Coins&);
         BreakdownTableViewCell* (*makeCell)();
 
         static const Kind& denomination();
         static const Kind& country();
         static const Kind& year();
+        // The screen an origin marker names; none for another marker.
+        static const Kind* forOrigin(const QString& calledFromList);
+        // The screen's fetch of a group value, in its sort order.
+        FetchRequest fetchRequest(const QString& groupValue, bool ascending) const;
     };
+    // From this many coins on, the report is drawn beside the screen, with its progress shown.
+    static constexpr int ReportInBackgroundFrom = 300;
 
     explicit BreakdownTableViewController(const Kind& kind, QWidget* parent = nullptr);
     const Kind& kind() const { return kind_; }
@@ -60,10 +78,11 @@ public:
     void updateSearchResultsForSearchController(SearchController* search);
     // Back from the edit screen: redrawn from the arrays as they are, without a fetch.
     void unwindToTableView(StoryboardSegue& segue);
-    // The PDF list of the group and the print screen are not part of this build: their buttons
-    // are shown disabled and these do nothing yet.
-    void ShareCoinButtonClicked() {}
-    void PrintButtonClicked() {}
+    // The PDF list of the coins shown, written to outputFileURL and offered to the share sheet.
+    void ShareCoinButtonClicked();
+    void PrintButtonClicked();
+    // True while a long report is drawn.
+    bool isWritingReport() const { return reportRunning_; }
 
     int numberOfRows(TableView*, int section) override;
     int heightForRow(TableView*, IndexPath) override { return 100; }
@@ -83,13 +102,19 @@ public:
     quint64 CoinCount = 0;
     std::optional<bool> SortAsc;
     bool DarkMode = false;
-    QString CoinString;
+    std::unique_ptr<QTextDocument> CoinString;
     QUrl outputFileURL;
+    ProgressView* ProgressView_;
 
 private:
     bool searching() const { return !searchController->text().isEmpty(); }
     const QList<CoinPtr>& listInUse() const { return searching() ? FilteredCoinList : CoinList; }
     void deleteCoinAt(int row);
+    void updateShareButton();
+    // Writes the report's bytes and offers the file, whether it was written or not.
+    void writePdf(const QByteArray& bytes);
+    void shareReport();
+    bool reportRunning_ = false;
 
     const Kind& kind_;
     std::optional<int> selectedRow_;

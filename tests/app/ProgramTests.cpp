@@ -1,21 +1,12 @@
+#include "Headless.h"
 #include "TestSupport.h"
 
 #include <QFile>
-#include <QProcess>
-#include <QProcessEnvironment>
 
 // Backups and scripts run the program where there is no display at all.
 TEST_F(PelvaneTest, ExportAndImportRunWithoutADisplay) {
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-        env.remove(QString::fromLatin1(name));
     auto run = [&](const QStringList& arguments) {
-        QProcess program;
-        program.setProcessEnvironment(env);
-        program.start(QStringLiteral(PELVANE_BINARY),
-                      QStringList{QStringLiteral("--data-dir"), dir() + "/store"} + arguments);
-        EXPECT_TRUE(program.waitForFinished(60000));
-        return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+        return runHeadless(dir() + "/store", arguments).exitCode;
     };
     EXPECT_EQ(run({"--import", PELVANE_SOURCE_DIR "/samples/Pelvane-sample.csv"}), 0);
     const QString exported = dir() + "/backup.csv";

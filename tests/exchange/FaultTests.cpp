@@ -10,9 +10,6 @@
 #include <QFile>
 #include <QImage>
 
-#include <csignal>
-#include <sys/resource.h>
-
 using Exchange::exchangeText;
 using Exchange::mergeExchangeText;
 
@@ -138,16 +135,13 @@ TEST_F(PelvaneTest, FailedWritesKeepTheEarlierFileAndTellWhy) {
     EXPECT_EQ(device.written.size(), 4096);
 
     // A file-size limit, as a full or quota-bound disk gives.
-    const auto previous = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit old{};
-    getrlimit(RLIMIT_FSIZE, &old);
-    rlimit limit = old;
-    limit.rlim_cur = 4096;
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
     error.clear();
-    const bool written = Files::writeAtomically(path("Pelvane.csv"), bigger, &error);
-    setrlimit(RLIMIT_FSIZE, &old);
-    std::signal(SIGXFSZ, previous);
+    bool written = true;
+    {
+        FileSizeLimit limit(4096);
+        ASSERT_TRUE(limit.isSet());
+        written = Files::writeAtomically(path("Pelvane.csv"), bigger, &error);
+    }
     EXPECT_FALSE(written);
     EXPECT_EQ(error, "File too large");
     QFile file(path("Pelvane.csv"));

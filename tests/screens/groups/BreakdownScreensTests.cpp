@@ -152,7 +152,8 @@ TEST_P(BreakdownScreenTest, ShowsTotalsRowsSearchAndSort) {
     auto* first = static_cast<BreakdownTableViewCell*>(b->cellForRow(b->tableView, {0, 0}));
     EXPECT_EQ(QStringList({first->Label2->text(), first->Label3->text(), first->Label4->text()}),
               k.firstRowLabels);
-    EXPECT_FALSE(barButton(b, "PrintButton")->isEnabled());
+    EXPECT_TRUE(barButton(b, "PrintButton")->isEnabled());
+    EXPECT_TRUE(barButton(b, "ShareButton")->isEnabled());
     EXPECT_FALSE(barButton(b, "PrintButton")->icon().isNull());
 
     search(b->searchController, k.typed);

@@ -1,0 +1,81 @@
+// Report figures: the PDF report of a breakdown list of 1,000 and of 4,000 coins with two
+// pictures each, from the share action to the closed file, with the peak memory of the larger
+// one, and the print screen's listing of 1,000 coins. One figure per line.
+#include "BenchProgram.h"
+#include "ProcessMemory.h"
+#include "screens/ProcessState.h"
+#include "screens/groups/DenominationBreakdownTableViewController.h"
+#include "screens/groups/PrintCoinsViewController.h"
+
+using namespace BenchCollection;
+using namespace ProcessMemory;
+
+namespace {
+// Two groups, each coin with a front and a back picture of its own.
+void buildGroups(const QString& dir) {
+    PersistentContainer::setDefaultDirectory(dir);
+    auto c = open();
+    const std::vector<QByteArray> none;
+    int seed = 0;
+    for (const auto& [denomination, count] : {std::pair{"Dime", 1000}, std::pair{"Cent", 4000}})
+        for (int i = 0; i < count; ++i) {
+            const std::vector<QByteArray> pics{picture(seed), picture(seed + 1)};
+            seed += 2;
+            auto coin = c->viewContext()->insert<Coins>();
+            fill(*coin, i, pics);
+            coin->setDenomination(QString::fromLatin1(denomination));
+        }
+    if (c->viewContext()->save())
+        std::exit(1);
+}
+
+// Seconds from the share action to the file offered.
+double report(BenchProgram::Running& program, const char* denomination) {
+    SelectedDenomination = QString::fromLatin1(denomination);
+    auto* screen = new DenominationBreakdownTableViewController;
+    program.nav()->pushViewController(screen, false);
+    settle(100);
+    program.fakes.shareSheet->presented.clear();
+    QElapsedTimer t;
+    t.start();
+    screen->ShareCoinButtonClicked();
+    while (program.fakes.shareSheet->presented.isEmpty())
+        QApplication::processEvents(QEventLoop::AllEvents, 5);
+    const double seconds = double(t.nsecsElapsed()) / 1e9;
+    program.nav()->popViewController(false);
+    settle(50);
+    return seconds;
+}
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QTemporaryDir dir;
+    buildGroups(dir.path());
+    BenchProgram::Running program(dir.path());
+
+    report(program, "Dime"); // fonts and plugins loaded once
+    const double thousand = report(program, "Dime");
+    print("report: pdf of 1,000 coins", thousand, "s", "<= 1.2 s");
+    const long before = currentKb();
+    resetPeak();
+    const double fourThousand = report(program, "Cent");
+    const double peakMb = double(peakKb() - before) / 1024.0;
+    print("report: pdf of 4,000 coins", fourThousand, "s", "<= 4.5 x the 1,000 figure");
+    print("report: pdf of 4,000 / pdf of 1,000", fourThousand / thousand, "x", "<= 4.5");
+    print("report: peak memory of the 4,000-coin pdf", peakMb, "MB", "-");
+
+    SelectedDenomination = QStringLiteral("Dime");
+    CalledFromList = QStringLiteral("DenominationBreakdown");
+    auto* listing = new PrintCoinsViewController;
+    program.nav()->pushViewController(listing, false);
+    settle(100);
+    QElapsedTimer t;
+    t.start();
+    listing->CreateFileClick();
+    listing->FileTextView->repaint();
+    QApplication::processEvents();
+    BenchCollection::print("report: print listing of 1,000 coins", ms(t) / 1000.0, "s", "<= 0.5 s");
+    return 0;
+}

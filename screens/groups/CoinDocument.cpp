@@ -1,0 +1,175 @@
+#include "screens/groups/CoinDocument.h"
+
+#include "model/Numbers.h"
+#include "platform/Console.h"
+#include "platform/Files.h"
+#include "platform/ImageCoding.h"
+#include "platform/PageRenderer.h"
+#include "screens/Currency.h"
+
+#include <QTextBlockFormat>
+#include <QTextDocument>
+#include <QTextImageFormat>
+
+namespace {
+// Qt sizes inline pictures in pixels of 1/96 inch, and the pages are laid out in points.
+constexpr qreal kPixelsPerPoint = 96.0 / 72.0;
+
+QString shortest(double number) {
+    return Numbers::formatFloat(float(number));
+}
+} // namespace
+
+CoinDocument::CoinDocument(qreal pictureWidth)
+    : document_(std::make_unique<QTextDocument>())
+    , cursor_(document_.get())
+    , pictureWidth_(pictureWidth) {
+    document_->setDefaultFont(blockFont());
+    document_->setUndoRedoEnabled(false);
+    black_.setForeground(Qt::black);
+    black_.setFont(blockFont());
+}
+
+CoinDocument::~CoinDocument() = default;
+
+QFont CoinDocument::blockFont() {
+    QFont font(QStringLiteral("Liberation Sans"));
+    font.setPointSizeF(12);
+    return font;
+}
+
+void CoinDocument::appendTitle(const QString& title, int pointSize) {
+    QTextCharFormat format;
+    format.setForeground(Qt::black);
+    format.setFontFamilies({QStringLiteral("Arial")});
+    format.setFontPointSize(pointSize);
+    QTextBlockFormat centred;
+    centred.setAlignment(Qt::AlignHCenter);
+    cursor_.setBlockFormat(centred);
+    cursor_.insertText(title, format);
+    format.setForeground(Qt::transparent);
+    cursor_.insertText(QStringLiteral("\n\n"), format);
+    QTextBlockFormat left;
+    left.setAlignment(Qt::AlignLeft);
+    cursor_.setBlockFormat(left);
+}
+
+void CoinDocument::append(const QString& text) {
+    cursor_.insertText(text, black_);
+}
+
+void CoinDocument::appendLine(const QString& label, const QString& value) {
+    cursor_.insertText(label + value + QLatin1Char('\n'), black_);
+}
+
+void CoinDocument::appendLine(const QString& label, const Coins& coin, int attribute) {
+    if (coin.hasValue(attribute))
+        appendLine(label, coin.value(attribute).toString());
+}
+
+void CoinDocument::appendPicture(const QByteArray& bytes) {
+    auto found = pictures_.find(bytes);
+    if (found == pictures_.end()) {
+        // Each distinct picture is decoded once, to learn its shape, and kept as its bytes.
+        Picture picture;
+        const QImage image = ImageCoding::decode(bytes);
+        if (!image.isNull() && image.width() > 0) {
+            picture.name = QStringLiteral("coin-picture-%1").arg(pictures_.size());
+            picture.height = pictureWidth_ * image.height() / image.width();
+            document_->addResource(QTextDocument::ImageResource, QUrl(picture.name), bytes);
+        }
+        found = pictures_.insert(bytes, picture);
+    }
+    if (found->name.isEmpty())
+        return;
+    QTextImageFormat image;
+    image.setName(found->name);
+    image.setWidth(pictureWidth_ * kPixelsPerPoint);
+    image.setHeight(found->height * kPixelsPerPoint);
+    cursor_.insertImage(image);
+    append(QStringLiteral("   "));
+}
+
+void CoinDocument::appendPictures(const Coins& coin) {
+    for (const QByteArray& bytes : {coin.frontImage(), coin.backImage()})
+        if (!bytes.isEmpty())
+            appendPicture(bytes);
+}
+
+std::unique_ptr<QTextDocument> CoinDocument::take() {
+    cursor_ = QTextCursor();
+    return std::move(document_);
+}
+
+std::unique_ptr<QTextDocument>
+CoinDocument::report(const QString& title, const QList<CoinPtr>& coins, qreal pictureWidth) {
+    CoinDocument d(pictureWidth);
+    d.appendTitle(title, 21);
+    using A = Coins::Attr;
+    for (const CoinPtr& c : coins) {
+        const auto textLine = [&](const char* label, int attribute) {
+            d.appendLine(QString::fromLatin1(label), *c, attribute);
+        };
+        textLine("Coin Denomination: ", A::denomination);
+        d.appendLine(QStringLiteral("Coin Year: "), QString::number(c->year()));
+        d.appendLine(QStringLiteral("Quantity: "), QString::number(c->quantity()));
+        textLine("Description: ", A::descrip);
+        // The one line that also leaves out an empty text.
+        if (!c->country().isEmpty())
+            d.appendLine(QStringLiteral("Country: "), c->country());
+        d.appendLine(QStringLiteral("Diameter: "), shortest(c->diameter()));
+        d.appendLine(QStringLiteral("Weight: "), shortest(c->weight()));
+        d.appendLine(QStringLiteral("Thickness: "), shortest(c->thickness()));
+        textLine("Strike Character: ", A::strikeCharacter);
+        textLine("Grade #: ", A::gradeNumber);
+        textLine("Edge: ", A::edge);
+        textLine("Mint Mark: ", A::mintMark);
+        textLine("Mint Location: ", A::mintLocation);
+        textLine("Serial #: ", A::serialNumber);
+        textLine("Period: ", A::period);
+        textLine("Designer: ", A::designer);
+        d.appendLine(QStringLiteral("Value: "), shortest(c->value()));
+        textLine("Notes: ", A::notes);
+        d.appendPictures(*c);
+        d.append(QStringLiteral("\n\n"));
+    }
+    return d.take();
+}
+
+QString CoinDocument::summaryLine(const Coins& coin) {
+    const float total = coin.value() * float(coin.quantity());
+    return QStringLiteral("Year: ") + QString::number(coin.year()) + QStringLiteral(" - ") +
+           QStringLiteral("Qty: ") + QString::number(coin.quantity()) + QStringLiteral(" - ") +
+           QStringLiteral("Total Value (Qty * Value): ") + Currency::text(double(total)) +
+           QLatin1Char('\n');
+}
+
+std::unique_ptr<QTextDocument> CoinDocument::listing(const QString& title,
+                                                     const QList<CoinPtr>& coins,
+                                                     const Lines& lines, qreal pictureWidth) {
+    CoinDocument d(pictureWidth);
+    d.appendTitle(title, 17);
+    for (const CoinPtr& c : coins) {
+        lines(d, *c);
+        d.append(summaryLine(*c));
+        d.appendPictures(*c);
+        d.append(QStringLiteral("\n\n"));
+    }
+    return d.take();
+}
+
+QByteArray CoinDocument::pdf(QTextDocument& document,
+                             const std::function<void(int, int)>& progress) {
+    PageRenderer renderer(document, PageRenderer::a4(), PageRenderer::a4());
+    return renderer.pdf(progress);
+}
+
+bool CoinDocument::writePdfFile(const QString& path, const QByteArray& bytes) {
+    QString error;
+    if (Files::writeAtomically(path, bytes, &error)) {
+        Console::print(QStringLiteral("wrote PDF file with multiple pages to: ") + path);
+        return true;
+    }
+    Console::print(QStringLiteral("Could not create PDF file: ") + error);
+    return false;
+}

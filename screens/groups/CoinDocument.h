@@ -1,0 +1,73 @@
+#pragma once
+// The styled documents made from a list of coins: the PDF report of a breakdown list and the
+// print screen's listing. Both open with the same title and put each coin's pictures inline at
+// one width; they differ in the title's size and in the lines of each coin.
+#include "model/Records.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QTextCharFormat>
+#include <QTextCursor>
+
+#include <functional>
+#include <memory>
+
+class QTextDocument;
+
+class CoinDocument {
+public:
+    // `pictureWidth`: the displayed width of every picture, in points like the text.
+    explicit CoinDocument(qreal pictureWidth);
+    ~CoinDocument();
+    CoinDocument(const CoinDocument&) = delete;
+    CoinDocument& operator=(const CoinDocument&) = delete;
+
+    // The title in black, then "\n\n" in the clear colour, all of it centred in "Arial" at
+    // `pointSize`; what follows is left-aligned in the coin blocks' font.
+    void appendTitle(const QString& title, int pointSize);
+    // Text in black in the coin blocks' font.
+    void append(const QString& text);
+    // The label, the value and a line feed.
+    void appendLine(const QString& label, const QString& value);
+    // The same with a text attribute of the coin, left out when the coin has no such text.
+    void appendLine(const QString& label, const Coins& coin, int attribute);
+    // The front picture, then the back one, each followed by three spaces; a picture whose
+    // bytes do not decode is left out.
+    void appendPictures(const Coins& coin);
+    std::unique_ptr<QTextDocument> take();
+
+    // The PDF report: the eighteen lines of every coin.
+    static std::unique_ptr<QTextDocument> report(const QString& title, const QList<CoinPtr>& coins,
+                                                 qreal pictureWidth);
+    // The print listing: each coin's `lines` and its summary line.
+    using Lines = std::function<void(CoinDocument&, const Coins&)>;
+    static std::unique_ptr<QTextDocument> listing(const QString& title, const QList<CoinPtr>& coins,
+                                                  const Lines& lines, qreal pictureWidth);
+    // The summary line of a coin in the print listing.
+    static QString summaryLine(const Coins& coin);
+
+    // The document on A4 with no margin, as PDF bytes. The document may live in any thread.
+    static QByteArray pdf(QTextDocument& document,
+                          const std::function<void(int, int)>& progress = {});
+
+    // Replaces the file at `path` whole, or leaves the earlier one; says which on the console.
+    static bool writePdfFile(const QString& path, const QByteArray& bytes);
+
+    // The coin blocks' font: one fixed font for every screen.
+    static QFont blockFont();
+
+private:
+    void appendPicture(const QByteArray& bytes);
+
+    std::unique_ptr<QTextDocument> document_;
+    QTextCursor cursor_;
+    QTextCharFormat black_;
+    qreal pictureWidth_;
+    // The resource name of each distinct picture, empty for bytes that do not decode, and its
+    // displayed height.
+    struct Picture {
+        QString name;
+        qreal height = 0;
+    };
+    QHash<QByteArray, Picture> pictures_;
+};

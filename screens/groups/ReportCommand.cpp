@@ -1,0 +1,60 @@
+#include "screens/groups/ReportCommand.h"
+
+#include "model/ManagedObjectContext.h"
+#include "model/Numbers.h"
+#include "platform/Files.h"
+#include "screens/groups/BreakdownTableViewController.h"
+#include "screens/groups/CoinDocument.h"
+
+#include <QTextDocument>
+
+#include <cstdio>
+
+namespace {
+using Kind = BreakdownTableViewController::Kind;
+
+// The breakdown list's width in the window as the program opens it.
+constexpr qreal kScreenWidth = 390;
+
+const Kind* kindNamed(const QString& name) {
+    if (name == QLatin1String("denomination"))
+        return &Kind::denomination();
+    if (name == QLatin1String("country"))
+        return &Kind::country();
+    if (name == QLatin1String("year"))
+        return &Kind::year();
+    return nullptr;
+}
+} // namespace
+
+namespace ReportCommand {
+QString check(const QStringList& arguments) {
+    if (arguments.size() != 2 || !kindNamed(arguments[0]))
+        return Usage;
+    if (arguments[0] == QLatin1String("year") && !Numbers::parseInt16(arguments[1]))
+        return Usage + QStringLiteral("\nthe year must be a whole number from -32768 to 32767");
+    return {};
+}
+
+int run(ManagedObjectContext& context, const QStringList& arguments, const QString& pdfFile) {
+    if (const QString wrong = check(arguments); !wrong.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qPrintable(wrong));
+        return 2;
+    }
+    const Kind& kind = *kindNamed(arguments[0]);
+    QString value = arguments[1];
+    if (&kind == &Kind::year())
+        value = QString::number(*Numbers::parseInt16(value));
+    const QList<CoinPtr> coins = context.fetch<Coins>(kind.fetchRequest(value, true));
+    if (coins.isEmpty()) {
+        std::fprintf(stderr, "No coins with the %s %s: nothing written.\n",
+                     qPrintable(arguments[0]), qPrintable(arguments[1]));
+        return 1;
+    }
+    const auto document = CoinDocument::report(kind.reportTitle + kind.titleValue(*coins.first()),
+                                               coins, kScreenWidth / 6);
+    const QString path =
+        pdfFile.isEmpty() ? Files::documentsDirectory() + kind.pdfFileName : pdfFile;
+    return CoinDocument::writePdfFile(path, CoinDocument::pdf(*document)) ? 0 : 1;
+}
+} // namespace ReportCommand
