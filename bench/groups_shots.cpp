@@ -1,17 +1,11 @@
 // Grabs the group tables and a breakdown list to PNG files for looking at them:
 // groups_shots DATA_DIR OUT_DIR WIDTH [dark]
-#include "Settle.h"
-#include "app/AppDelegate.h"
-#include "app/CommandLine.h"
-#include "app/Storyboard.h"
-#include "platform/fakes/Fakes.h"
+#include "ShotWindow.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/TabBarController.h"
-#include "platform/kit/Window.h"
 #include "screens/groups/BreakdownTableViewController.h"
 #include "screens/groups/GroupTableViewController.h"
-#include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>
 
@@ -19,21 +13,15 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     if (argc < 4)
         return 2;
-    useDataDirectory(QString::fromLocal8Bit(argv[1]));
     const QString out = QString::fromLocal8Bit(argv[2]);
     const int width = QString::fromLocal8Bit(argv[3]).toInt();
     const bool dark = argc > 4;
     if (dark)
         Appearance::setDark(true);
     const QString suffix = QStringLiteral("-%1%2").arg(width).arg(dark ? "-dark" : "");
-    AppDelegate delegate;
-    Fakes::install();
-    AppStoryboard::install();
-    auto* menu = new MainMenuViewController;
-    Window window(menu);
-    window.resize(width, 820);
-    window.show();
-    settle(100);
+    ShotWindow shots(QString::fromLocal8Bit(argv[1]), width);
+    auto* menu = shots.menu;
+    Window& window = shots.window;
     auto shot = [&](const char* name) {
         settle(150);
         window.grab().save(out + "/" + name + suffix + ".png");

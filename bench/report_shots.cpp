@@ -1,17 +1,11 @@
 // Grabs the print screen of a breakdown list and writes that list's PDF report, for looking at
 // them: report_shots DATA_DIR OUT_DIR WIDTH [COUNTRY]
-#include "Settle.h"
-#include "app/AppDelegate.h"
-#include "app/CommandLine.h"
-#include "app/Storyboard.h"
-#include "platform/fakes/Fakes.h"
+#include "ShotWindow.h"
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/TabBarController.h"
-#include "platform/kit/Window.h"
 #include "screens/groups/BreakdownTableViewController.h"
 #include "screens/groups/GroupTableViewController.h"
 #include "screens/groups/PrintCoinsViewController.h"
-#include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>
 #include <QScrollBar>
@@ -22,19 +16,13 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     if (argc < 4)
         return 2;
-    useDataDirectory(QString::fromLocal8Bit(argv[1]));
     const QString out = QString::fromLocal8Bit(argv[2]);
     const int width = QString::fromLocal8Bit(argv[3]).toInt();
     const QString country = argc > 4 ? QString::fromLocal8Bit(argv[4]) : "United States";
     const QString suffix = QStringLiteral("-%1").arg(width);
-    AppDelegate delegate;
-    Fakes::install();
-    AppStoryboard::install();
-    auto* menu = new MainMenuViewController;
-    Window window(menu);
-    window.resize(width, 820);
-    window.show();
-    settle(100);
+    ShotWindow shots(QString::fromLocal8Bit(argv[1]), width);
+    auto* menu = shots.menu;
+    Window& window = shots.window;
     auto shot = [&](const QString& name) {
         settle(150);
         window.grab().save(out + "/" + name + suffix + ".png");
