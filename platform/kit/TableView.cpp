@@ -3,12 +3,9 @@
 #include "platform/kit/Elide.h"
 
 #include <QAbstractListModel>
-#include <QApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScroller>
@@ -459,99 +456,4 @@ void TableView::setRevealedRow(int row) {
         return;
     revealed_ = row;
     list_->viewport()->update();
-}
-
-bool TableView::focusSearchField() {
-    auto* field = qobject_cast<QLineEdit*>(header_);
-    if (!field || !field->isVisible())
-        return false;
-    field->setFocus(Qt::ShortcutFocusReason);
-    return true;
-}
-
-std::optional<IndexPath> TableView::currentRow() const {
-    bool isRow = false;
-    const QModelIndex current = list_->currentIndex();
-    const IndexPath path = pathForListRow(current.row(), &isRow);
-    return current.isValid() && isRow ? std::optional(path) : std::nullopt;
-}
-
-bool TableView::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == list_->viewport() && event->type() == QEvent::MouseButtonPress)
-        keyboardMark_ = false;
-    if (watched == list_ && event->type() == QEvent::KeyPress)
-        return handleListKey(static_cast<QKeyEvent*>(event));
-    return false;
-}
-
-bool TableView::handleListKey(QKeyEvent* event) {
-    const Qt::KeyboardModifiers commandKeys =
-        Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    switch (event->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-    case Qt::Key_Home:
-    case Qt::Key_End:
-        keyboardMark_ = true;
-        list_->viewport()->update();
-        return false; // the list moves its current row itself
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (const auto path = currentRow())
-            selectRow(*path);
-        return true;
-    case Qt::Key_Delete:
-    case Qt::Key_Backspace:
-        if (currentRow()) {
-            const int row = list_->currentIndex().row();
-            const QRect rect = list_->visualRect(list_->currentIndex());
-            showActionsMenu(row, list_->viewport()->mapToGlobal(rect.center()));
-        }
-        return true;
-    default:
-        break;
-    }
-    // Typing goes on in the search field, as if it had been typed there.
-    const QString text = event->text();
-    if (!text.isEmpty() && text.at(0).isPrint() && !(event->modifiers() & commandKeys) &&
-        focusSearchField()) {
-        QApplication::sendEvent(header_, event);
-        return true;
-    }
-    return false;
-}
-
-void TableView::keyPressEvent(QKeyEvent* event) {
-    // From the search field: Escape (after it emptied the field) and Down go to the rows.
-    const bool fromSearch = header_ && header_->hasFocus();
-    if (fromSearch && (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Down) &&
-        event->modifiers() == Qt::NoModifier && model_->rowCount() > 0) {
-        keyboardMark_ = event->key() == Qt::Key_Down;
-        list_->setFocus(Qt::OtherFocusReason);
-        event->accept();
-        return;
-    }
-    QWidget::keyPressEvent(event);
-}
-
-void TableView::showActionsMenu(int row, QPoint globalPos) {
-    bool isRow = false;
-    const IndexPath path = pathForListRow(row, &isRow);
-    if (row < 0 || !isRow || !source_)
-        return;
-    const auto actions = source_->trailingSwipeActions(this, path);
-    if (actions.isEmpty())
-        return;
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (const SwipeAction& a : actions) {
-        const QString title = a.title;
-        menu->addAction(title, this, [this, path, title] { triggerSwipeAction(path, title); });
-    }
-    // Enter takes the first action at once when the menu was opened from the keyboard.
-    if (list_->hasFocus())
-        menu->setActiveAction(menu->actions().value(0));
-    menu->popup(globalPos);
 }
