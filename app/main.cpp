@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QMessageBox>
 #include <QTimer>
 
 #include <cstdio>
@@ -54,6 +55,13 @@ int main(int argc, char** argv) {
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
+    // A stopped run of the program starts it again like this to show why it stopped.
+    if (arguments.size() == 3 && arguments[1] == QLatin1String(FatalMessage::kOption)) {
+        QApplication app(argc, argv);
+        QObject::connect(FatalMessage::open(arguments[2]), &QMessageBox::finished, &app,
+                         &QCoreApplication::quit);
+        return QApplication::exec();
+    }
     const LaunchOptions options = parseLaunchOptions(arguments);
     if (!options.message.isEmpty()) {
         std::fputs(qPrintable(options.message), stdout);

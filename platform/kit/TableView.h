@@ -107,8 +107,12 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(class QKeyEvent* event) override;
 
+    // The width of one revealed swipe action.
+    static constexpr int kActionWidth = 84;
+
 private:
     bool handleListKey(class QKeyEvent* event);
+    QObject* makeSwipeFilter();
     friend class TableDelegate;
     friend class TableModel;
     friend class SwipeFilter;

@@ -1,0 +1,87 @@
+// The breakdown's share and print actions: the PDF report of the coins shown, and the print
+// screen of the group.
+#include "platform/Platform.h"
+#include "screens/TextMessageAlert.h"
+#include "screens/groups/BreakdownTableViewController.h"
+#include "screens/groups/CoinDocument.h"
+
+#include <QCoreApplication>
+#include <QFutureWatcher>
+#include <QPointer>
+#include <QTextDocument>
+#include <QThread>
+#include <QtConcurrent>
+
+void BreakdownTableViewController::updateShareButton() {
+    // An empty list has no first coin to name the report after.
+    const bool enabled = !listInUse().isEmpty() && !reportRunning_;
+    BarButtonItem& share = navigationItem().rightItems[0];
+    if (share.enabled == enabled)
+        return;
+    share.enabled = enabled;
+    updateNavigationBar();
+}
+
+void BreakdownTableViewController::PrintButtonClicked() {
+    performSegue(QStringLiteral("PrintCoins"), this);
+}
+
+void BreakdownTableViewController::ShareCoinButtonClicked() {
+    if (!Platform::messages().canSendText()) {
+        TextMessageAlert::presentLater(this);
+        return;
+    }
+    const QList<CoinPtr> coins = listInUse();
+    if (coins.isEmpty() || reportRunning_)
+        return;
+    CoinString = CoinDocument::report(kind_.reportTitle + kind_.titleValue(*coins.first()), coins,
+                                      width() / 6.0);
+    if (coins.size() < ReportInBackgroundFrom) {
+        writePdf(CoinDocument::pdf(*CoinString));
+        shareReport();
+        return;
+    }
+    // A long report is laid out and drawn in a worker, so the window keeps repainting and shows
+    // how far it has come; the bytes are the same.
+    reportRunning_ = true;
+    updateShareButton();
+    ProgressView_->setProgress(0);
+    ProgressView_->show();
+    QPointer<BreakdownTableViewController> self(this);
+    // The worker draws a copy of its own, made here and given to it with no thread, so that
+    // nothing of it is ever touched from two threads.
+    QTextDocument* copy = CoinString->clone();
+    copy->moveToThread(nullptr);
+    auto* watcher = new QFutureWatcher<QByteArray>(this);
+    connect(watcher, &QFutureWatcher<QByteArray>::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        reportRunning_ = false;
+        ProgressView_->hide();
+        updateShareButton();
+        writePdf(watcher->result());
+        shareReport();
+    });
+    watcher->setFuture(QtConcurrent::run([copy, self] {
+        copy->moveToThread(QThread::currentThread());
+        const std::unique_ptr<QTextDocument> document(copy);
+        return CoinDocument::pdf(*document, [self](int done, int all) {
+            QMetaObject::invokeMethod(
+                qApp,
+                [self, done, all] {
+                    if (self)
+                        self->ProgressView_->setProgress(float(done) / float(all), true);
+                },
+                Qt::QueuedConnection);
+        });
+    }));
+}
+
+void BreakdownTableViewController::writePdf(const QByteArray& bytes) {
+    CoinDocument::writePdfFile(outputFileURL.toLocalFile(), bytes);
+}
+
+void BreakdownTableViewController::shareReport() {
+    ShareItem file;
+    file.url = outputFileURL;
+    Platform::shareSheet().present({file}, {}, this);
+}
