@@ -24,6 +24,17 @@ void PelvaneTest::TearDown() {
     Console::stopCapture();
 }
 
+QByteArray readFile(const QString& file) {
+    QFile f(file);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<unreadable>");
+}
+
+void writeFile(const QString& file, const QByteArray& bytes) {
+    QFile f(file);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate)) << file.toStdString();
+    ASSERT_EQ(f.write(bytes), bytes.size());
+}
+
 bool waitUntil(const std::function<bool()>& pred, int timeoutMs) {
     QElapsedTimer t;
     t.start();

@@ -32,6 +32,11 @@ private:
     void (*previousHandler_)(int) = nullptr;
 };
 
+// A file's bytes, or "<unreadable>".
+QByteArray readFile(const QString& file);
+// Replaces a file's bytes.
+void writeFile(const QString& file, const QByteArray& bytes);
+
 // Spins the event loop until pred() holds or the time is up; true when it holds.
 bool waitUntil(const std::function<bool()>& pred, int timeoutMs = 3000);
 

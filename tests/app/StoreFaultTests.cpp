@@ -1,50 +1,17 @@
+#include "Program.h"
 #include "TestSupport.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QStandardPaths>
 
-#include <functional>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
-struct ProgramRun {
-    int exitCode = -1; // -1 when the program did not end by itself (a fatal stop aborts)
-    QString errors;
-    QString output;
-};
-
-// The program on a data folder; `prefix` runs it inside another command (a read-only mount).
-ProgramRun runProgram(const QString& dataDir, const QStringList& arguments,
-                      const QStringList& prefix = {}) {
-    QProcess program;
-    QStringList all = prefix;
-    all << QStringLiteral(PELVANE_BINARY) << QStringLiteral("--data-dir") << dataDir << arguments;
-    program.start(all.takeFirst(), all);
-    EXPECT_TRUE(program.waitForFinished(60000));
-    ProgramRun run;
-    run.exitCode = program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
-    run.errors = QString::fromUtf8(program.readAllStandardError());
-    run.output = QString::fromUtf8(program.readAllStandardOutput());
-    return run;
-}
-
-QByteArray contents(const QString& file) {
-    QFile f(file);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<unreadable>");
-}
-
-void write(const QString& file, const QByteArray& bytes) {
-    QFile f(file);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    f.write(bytes);
-}
-
 // Runs the rest of the command line in a mount namespace of its own where PATH is read-only,
 // as on a read-only medium; empty where namespaces are not allowed.
 QStringList readOnlyMount(const QString& path) {
@@ -59,10 +26,12 @@ QStringList readOnlyMount(const QString& path) {
             path};
 }
 
+enum class ReadOnly { Nothing, File, Folder };
+
 struct StoreFault {
     const char* name;
-    // Damages the store folder; returns the command prefix to run the program with.
-    std::function<QStringList(const QString& storeDir)> damage;
+    void (*damage)(const QString& storeFile);
+    ReadOnly readOnly;
     int exitCode; // -1: the designed fatal stop
     const char* message;
     bool exported; // the export replaced the earlier file
@@ -73,6 +42,7 @@ void PrintTo(const StoreFault& fault, std::ostream* out) {
 }
 
 const QByteArray kEarlierBackup = "[PELVANE]\nthe earlier backup^\n";
+const char* const kMalformed = "Cannot read the collection: database disk image is malformed";
 
 class StoreFaults : public PelvaneTest, public ::testing::WithParamInterface<StoreFault> {
 protected:
@@ -100,25 +70,30 @@ TEST_P(StoreFaults, ExportSaysWhyAndTouchesNothing) {
     const QString file = store + "/Pelvane.sqlite";
     QDir().mkpath(store);
     ASSERT_TRUE(QFile::copy(sampleStore(), file));
-    const QStringList prefix = fault.damage(store);
-    if (prefix == QStringList{"skip"})
-        GTEST_SKIP() << "no mount namespaces here";
-    const QByteArray before = contents(file);
+    if (fault.damage)
+        fault.damage(file);
+    QStringList prefix;
+    if (fault.readOnly != ReadOnly::Nothing) {
+        prefix = readOnlyMount(fault.readOnly == ReadOnly::File ? file : store);
+        if (prefix.isEmpty())
+            GTEST_SKIP() << "no mount namespaces here";
+    }
+    const QByteArray before = readFile(file);
     const bool wasDirectory = QFileInfo(file).isDir();
     const QString backup = path("backup.csv");
-    write(backup, kEarlierBackup);
+    writeFile(backup, kEarlierBackup);
 
     const ProgramRun run = runProgram(store, {"--export", backup}, prefix);
     EXPECT_EQ(run.exitCode, fault.exitCode) << qPrintable(run.errors);
     EXPECT_TRUE(run.errors.contains(QLatin1String(fault.message))) << qPrintable(run.errors);
     if (fault.exported) {
-        EXPECT_EQ(contents(backup).count('\n'), 41); // the marker and forty coins
+        EXPECT_EQ(readFile(backup).count('\n'), 41); // the marker and forty coins
     } else {
-        EXPECT_EQ(contents(backup), kEarlierBackup);
+        EXPECT_EQ(readFile(backup), kEarlierBackup);
     }
     EXPECT_EQ(QFileInfo(file).isDir(), wasDirectory);
     if (!wasDirectory) {
-        EXPECT_EQ(contents(file), before);
+        EXPECT_EQ(readFile(file), before);
     }
 }
 
@@ -126,60 +101,35 @@ INSTANTIATE_TEST_SUITE_P(
     Store, StoreFaults,
     ::testing::Values(
         StoreFault{"GarbageBytes",
-                   [](const QString& d) {
+                   [](const QString& f) {
                        QByteArray noise(64 * 1024, 0);
                        for (qsizetype i = 0; i < noise.size(); ++i)
                            noise[i] = char((i * 7919 + 13) % 251);
-                       write(d + "/Pelvane.sqlite", noise);
-                       return QStringList();
+                       writeFile(f, noise);
                    },
-                   -1, "Fatal error: Unresolved error", false},
-        StoreFault{"DamagedCoinPage",
-                   [](const QString& d) {
-                       damagePage(d + "/Pelvane.sqlite", "Coins");
-                       return QStringList();
-                   },
-                   1, "Cannot read the collection: database disk image is malformed", false},
-        StoreFault{"DamagedPicturePage",
-                   [](const QString& d) {
-                       damagePage(d + "/Pelvane.sqlite", "Coins_pictures");
-                       return QStringList();
-                   },
-                   1, "Cannot read the collection: database disk image is malformed", false},
-        StoreFault{"ZeroLength",
-                   [](const QString& d) {
-                       write(d + "/Pelvane.sqlite", {});
-                       return QStringList();
-                   },
+                   ReadOnly::Nothing, -1, "Fatal error: Unresolved error", false},
+        StoreFault{"DamagedCoinPage", [](const QString& f) { damagePage(f, "Coins"); },
+                   ReadOnly::Nothing, 1, kMalformed, false},
+        StoreFault{"DamagedPicturePage", [](const QString& f) { damagePage(f, "Coins_pictures"); },
+                   ReadOnly::Nothing, 1, kMalformed, false},
+        StoreFault{"ZeroLength", [](const QString& f) { writeFile(f, {}); }, ReadOnly::Nothing,
                    -1, "the store file is empty", false},
         StoreFault{"Directory",
-                   [](const QString& d) {
-                       QFile::remove(d + "/Pelvane.sqlite");
-                       QDir().mkpath(d + "/Pelvane.sqlite");
-                       return QStringList();
+                   [](const QString& f) {
+                       QFile::remove(f);
+                       QDir().mkpath(f);
                    },
-                   -1, "Fatal error: Unresolved error", false},
-        StoreFault{"ReadOnlyFile",
-                   [](const QString& d) {
-                       const QStringList p = readOnlyMount(d + "/Pelvane.sqlite");
-                       return p.isEmpty() ? QStringList{"skip"} : p;
-                   },
-                   0, "", true},
-        StoreFault{"ReadOnlyFolder",
-                   [](const QString& d) {
-                       const QStringList p = readOnlyMount(d);
-                       return p.isEmpty() ? QStringList{"skip"} : p;
-                   },
-                   0, "", true},
+                   ReadOnly::Nothing, -1, "Fatal error: Unresolved error", false},
+        StoreFault{"ReadOnlyFile", nullptr, ReadOnly::File, 0, "", true},
+        StoreFault{"ReadOnlyFolder", nullptr, ReadOnly::Folder, 0, "", true},
         StoreFault{"LockedByAnotherWriter",
-                   [](const QString& d) {
+                   [](const QString& f) {
                        // Kept open for the rest of the case, holding the write lock.
                        static std::unique_ptr<OtherConnection> other;
-                       other = std::make_unique<OtherConnection>(d + "/Pelvane.sqlite");
+                       other = std::make_unique<OtherConnection>(f);
                        EXPECT_EQ(other->exec("BEGIN IMMEDIATE; DELETE FROM Coins"), 0);
-                       return QStringList();
                    },
-                   0, "", true}),
+                   ReadOnly::Nothing, 0, "", true}),
     [](const ::testing::TestParamInfo<StoreFault>& info) { return std::string(info.param.name); });
 
 // An import into a store another program holds: no wait per coin, and the summary says how
@@ -194,7 +144,7 @@ TEST_F(PelvaneTest, ImportIntoALockedStoreSaysWhatWasNotSaved) {
     QByteArray file = "[PELVANE]\n";
     for (int i = 0; i < 20; ++i)
         file += "Chile^" + QByteArray::number(i) + " Pesos^^^^^^^^^^^^^^^^^1990^^\n";
-    write(path("new.csv"), file);
+    writeFile(path("new.csv"), file);
     QElapsedTimer timer;
     timer.start();
     const ProgramRun run = runProgram(store, {"--import", path("new.csv")});
@@ -235,7 +185,7 @@ TEST_F(PelvaneTest, ImportTakesRegularFilesWithinBoundedMemory) {
     EXPECT_TRUE(run.errors.contains("Cannot read /dev/zero: it is not a regular file"))
         << qPrintable(run.errors);
 
-    write(path("cut.csv"), "[PELVANE]\nChile^1 Peso^^^^^^^^^^^^^^^^^1990^^\nChile^2 Pesos^^^");
+    writeFile(path("cut.csv"), "[PELVANE]\nChile^1 Peso^^^^^^^^^^^^^^^^^1990^^\nChile^2 Pesos^^^");
     run = runProgram(store, {"--import", path("cut.csv")});
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_TRUE(run.errors.contains("Warning: the last line has no line end"))
@@ -250,7 +200,7 @@ TEST_F(PelvaneTest, ImportTakesRegularFilesWithinBoundedMemory) {
     // twice while it writes the row and its index entry; with the file held too, that alone
     // is three times. Measured: 2.5 and 4.0 times (6.0 while texts went through UTF-16).
     const qsizetype size = 48 * 1000 * 1000;
-    write(path("small.csv"), "[PELVANE]\nChile^1 Peso\n");
+    writeFile(path("small.csv"), "[PELVANE]\nChile^1 Peso\n");
     const long base =
         runMeasured({"--data-dir", dir() + "/m0", "--import", path("small.csv")}).second;
     const struct {
@@ -258,7 +208,7 @@ TEST_F(PelvaneTest, ImportTakesRegularFilesWithinBoundedMemory) {
         double times;
     } lines[] = {{"[PELVANE]\nChile^^^^^^^^^^^^^^^^^^^^", 3}, {"[PELVANE]\n", 4.3}};
     for (const auto& line : lines) {
-        write(path("big.csv"), line.prefix + QByteArray(size, 'A'));
+        writeFile(path("big.csv"), line.prefix + QByteArray(size, 'A'));
         const auto [code, peak] =
             runMeasured({"--data-dir", dir() + "/m" + QString::number(line.times * 10), "--import",
                          path("big.csv")});

@@ -1,0 +1,35 @@
+#pragma once
+// The program run as a child process, as scripts and backups run it: no display at all.
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <gtest/gtest.h>
+
+struct ProgramRun {
+    int exitCode = -1; // -1: it did not end by itself (a crash, or the fatal stop's abort)
+    QString output, errors;
+};
+
+// `prefix` runs it inside another command (a read-only mount).
+inline ProgramRun runProgram(const QStringList& arguments, const QStringList& prefix = {}) {
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        env.remove(QString::fromLatin1(name));
+    QProcess program;
+    program.setProcessEnvironment(env);
+    QStringList command = prefix;
+    command << QStringLiteral(PELVANE_BINARY) << arguments;
+    program.start(command.takeFirst(), command);
+    EXPECT_TRUE(program.waitForFinished(60000));
+    ProgramRun run;
+    run.output = QString::fromUtf8(program.readAllStandardOutput());
+    run.errors = QString::fromUtf8(program.readAllStandardError());
+    if (program.exitStatus() == QProcess::NormalExit)
+        run.exitCode = program.exitCode();
+    return run;
+}
+
+// The same on a data folder of the test's.
+inline ProgramRun runProgram(const QString& dataDir, const QStringList& arguments,
+                             const QStringList& prefix = {}) {
+    return runProgram(QStringList{QStringLiteral("--data-dir"), dataDir} + arguments, prefix);
+}
