@@ -1,7 +1,7 @@
 // The PDF report of the three breakdown lists and the print screen, read back from the files
 // they write.
 #include "GroupsFixture.h"
-#include "ReportTestSupport.h"
+#include "PdfPages.h"
 #include "platform/Console.h"
 #include "platform/ImageCoding.h"
 #include "platform/kit/Views.h"
@@ -16,12 +16,6 @@
 #include <QTextDocument>
 
 namespace {
-QByteArray picture(Qt::GlobalColor colour) {
-    QImage image(100, 100, QImage::Format_RGB32);
-    image.fill(colour);
-    return ImageCoding::coinPictureData(image);
-}
-
 int pictureCount(const QTextDocument& document) {
     return int(document.toPlainText().count(QChar::ObjectReplacementCharacter));
 }
@@ -66,11 +60,11 @@ protected:
     void SetUp() override {
         GroupsTest::SetUp();
         Console::startCapture();
-        addCoin("Dime", 1999, 2, 1.25f, "USA", "D")->setFrontImage(picture(Qt::red));
+        addCoin("Dime", 1999, 2, 1.25f, "USA", "D")->setFrontImage(coinPicture(Qt::red));
         addCoin("Dime", 1964, 1, 0.5f, "USA", "P");
         auto quarter = addCoin("Quarter", 1964, 3, 2.0f, "USA", "S");
-        quarter->setFrontImage(picture(Qt::red)); // the same picture as the 1999 dime
-        quarter->setBackImage(picture(Qt::blue));
+        quarter->setFrontImage(coinPicture(Qt::red)); // the same picture as the 1999 dime
+        quarter->setBackImage(coinPicture(Qt::blue));
         addCoin("cent", 1964, 1, 0.1f, "Canada", "P");
         addCoin("Dime", 2001, 4, 1.0f, "Canada", "P");
         ASSERT_FALSE(ctx().save());
@@ -105,8 +99,7 @@ TEST_F(ReportTest, EachBreakdownWritesItsCoinsInOrderOnA4AndOffersTheFile) {
 
         PdfPages pdf(path);
         ASSERT_EQ(pdf.count(), 1);
-        EXPECT_NEAR(pdf.size(0).width(), 595.2, 0.01);
-        EXPECT_NEAR(pdf.size(0).height(), 841.8, 0.01);
+        EXPECT_TRUE(pdf.isA4(0));
         EXPECT_TRUE(pdf.all().startsWith(k.title + " Coin Denomination: "))
             << pdf.all().toStdString();
         EXPECT_TRUE(pdf.inOrder(k.coins)) << pdf.all().toStdString();
@@ -198,9 +191,7 @@ TEST_F(ReportTest, BadInputStillGivesTheWholeReport) {
     // A documents folder that cannot be written (a file in its place, which stops root too):
     // the console says why and the share sheet still comes.
     ASSERT_TRUE(QDir(documents()).removeRecursively());
-    QFile blocker(dir() + "/Documents");
-    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
-    blocker.close();
+    writeFile(dir() + "/Documents", {});
     Console::startCapture();
     fakes.shareSheet->presented.clear();
     barButton(b, "ShareButton")->click();
@@ -222,7 +213,7 @@ TEST_F(ReportTest, WithoutTextMessagesOnlyTheAlertComes) {
 
 TEST_F(ReportTest, ALongReportShowsItsProgressAndGivesTheSameFile) {
     for (int i = 0; i < BreakdownTableViewController::ReportInBackgroundFrom; ++i)
-        addCoin("Dime", 1700 + i, 1, 0.1f, "USA", "P")->setFrontImage(picture(Qt::green));
+        addCoin("Dime", 1700 + i, 1, 0.1f, "USA", "P")->setFrontImage(coinPicture(Qt::green));
     ASSERT_FALSE(ctx().save());
     BreakdownTableViewController* b = open(0, "Dime");
     barButton(b, "ShareButton")->click();
@@ -306,10 +297,7 @@ TEST_F(ReportTest, AWriteCutShortKeepsTheEarlierReport) {
     BreakdownTableViewController* b = open(0, "Dime");
     barButton(b, "ShareButton")->click();
     const QString path = documents() + "CoinListByDenomination.pdf";
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray earlier = file.readAll();
-    file.close();
+    const QByteArray earlier = readFile(path);
     ASSERT_GT(earlier.size(), 4096);
 
     addCoin("Dime", 1800, 1, 1.0f, "USA", "P");
@@ -323,7 +311,6 @@ TEST_F(ReportTest, AWriteCutShortKeepsTheEarlierReport) {
     }
     EXPECT_EQ(Console::captured(), QStringList{"Could not create PDF file: File too large"});
     EXPECT_EQ(fakes.shareSheet->presented.size(), 1);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), earlier);
+    EXPECT_EQ(readFile(path), earlier);
     EXPECT_EQ(QDir(documents()).entryList(QDir::Files), QStringList{"CoinListByDenomination.pdf"});
 }

@@ -1,8 +1,8 @@
 #include "../ScreenFixture.h"
+#include "PdfPages.h"
 #include "platform/PdfViewer.h"
 #include "screens/overview/OverviewViewController.h"
 
-#include <QFile>
 #include <QLabel>
 #include <QPdfDocument>
 #include <QRegularExpression>
@@ -16,18 +16,13 @@ static void loadOverviewResource() {
 namespace {
 // The headings of the guide's source, in order, the title first.
 QStringList sourceHeadings() {
-    QFile source(QStringLiteral(PELVANE_SOURCE_DIR "/docs/overview/overview.md"));
-    EXPECT_TRUE(source.open(QIODevice::ReadOnly));
+    const QByteArray source = readFile(QStringLiteral(PELVANE_SOURCE_DIR "/docs/overview/overview.md"));
     QStringList headings;
     const QRegularExpression heading(QStringLiteral("^#+ +(.+)$"),
                                      QRegularExpression::MultilineOption);
-    for (auto it = heading.globalMatch(QString::fromUtf8(source.readAll())); it.hasNext();)
+    for (auto it = heading.globalMatch(QString::fromUtf8(source)); it.hasNext();)
         headings.append(it.next().captured(1).trimmed());
     return headings;
-}
-
-QString pageText(QPdfDocument& pdf, int page) {
-    return pdf.getAllText(page).text().simplified();
 }
 
 void wheel(PdfViewer* viewer, int notches, Qt::KeyboardModifiers modifiers) {
@@ -57,7 +52,7 @@ TEST_F(OverviewTest, OpensFromTheMenuWithTheGuideFittedToTheWidth) {
     ASSERT_EQ(pdf->status(), QPdfDocument::Status::Ready);
     EXPECT_GE(pdf->pageCount(), 5);
     EXPECT_LE(pdf->pageCount(), 9);
-    EXPECT_TRUE(pageText(*pdf, 0).startsWith(sourceHeadings().value(0)));
+    EXPECT_TRUE(pdf->getAllText(0).text().simplified().startsWith(sourceHeadings().value(0)));
     EXPECT_EQ(viewer->pageMode(), QPdfView::PageMode::MultiPage);
     EXPECT_EQ(screen->PageLabel->text(), QStringLiteral("1 of %1").arg(pdf->pageCount()));
     for (QWidget* control :
@@ -123,33 +118,21 @@ TEST_F(OverviewTest, CtrlWheelZoomsWithinLimitsAndZoomingBackFitsTheWidthAgain) 
 
 TEST(OverviewDocument, BuiltGuideIsA4PagesWithEveryHeadingInOrderNoneEndingAPage) {
     loadOverviewResource();
-    QFile resource(OverviewViewController::DocumentPath);
-    ASSERT_TRUE(resource.open(QIODevice::ReadOnly));
-    const QByteArray bytes = resource.readAll();
+    const QByteArray bytes = readFile(OverviewViewController::DocumentPath);
     // "Arial" is set in Liberation Sans, embedded.
     EXPECT_TRUE(bytes.contains("LiberationSans"));
     EXPECT_TRUE(bytes.contains("/FontFile2"));
 
-    QPdfDocument pdf;
-    ASSERT_EQ(pdf.load(OverviewViewController::DocumentPath), QPdfDocument::Error::None);
-    ASSERT_GE(pdf.pageCount(), 5);
-    QString all;
-    for (int page = 0; page < pdf.pageCount(); ++page) {
-        EXPECT_NEAR(pdf.pagePointSize(page).width(), 595.2, 0.01);
-        EXPECT_NEAR(pdf.pagePointSize(page).height(), 841.8, 0.01);
-        const QString text = pageText(pdf, page);
-        EXPECT_FALSE(text.isEmpty()) << page;
-        for (const QString& heading : sourceHeadings())
-            EXPECT_FALSE(text.endsWith(heading)) << heading.toStdString() << " ends page " << page;
-        all += text + QLatin1Char(' ');
-    }
+    const PdfPages pdf(OverviewViewController::DocumentPath);
+    ASSERT_GE(pdf.count(), 5);
     const QStringList headings = sourceHeadings();
     ASSERT_GE(headings.size(), 8);
-    qsizetype at = 0;
-    for (const QString& heading : headings) {
-        const qsizetype found = all.indexOf(heading, at);
-        EXPECT_GE(found, at) << heading.toStdString();
-        if (found >= 0)
-            at = found + heading.size();
+    for (int page = 0; page < pdf.count(); ++page) {
+        EXPECT_TRUE(pdf.isA4(page)) << page;
+        EXPECT_FALSE(pdf.texts[page].isEmpty()) << page;
+        for (const QString& heading : headings)
+            EXPECT_FALSE(pdf.texts[page].endsWith(heading))
+                << heading.toStdString() << " ends page " << page;
     }
+    EXPECT_TRUE(pdf.inOrder(headings));
 }

@@ -1,0 +1,54 @@
+#pragma once
+// Reading PDF files back: their pages and the text on them.
+#include <QBuffer>
+#include <QPdfDocument>
+#include <QStringList>
+
+#include <memory>
+
+class PdfPages {
+    // A document read from memory reads its bytes as long as it lives.
+    QByteArray bytes_;
+    QBuffer buffer_;
+
+public:
+    std::unique_ptr<QPdfDocument> pdf = std::make_unique<QPdfDocument>();
+    QStringList texts; // one per page, blanks collapsed
+
+    explicit PdfPages(const QString& path) {
+        if (pdf->load(path) == QPdfDocument::Error::None)
+            readTexts();
+    }
+    explicit PdfPages(const QByteArray& bytes)
+        : bytes_(bytes) {
+        buffer_.setBuffer(&bytes_);
+        buffer_.open(QIODevice::ReadOnly);
+        pdf->load(&buffer_);
+        if (pdf->status() == QPdfDocument::Status::Ready)
+            readTexts();
+    }
+    int count() const { return int(texts.size()); }
+    QString all() const { return texts.join(QLatin1Char(' ')); }
+    QSizeF size(int page) const { return pdf->pagePointSize(page); }
+    bool isA4(int page) const {
+        return qAbs(size(page).width() - 595.2) < 0.01 && qAbs(size(page).height() - 841.8) < 0.01;
+    }
+    // True when every text of `wanted` appears, in this order.
+    bool inOrder(const QStringList& wanted) const { return inOrder(all(), wanted); }
+    static bool inOrder(const QString& text, const QStringList& wanted) {
+        qsizetype at = 0;
+        for (const QString& w : wanted) {
+            const qsizetype found = text.indexOf(w, at);
+            if (found < 0)
+                return false;
+            at = found + w.size();
+        }
+        return true;
+    }
+
+private:
+    void readTexts() {
+        for (int page = 0; page < pdf->pageCount(); ++page)
+            texts << pdf->getAllText(page).text().simplified();
+    }
+};
