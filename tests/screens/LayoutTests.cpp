@@ -17,7 +17,6 @@
 
 class LayoutTest : public ScreenTest {
 protected:
-    QPushButton* barButton(const QString& name) { return window->findChild<QPushButton*>(name); }
     void settle() {
         for (int i = 0; i < 3; ++i)
             QApplication::processEvents();
@@ -40,7 +39,7 @@ TEST_F(LayoutTest, ADesktopWindowCentresAReadableColumnAndAPhoneWindowUsesItAll)
     // The bar stands over the column: its Add button sits at the column's right edge.
     list->performSegue("AddCoin");
     settle();
-    QPushButton* save = barButton("SaveButtonInBar");
+    QPushButton* save = button("SaveButtonInBar");
     ASSERT_NE(save, nullptr);
     EXPECT_LE(save->mapTo(window.get(), QPoint(save->width(), 0)).x(),
               left + ViewController::kReadableWidth);
@@ -55,8 +54,8 @@ TEST_F(LayoutTest, ADesktopWindowCentresAReadableColumnAndAPhoneWindowUsesItAll)
     ASSERT_NE(edit, nullptr);
     edit->setTitle(QStringLiteral("A very long title for a coin that does not fit the bar"));
     settle();
-    for (QWidget* w : {static_cast<QWidget*>(barButton("SaveButtonInBar")),
-                       static_cast<QWidget*>(barButton("ShareButton")),
+    for (QWidget* w : {static_cast<QWidget*>(button("SaveButtonInBar")),
+                       static_cast<QWidget*>(button("ShareButton")),
                        static_cast<QWidget*>(window->navigationController()->backButton())}) {
         ASSERT_NE(w, nullptr);
         EXPECT_TRUE(w->isVisible());
@@ -68,15 +67,14 @@ TEST_F(LayoutTest, TheBarsSaveDoesWhatTheFormsSaveDoes) {
     menu->performSegue("ListCoins");
     top()->performSegue("AddCoin");
     auto* add = topAs<AddViewController>();
-    ASSERT_NE(barButton("SaveButtonInBar"), nullptr);
-    EXPECT_EQ(barButton("SaveButtonInBar")->text(), "Save");
-    barButton("SaveButtonInBar")->click();
-    ASSERT_NE(AlertController::current(), nullptr);
-    EXPECT_EQ(AlertController::current()->message(), "Required Fields in RED not Entered");
-    AlertController::current()->triggerAction("OK");
+    ASSERT_NE(button("SaveButtonInBar"), nullptr);
+    EXPECT_EQ(button("SaveButtonInBar")->text(), "Save");
+    button("SaveButtonInBar")->click();
+    EXPECT_EQ(alertText(), "Record not Saved! / Required Fields in RED not Entered");
+    dismissAlert();
     add->DenominationTextField->setText("Dime");
     add->YearTextField->setText("1964");
-    barButton("SaveButtonInBar")->click();
+    button("SaveButtonInBar")->click();
     ASSERT_EQ(all<Coins>().size(), 1);
     EXPECT_EQ(all<Coins>().first()->denomination(), "Dime");
     EXPECT_NE(topAs<MainListTableViewController>(), nullptr);
@@ -87,7 +85,7 @@ TEST_F(LayoutTest, TheBarsSaveDoesWhatTheFormsSaveDoes) {
     auto* edit = topAs<EditViewController>();
     edit->NotesButton->click();
     topAs<NotesViewController>()->NotesTextView->setText("From the bar");
-    barButton("SaveButtonInBar")->click();
+    button("SaveButtonInBar")->click();
     EXPECT_EQ(top(), edit);
     EXPECT_EQ(all<Coins>().first()->notes(), "From the bar");
 
@@ -99,8 +97,8 @@ TEST_F(LayoutTest, TheBarsSaveDoesWhatTheFormsSaveDoes) {
     auto* addEdge = topAs<AddEdgeViewController>();
     ASSERT_NE(addEdge, nullptr);
     addEdge->textField->setText("Milled twice");
-    ASSERT_NE(barButton("SaveEdgeInBar"), nullptr);
-    barButton("SaveEdgeInBar")->click();
+    ASSERT_NE(button("SaveEdgeInBar"), nullptr);
+    button("SaveEdgeInBar")->click();
     bool stored = false;
     for (const auto& edge : all<CoinEdge>())
         stored = stored || edge->edge() == "Milled twice";
@@ -110,7 +108,7 @@ TEST_F(LayoutTest, TheBarsSaveDoesWhatTheFormsSaveDoes) {
     menu->performSegue("ListCoins");
     top()->performSegue("AddCoin");
     topAs<AddViewController>()->SaveButton->setEnabled(false);
-    EXPECT_FALSE(barButton("SaveButtonInBar")->isEnabled());
+    EXPECT_FALSE(button("SaveButtonInBar")->isEnabled());
 }
 
 TEST_F(LayoutTest, AfterASortOrASearchTheListShowsItsFirstRow) {

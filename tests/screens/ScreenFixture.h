@@ -2,6 +2,7 @@
 // A running program on the offscreen platform: delegate, storyboard, fakes, menu in a window.
 #include "AppFixture.h"
 #include "app/Storyboard.h"
+#include "platform/ImageCoding.h"
 #include "platform/fakes/Fakes.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/NavigationController.h"
@@ -9,8 +10,17 @@
 #include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>
+#include <QImage>
 #include <QLocale>
+#include <QPushButton>
 #include <QTest>
+
+// A stored coin picture (a 100 x 100 JPEG) of one colour.
+inline QByteArray coinPicture(const QColor& colour = Qt::darkYellow) {
+    QImage image(20, 20, QImage::Format_RGB32);
+    image.fill(colour);
+    return ImageCoding::coinPictureData(image);
+}
 
 class ScreenTest : public AppTest {
 protected:
@@ -23,8 +33,7 @@ protected:
         window->show();
     }
     void TearDown() override {
-        if (auto* a = AlertController::current())
-            a->triggerAction(a->actionTitles().value(0));
+        dismissAlert();
         window.reset();
         QApplication::processEvents();
         // Screens popped with deleteLater go now, not at the end of the process.
@@ -32,6 +41,17 @@ protected:
         Platform::reset();
         AppTest::TearDown();
     }
+    // The alert shown now, as "title / message"; empty when none is.
+    static QString alertText() {
+        auto* a = AlertController::current();
+        return a ? a->title() + " / " + a->message() : QString();
+    }
+    // Answers the alert shown now with its first action.
+    static void dismissAlert() {
+        if (auto* a = AlertController::current())
+            a->triggerAction(a->actionTitles().value(0));
+    }
+    QPushButton* button(const QString& name) { return window->findChild<QPushButton*>(name); }
     ViewController* top() { return window->navigationController()->topViewController(); }
     template <typename T> T* topAs() { return dynamic_cast<T*>(top()); }
     CoinPtr addCoin(const QString& denomination, int year, int quantity = 1, float value = 1,

@@ -12,22 +12,6 @@
 #include <QFocusEvent>
 #include <QMimeData>
 
-namespace {
-QString alertText() {
-    auto* a = AlertController::current();
-    return a ? a->title() + " / " + a->message() : QString();
-}
-void dismissAlert() {
-    if (auto* a = AlertController::current())
-        a->triggerAction(a->actionTitles().value(0));
-}
-QByteArray picture(QColor colour) {
-    QImage image(20, 20, QImage::Format_RGB32);
-    image.fill(colour);
-    return ImageCoding::coinPictureData(image);
-}
-} // namespace
-
 class EntryScreenTest : public ScreenTest {
 protected:
     MainListTableViewController* openList() {
@@ -88,7 +72,9 @@ TEST_F(EntryScreenTest, AddFormFiltersPicksAndSaves) {
     ASSERT_TRUE(photo.save(path, "JPEG"));
     fakes.documentPicker->next = path;
     add->FrontFolderButton->click();
+    add->RearFolderButton->click();
     EXPECT_EQ(add->FrontImage->image().size(), QSize(4000, 3000));
+    EXPECT_EQ(add->BackImage->image().size(), QSize(4000, 3000));
     add->RearCameraButton->click();
     EXPECT_EQ(alertText(), "Camera / There is no camera available");
     dismissAlert();
@@ -133,8 +119,8 @@ TEST_F(EntryScreenTest, EditSavesByTheNotedIdAndReturnsWhereItCameFrom) {
     auto b = addCoin("Lincoln Cent", 1909, 2, 1.0f, "USA", "D");
     a->setId(1);
     b->setId(2);
-    a->setBackImage(picture(Qt::red));
-    b->setBackImage(picture(Qt::blue));
+    a->setBackImage(coinPicture(Qt::red));
+    b->setBackImage(coinPicture(Qt::blue));
     ctx().save();
     auto* list = openList();
     auto* edit = openFromList(a);
@@ -161,6 +147,7 @@ TEST_F(EntryScreenTest, EditSavesByTheNotedIdAndReturnsWhereItCameFrom) {
     EXPECT_EQ(a->diameter(), 0.0);
     EXPECT_EQ(a->weight(), 0.0);
     EXPECT_EQ(a->mintMark(), "None");
+    EXPECT_FALSE(ctx().hasChanges());
 
     // Opened from the second coin, removing the back picture finds the first coin with the
     // noted denomination, year and mint mark.
@@ -226,16 +213,17 @@ TEST_F(EntryScreenTest, NotesGoToTheFirstCoinOfTheDenominationAndYear) {
     EXPECT_EQ(first->notes(), "  Struck off-centre ");
 }
 
-TEST_F(EntryScreenTest, ZoomShowsThePicturesThereAreAndScalesWithoutLimit) {
+TEST_F(EntryScreenTest, ZoomShowsBothPicturesAndScalesWithoutLimit) {
     auto coin = addCoin("Nickel", 1937);
-    coin->setBackImage(picture(Qt::green));
+    coin->setFrontImage(coinPicture(Qt::red));
+    coin->setBackImage(coinPicture(Qt::green));
     ctx().save();
     openList();
     auto* edit = openFromList(coin);
     QTest::mouseDClick(edit->FrontImage, Qt::LeftButton);
     auto* zoom = topAs<ZoomViewController>();
     ASSERT_NE(zoom, nullptr);
-    EXPECT_EQ(zoom->numberOfItems(), 1);
+    EXPECT_EQ(zoom->numberOfItems(), 2);
     zoom->pinchedView(2);
     zoom->pinchedView(2);
     EXPECT_DOUBLE_EQ(zoom->transform().m11(), 4.0);
@@ -248,6 +236,7 @@ TEST_F(EntryScreenTest, ZoomShowsThePicturesThereAreAndScalesWithoutLimit) {
 
     zoom->shareButtonClicked();
     ASSERT_EQ(fakes.shareSheet->presented.size(), 1);
+    EXPECT_EQ(fakes.shareSheet->presented[0].items[0].data, coin->frontImage());
     EXPECT_EQ(fakes.shareSheet->presented[0].items[1].data, coin->backImage());
     fakes.messages->canSend = false;
     zoom->shareButtonClicked();
@@ -300,7 +289,7 @@ TEST_F(EntryScreenTest, RateShareRows) {
 // by its noted values find it; texts are matched as texts, so an absent denomination is not
 // found by the empty text.
 TEST_F(EntryScreenTest, ImportedCoinWithoutYearKeepsNotesAndLosesOnlyTheRemovedPicture) {
-    const QByteArray front = picture(Qt::red).toBase64(), back = picture(Qt::blue).toBase64();
+    const QByteArray front = coinPicture(Qt::red).toBase64(), back = coinPicture(Qt::blue).toBase64();
     Exchange::mergeExchangeText(ctx(), QByteArray("[PELVANE]\nPeru^Sol^^^^^^^P") +
                                            QByteArray(11, '^') + front + '^' + back +
                                            "\nChile^^^^^^^^^^^^^^^^^^1990\n");

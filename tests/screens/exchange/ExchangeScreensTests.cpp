@@ -3,10 +3,8 @@
 #include "exchange/ExchangeWriter.h"
 #include "exchange/ExportViewController.h"
 #include "exchange/ImportViewController.h"
-#include "platform/ImageCoding.h"
 #include "platform/kit/Views.h"
 
-#include <QFile>
 #include <QTimer>
 #include <QToolButton>
 
@@ -20,9 +18,9 @@ protected:
         return static_cast<T*>(top());
     }
     // Reading and merging run while the window keeps going: their alert comes later.
-    AlertController* alertShown() {
+    static QString alertShown() {
         EXPECT_TRUE(waitUntil([] { return AlertController::current() != nullptr; }, 5000));
-        return AlertController::current();
+        return alertText();
     }
 };
 
@@ -48,13 +46,12 @@ TEST_F(ExchangeScreenTest, ExportBuildsTheFileAndHandsItOn) {
     EXPECT_TRUE(screen->SaveButton->isEnabled());
     EXPECT_EQ(screen->theEntryList.size(), 12);
     EXPECT_EQ(screen->ProgressView_->progress(), 0.0f); // the steps run after the build
-    ASSERT_TRUE(waitUntil([&] { return AlertController::current() != nullptr; }, 3000));
+    EXPECT_EQ(alertShown(),
+              "Data Export File / Process Complete - File Ready to Save To Files or Email");
     EXPECT_EQ(screen->progress.completedUnitCount, 12);
     EXPECT_EQ(screen->ProgressView_->progress(), 1.0f);
     EXPECT_FALSE(screen->activityIndicator->isAnimating());
-    EXPECT_EQ(AlertController::current()->message(),
-              "Process Complete - File Ready to Save To Files or Email");
-    AlertController::current()->triggerAction("OK");
+    dismissAlert();
 
     QTest::mouseClick(screen->SaveButton, Qt::LeftButton);
     ASSERT_EQ(fakes.shareSheet->presented.size(), 1);
@@ -62,16 +59,12 @@ TEST_F(ExchangeScreenTest, ExportBuildsTheFileAndHandsItOn) {
     EXPECT_TRUE(shared.items[0].url.toLocalFile().endsWith("/Pelvane.csv"));
     EXPECT_EQ(shared.excluded.size(), 9);
     EXPECT_EQ(shared.excluded.last(), ShareSheet::Print);
-    QFile written(shared.items[0].url.toLocalFile());
-    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-    EXPECT_EQ(written.readAll(), Exchange::exchangeText(ctx()));
+    EXPECT_EQ(readFile(shared.items[0].url.toLocalFile()), Exchange::exchangeText(ctx()));
 
     fakes.mail->canSend = false;
     QTest::mouseClick(screen->EmailButton, Qt::LeftButton);
-    ASSERT_NE(AlertController::current(), nullptr);
-    EXPECT_EQ(AlertController::current()->title(), "Sending Email");
-    EXPECT_EQ(AlertController::current()->message(), "Email not Setup or Unavailable");
-    AlertController::current()->triggerAction("OK");
+    EXPECT_EQ(alertText(), "Sending Email / Email not Setup or Unavailable");
+    dismissAlert();
     fakes.mail->canSend = true;
     QTest::mouseClick(screen->EmailButton, Qt::LeftButton);
     ASSERT_EQ(fakes.mail->sent.size(), 1);
@@ -88,41 +81,32 @@ TEST_F(ExchangeScreenTest, ImportLoadsMergesAndReturnsToTheMenu) {
     // A file that cannot be read still gets the "loaded" message, and nothing to import.
     fakes.documentPicker->next = path("missing.csv");
     QTest::mouseClick(screen->LoadFileButton, Qt::LeftButton);
-    ASSERT_NE(alertShown(), nullptr);
-    EXPECT_EQ(AlertController::current()->message(), "File Loaded and Ready to Import");
-    AlertController::current()->triggerAction("OK");
+    EXPECT_EQ(alertShown(), "Data Import File / File Loaded and Ready to Import");
+    dismissAlert();
     EXPECT_FALSE(screen->ImportButton->isEnabled());
 
-    QFile file(path("Pelvane.csv"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("[PELVANE]\nPeru^1 Sol^^^^^^^None^^^1^^^^^^^1935^^0\n");
-    file.close();
+    writeFile(path("Pelvane.csv"), "[PELVANE]\nPeru^1 Sol^^^^^^^None^^^1^^^^^^^1935^^0\n");
     fakes.documentPicker->next = path("Pelvane.csv");
     QTest::mouseClick(screen->LoadFileButton, Qt::LeftButton);
-    alertShown()->triggerAction("OK");
+    alertShown();
+    dismissAlert();
     EXPECT_TRUE(screen->ImportButton->isEnabled());
     EXPECT_FALSE(screen->LoadFileButton->isEnabled());
     QTest::mouseClick(screen->ImportButton, Qt::LeftButton);
-    ASSERT_NE(alertShown(), nullptr);
-    EXPECT_EQ(AlertController::current()->title(), "Data Import File");
-    EXPECT_EQ(AlertController::current()->message(), "Data File Import Completed");
-    AlertController::current()->triggerAction("OK");
+    EXPECT_EQ(alertShown(), "Data Import File / Data File Import Completed");
+    dismissAlert();
     EXPECT_EQ(window->navigationController()->topViewController(), menu);
     EXPECT_EQ(all<Coins>().size(), 1);
 
     auto* again = open<ImportViewController>("ImportCoins");
-    QFile notes(path("notes.txt"));
-    ASSERT_TRUE(notes.open(QIODevice::WriteOnly));
-    notes.write("milk, eggs\n");
-    notes.close();
+    writeFile(path("notes.txt"), "milk, eggs\n");
     fakes.documentPicker->next = path("notes.txt");
     again->LoadFile();
-    alertShown()->triggerAction("OK");
+    alertShown();
+    dismissAlert();
     again->ImportTextFile();
-    ASSERT_NE(alertShown(), nullptr);
-    EXPECT_EQ(AlertController::current()->title(), "Data Import");
-    EXPECT_EQ(AlertController::current()->message(), "notes.txt Is The Incorrect Import File");
-    AlertController::current()->triggerAction("OK");
+    EXPECT_EQ(alertShown(), "Data Import / notes.txt Is The Incorrect Import File");
+    dismissAlert();
     EXPECT_EQ(window->navigationController()->topViewController(), menu);
     EXPECT_EQ(all<Coins>().size(), 1);
 }
@@ -143,10 +127,7 @@ TEST_F(ExchangeScreenTest, ImportKeepsTheWindowAliveAndSavesWhatTheMergeSaves) {
                     .arg(i <= 2 ? 1900 + i : 1000 + i)
                     .arg(QString::fromLatin1(picture))
                     .toUtf8();
-    QFile file(path("Pelvane.csv"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-    file.close();
+    writeFile(path("Pelvane.csv"), text);
 
     // What the merge makes of the same file in one call, in a store of its own.
     QList<QStringList> expected;
@@ -154,8 +135,8 @@ TEST_F(ExchangeScreenTest, ImportKeepsTheWindowAliveAndSavesWhatTheMergeSaves) {
         auto* screen = open<ImportViewController>("ImportCoins");
         fakes.documentPicker->next = path("Pelvane.csv");
         screen->LoadFile();
-        ASSERT_NE(alertShown(), nullptr);
-        AlertController::current()->triggerAction("OK");
+        ASSERT_FALSE(alertShown().isEmpty());
+        dismissAlert();
         EXPECT_TRUE(screen->ImportTextView->text().startsWith("[PELVANE]\nPeru^1 Cent^d'1^"));
         EXPECT_TRUE(screen->ImportTextView->text().contains("^AAAAAAAAAAAAAAAAAAAAAAAA\u2026^"));
         EXPECT_EQ(screen->document->size(), text.size());
@@ -171,13 +152,12 @@ TEST_F(ExchangeScreenTest, ImportKeepsTheWindowAliveAndSavesWhatTheMergeSaves) {
         EXPECT_TRUE(screen->isBusy());
         EXPECT_TRUE(screen->ImportProgressView->isVisible());
         EXPECT_TRUE(window->navigationController()->backButton()->isHidden());
-        ASSERT_NE(alertShown(), nullptr);
-        EXPECT_EQ(AlertController::current()->message(), "Data File Import Completed");
+        EXPECT_EQ(alertShown(), "Data Import File / Data File Import Completed");
         EXPECT_GE(ticks, 8) << "the event loop ran between the steps";
         ASSERT_GE(progress.size(), 8);
         EXPECT_TRUE(std::is_sorted(progress.begin(), progress.end() - 1));
         EXPECT_FLOAT_EQ(progress[progress.size() - 2], 1.0f);
-        AlertController::current()->triggerAction("OK");
+        dismissAlert();
         EXPECT_EQ(top(), menu);
     }
     auto rows = [&] {
@@ -214,11 +194,8 @@ TEST_F(ExchangeScreenTest, ImportKeepsTheWindowAliveAndSavesWhatTheMergeSaves) {
 
 // A damaged store is reported, and nothing is offered to save over the last backup.
 TEST_F(ExchangeScreenTest, ExportOfADamagedStoreOffersNothingToSave) {
-    QImage face(100, 100, QImage::Format_RGB32);
-    face.fill(Qt::darkYellow);
     for (int i = 0; i < 20; ++i)
-        addCoin(QStringLiteral("%1 Cents").arg(i), 1950 + i)
-            ->setFrontImage(ImageCoding::coinPictureData(face));
+        addCoin(QStringLiteral("%1 Cents").arg(i), 1950 + i)->setFrontImage(coinPicture());
     ASSERT_FALSE(ctx().save());
     delegate.reset();
     damagePage(path("Pelvane.sqlite"), "Coins_pictures");
@@ -226,10 +203,8 @@ TEST_F(ExchangeScreenTest, ExportOfADamagedStoreOffersNothingToSave) {
 
     auto* screen = open<ExportViewController>("ExportCoins");
     QTest::mouseClick(screen->ExportButton, Qt::LeftButton);
-    ASSERT_NE(AlertController::current(), nullptr);
-    EXPECT_EQ(AlertController::current()->title(), "Data Export File");
-    EXPECT_EQ(AlertController::current()->message(),
-              "The collection cannot be read: database disk image is malformed");
+    EXPECT_EQ(alertText(),
+              "Data Export File / The collection cannot be read: database disk image is malformed");
     EXPECT_FALSE(screen->SaveButton->isEnabled());
     EXPECT_FALSE(screen->EmailButton->isEnabled());
     EXPECT_EQ(screen->ExportTextView->text(), "");
