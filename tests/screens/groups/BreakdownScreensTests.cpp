@@ -179,6 +179,7 @@ TEST_P(BreakdownScreenTest, SwipeWhileSearchingDeletesTheCoinAtThatPlaceOfTheWho
     const CoinPtr shownFirst = b->FilteredCoinList.first();
     const CoinPtr groupFirst = b->CoinList.first();
     EXPECT_TRUE(b->tableView->triggerSwipeAction({0, 0}, "delete"));
+    EXPECT_FALSE(ctx().hasChanges());
     // The coin at row 0 of the whole group went, whichever coin row 0 showed.
     const QStringList left = rowNames(all<Coins>());
     EXPECT_FALSE(left.contains(rowName(groupFirst)));
@@ -209,10 +210,16 @@ TEST_P(BreakdownScreenTest, ATapFillsTheCurrentCoinOpensItAndComesBackWithoutAFe
     EXPECT_EQ(edit->YearTextField->text(), "1964");
 
     numbered(addCoin("Dime", 1964, 1, 1, "USA", "P")); // in every group shown; no fetch sees it
+    // The save writes the coin the main list noted last, here the one opened.
+    SelectedCoinID = b->CoinList.first()->id();
+    edit->ValueTextField->setText("9.99");
     edit->SaveButton->click();
     ASSERT_EQ(tabs->tab(k.tab)->topViewController(), b);
     EXPECT_EQ(rowNames(b->CoinList), k.rows);
     EXPECT_EQ(b->tableView->numberOfRows(0), k.rows.size());
+    EXPECT_FALSE(ctx().hasChanges());
+    auto* row = static_cast<BreakdownTableViewCell*>(b->cellForRow(b->tableView, {0, 0}));
+    EXPECT_TRUE(row->Label4->text().endsWith("$9.99 Total Value: $9.99")) << row->Label4->text().toStdString();
     EXPECT_TRUE(b->ownsUnwindAction(k.unwind));
 }
 

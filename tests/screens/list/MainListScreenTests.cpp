@@ -16,54 +16,71 @@ QStringList names(const QList<CoinPtr>& coins) {
 }
 } // namespace
 
-TEST_F(ScreenTest, MainListSortsAlternatelySearchesAndCounts) {
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+TEST_F(DollarScreenTest, MainListSortsAlternatelySearchesAndCounts) {
     addCoin("Dime", 1964, 2, 0.5f);
-    addCoin("Cent", 1909, 0, 12.5f, "USA");
+    addCoin("Cent", 1909, 1, 12.5f, "USA");
     addCoin("Nickel", 1937, 3, 2.55f, "");
+    addCoin("Maple Leaf", 1988, 0, 2100);
     menu->performSegue("ListCoins");
     auto* list = topAs<MainListTableViewController>();
     ASSERT_NE(list, nullptr);
-    EXPECT_EQ(names(list->CoinList), QStringList({"Dime", "Cent", "Nickel"})); // store order
-    EXPECT_EQ(list->CoinCount, 5);
-    EXPECT_EQ(list->tableView->headerTitle(0), "# Coins = 3 of 3");
+    EXPECT_EQ(names(list->CoinList), QStringList({"Dime", "Cent", "Nickel", "Maple Leaf"}));
+    EXPECT_EQ(list->CoinCount, 6);
+    EXPECT_EQ(list->tableView->headerTitle(0), "# Coins = 4 of 4");
 
+    // Every fetch reads the direction and then flips it: after the load each sort shows the list
+    // descending, then ascending when chosen again. Each key orders the coins differently.
     Console::startCapture();
-    list->chooseSort("By Year");
-    EXPECT_EQ(Console::captured(), QStringList({"Option 2 selected"}));
-    EXPECT_EQ(names(list->CoinList), QStringList({"Dime", "Nickel", "Cent"})); // descending
-    list->chooseSort("By Year");
-    EXPECT_EQ(names(list->CoinList), QStringList({"Cent", "Nickel", "Dime"}));
-    list->chooseSort("By Name");
-    EXPECT_EQ(names(list->CoinList), QStringList({"Nickel", "Dime", "Cent"}));
-    EXPECT_EQ(list->searchController->placeholderText(), "Search by Denomination");
+    const struct {
+        const char* title;
+        const char* placeholder;
+        QStringList ascending;
+    } sorts[] = {
+        {"By Name", "Search by Denomination", {"Cent", "Dime", "Maple Leaf", "Nickel"}},
+        {"By Year", "Search by Year", {"Cent", "Nickel", "Dime", "Maple Leaf"}},
+        {"By Quantity", "Search by Quantity", {"Maple Leaf", "Cent", "Dime", "Nickel"}},
+        {"By Value", "Search by Value", {"Dime", "Nickel", "Cent", "Maple Leaf"}},
+    };
+    for (const auto& sort : sorts) {
+        list->chooseSort(sort.title);
+        EXPECT_EQ(names(list->CoinList),
+                  QStringList(sort.ascending.rbegin(), sort.ascending.rend()))
+            << sort.title;
+        list->chooseSort(sort.title);
+        EXPECT_EQ(names(list->CoinList), sort.ascending) << sort.title;
+        EXPECT_EQ(list->searchController->placeholderText(), sort.placeholder);
+    }
+    ASSERT_EQ(Console::captured().size(), 8);
+    EXPECT_EQ(Console::captured()[2], "Option 2 selected");
 
-    list->chooseSort("By Value");
-    QTest::keyClicks(list->searchController, "2.5");
-    EXPECT_EQ(names(list->FilteredCoinList).size(), 2);
-    EXPECT_EQ(list->tableView->numberOfRows(0), 2);
-    EXPECT_EQ(list->tableView->headerTitle(0), "# Coins = 2 of 3");
-    list->searchController->clear();
-    list->chooseSort("By Country");
-    QTest::keyClicks(list->searchController, "a");
-    EXPECT_FALSE(names(list->FilteredCoinList).contains("Nickel")); // empty country skipped
-    EXPECT_EQ(list->FilteredCoinList.size(), 2);
-    list->searchController->clear();
+    // The search follows the sort key; the header counts the coins shown.
+    const std::tuple<const char*, const char*, int> searches[] = {
+        {"By Name", "CENT", 1}, {"By Year", "8", 1},      {"By Quantity", "3", 1},
+        {"By Value", "2.5", 2}, {"By Country", "a", 3},
+    };
+    for (const auto& [title, text, found] : searches) {
+        list->chooseSort(title);
+        QTest::keyClicks(list->searchController, text);
+        EXPECT_EQ(list->FilteredCoinList.size(), found) << title;
+        EXPECT_EQ(list->tableView->numberOfRows(0), found) << title;
+        EXPECT_EQ(list->tableView->headerTitle(0), QStringLiteral("# Coins = %1 of 4").arg(found));
+        list->searchController->clear();
+    }
+    EXPECT_EQ(list->searchController->placeholderText(), "Search by Country");
 
     // The row of the zero-quantity coin shows one coin and its value as the total.
-    const int row = int(list->CoinList.indexOf(
-        *std::find_if(list->CoinList.begin(), list->CoinList.end(),
-                      [](const CoinPtr& c) { return c->denomination() == "Cent"; })));
+    const int row = int(names(list->CoinList).indexOf("Maple Leaf"));
     auto* cell = static_cast<MainListTableViewCell*>(list->cellForRow(list->tableView, {0, row}));
     EXPECT_EQ(cell->Label3->text(), "Qty: 1");
-    EXPECT_EQ(cell->Label4->text(), "Value: $12.50  Total Value: $12.50");
-    EXPECT_EQ(cell->Label2->text(), "Year: 1909  Mint Mark: P");
-    QLocale::setDefault(QLocale::c());
+    EXPECT_EQ(cell->Label4->text(), "Value: $2,100.00  Total Value: $2,100.00");
+    EXPECT_EQ(cell->Label2->text(), "Year: 1988  Mint Mark: P");
 
     // Swipe delete removes the coin from the store.
     EXPECT_TRUE(list->tableView->triggerSwipeAction({0, row}, "delete"));
-    EXPECT_EQ(list->CoinList.size(), 2);
-    EXPECT_EQ(all<Coins>().size(), 2);
+    EXPECT_EQ(list->CoinList.size(), 3);
+    EXPECT_EQ(list->tableView->headerTitle(0), "# Coins = 3 of 3");
+    EXPECT_EQ(all<Coins>().size(), 3);
+    EXPECT_FALSE(ctx().hasChanges());
 }
 
 TEST_F(ScreenTest, RowTapFillsTheCurrentCoinAndOpensTheEditScreen) {

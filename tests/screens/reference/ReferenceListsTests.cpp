@@ -1,11 +1,15 @@
 // The three reference lists through their table of differences: the same checks over the grade,
 // strike character and edge rows, with the texts as the lists are meant to show them.
-#include "ReferenceFixture.h"
+#include "../ScreenFixture.h"
+#include "platform/kit/TextTableViewCell.h"
+#include "screens/entry/AddViewController.h"
 #include "screens/reference/ReferenceListScreens.h"
 #include "screens/reference/ReferenceListViewController.h"
+#include "screens/reference/ReferenceTableViewController.h"
 #include "screens/reference/ReferenceValueScreens.h"
 
 #include <QAction>
+#include <QFocusEvent>
 
 namespace {
 
@@ -24,6 +28,9 @@ struct ListRow {
     const char* editField;
     const char* saveAction;
     const char* coinAttribute;
+    // The coin form's field for the list, and its picker.
+    TextField* CoinFormViewController::*pickerField;
+    PickerView* CoinFormViewController::*picker;
     // The named classes of the row's three screens.
     bool (*isList)(ViewController*);
     bool (*isAdd)(ViewController*);
@@ -42,23 +49,26 @@ const ListRow kRows[] = {
     {"Grade", "GradeNumberButton", "GradeNumbers", "grade", "Grade Number List",
      "Search by Grade Number", &SelectedGrade, "Add Grade Numbers", "GradeTextField",
      "Grade Number not Entered", "Edit Grade Numbers", "GradeNumberTextField", "SaveGenre",
-     "gradeNumber", is<GradeNumberTableViewController>, is<AddGradeNumberViewController>,
+     "gradeNumber", &CoinFormViewController::GradeNumberTextField,
+     &CoinFormViewController::GradePickerView, is<GradeNumberTableViewController>, is<AddGradeNumberViewController>,
      is<EditGradeNumberViewController>},
     {"Strike", "StrikeCharacterButton", "StrikeCharacters", "strike", "Strike Character List",
      "Search by Strike Character", &SelectedStrikeCharacter, "Add Strike Character",
      "StrikeTextField", "Strike Character not Entered", "Edit Strike Characters",
      "StrikeCharacterTextField", "SaveGenre", "strikeCharacter",
+     &CoinFormViewController::StrikeCharacterTextField,
+     &CoinFormViewController::StrikeCharacterPickerView,
      is<StrikeCharacterTableViewController>, is<AddStrikeCharacterViewController>,
      is<EditStrikeCharacterViewController>},
     {"Edge", "EdgeButton", "CoinEdge", "edge", "Edge List", "Search by Edge", &SelectedEdge,
      "Add Edge", "EdgeTextField", "Edge not Entered", "Edit Edge", "EdgeTextField", "SaveEdge",
-     "edge", is<EdgeTableViewController>, is<AddEdgeViewController>, is<EditEdgeViewController>},
+     "edge", &CoinFormViewController::EdgeTextField, &CoinFormViewController::EdgePickerView,
+     is<EdgeTableViewController>, is<AddEdgeViewController>, is<EditEdgeViewController>},
 };
 
 } // namespace
 
-class ReferenceListTest : public ReferenceScreenTest,
-                          public ::testing::WithParamInterface<ListRow> {
+class ReferenceListTest : public ScreenTest, public ::testing::WithParamInterface<ListRow> {
 protected:
     const ListRow& row() const { return GetParam(); }
     // The list holds exactly these values (stored in this order) and nothing seeded.
@@ -72,7 +82,20 @@ protected:
                 ->setValue(QString::fromLatin1(row().attribute), v);
         ASSERT_FALSE(ctx().save().has_value());
     }
-    QStringList stored() { return ReferenceScreenTest::stored(row().entity, row().attribute); }
+    // The stored values of the list, ascending.
+    QStringList stored() {
+        FetchRequest all(QString::fromLatin1(row().entity));
+        all.sortDescriptors = {{QString::fromLatin1(row().attribute), true}};
+        return values(ctx().fetch(all));
+    }
+    // What the table shows, row by row.
+    static QStringList shown(ReferenceTableViewController* list) {
+        QStringList out;
+        for (int r = 0; r < list->tableView->numberOfRows(0); ++r)
+            out << static_cast<TextTableViewCell*>(list->cellForRow(list->tableView, {0, r}))
+                       ->textLabel->text();
+        return out;
+    }
     QStringList values(const QList<ObjectPtr>& records) {
         QStringList out;
         for (const ObjectPtr& r : records)
@@ -87,10 +110,6 @@ protected:
             return nullptr;
         hub->findChild<QPushButton*>(QString::fromLatin1(row().hubButton))->click();
         return topAs<ReferenceTableViewController>();
-    }
-    QString alertText() {
-        auto* a = AlertController::current();
-        return a ? a->title() + " / " + a->message() : QString();
     }
 };
 
@@ -205,25 +224,38 @@ TEST_P(ReferenceListTest, AddAndEditScreensCheckSaveAndReturn) {
     EXPECT_EQ(top(), list);
     EXPECT_EQ(values(list->List), QStringList({"AU-58", "VF", "VF", "vf \n"}));
 
-    // Nothing found: nothing changes, and the screen still returns.
-    list->tableView->selectRow({0, 0});
-    edit = topAs<EditReferenceViewController>();
-    *row().selection = "gone";
-    edit->textField->clear();
-    edit->findChild<QPushButton*>(QString::fromLatin1(row().saveAction))->click();
-    EXPECT_EQ(top(), list);
-    EXPECT_EQ(stored(), QStringList({"AU-58", "VF", "VF", "vf \n"}));
+    // Cleared to empty: nothing found changes nothing, and the screen still returns; a value
+    // found is kept, empty.
+    for (const char* selection : {"gone", "vf \n"}) {
+        list->tableView->selectRow({0, 0});
+        edit = topAs<EditReferenceViewController>();
+        *row().selection = selection;
+        edit->textField->clear();
+        edit->findChild<QPushButton*>(QString::fromLatin1(row().saveAction))->click();
+        EXPECT_EQ(top(), list);
+    }
+    EXPECT_EQ(stored(), QStringList({"", "AU-58", "VF", "VF"}));
+
+    // The coin form's picker offers the list as it is now.
+    window->navigationController()->popToRootViewController(false);
+    menu->performSegue("AddCoin");
+    auto* form = topAs<AddViewController>();
+    ASSERT_NE(form, nullptr);
+    QFocusEvent focus(QEvent::FocusIn, Qt::MouseFocusReason);
+    QApplication::sendEvent(form->*row().pickerField, &focus);
+    EXPECT_TRUE((form->*row().picker)->isOpen());
+    EXPECT_EQ((form->*row().picker)->titles(), stored());
 }
 
 INSTANTIATE_TEST_SUITE_P(Lists, ReferenceListTest, ::testing::ValuesIn(kRows),
                          [](const auto& info) { return std::string(info.param.name); });
 
 // The stops for a value that is not there, and for a list too long to count.
-class ReferenceListDeathTest : public ReferenceScreenTest {
+class ReferenceListDeathTest : public ScreenTest {
 protected:
     void SetUp() override {
         GTEST_FLAG_SET(death_test_style, "threadsafe");
-        ReferenceScreenTest::SetUp();
+        ScreenTest::SetUp();
     }
     GradeNumberTableViewController* gradeList() {
         menu->performSegue("ReferenceLists");
