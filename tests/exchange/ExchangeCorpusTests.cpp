@@ -1,16 +1,13 @@
 #include "StoreFixture.h"
 #include "exchange/ExchangeReader.h"
 
-#include <QFile>
 #include <functional>
 
 using Exchange::mergeExchangeText;
 
 namespace {
 QByteArray corpusFile(const char* name) {
-    QFile f(QStringLiteral(PELVANE_TEST_DATA "/exchange/") + QLatin1String(name));
-    EXPECT_TRUE(f.open(QIODevice::ReadOnly)) << name;
-    return f.readAll();
+    return readFile(QStringLiteral(PELVANE_TEST_DATA "/exchange/") + QLatin1String(name));
 }
 
 struct CorpusCase {

@@ -2,7 +2,6 @@
 #include "fuzz/FuzzEntries.h"
 
 #include <QDir>
-#include <QFile>
 #include <QMap>
 
 using FuzzEntries::Outcome;
@@ -17,9 +16,7 @@ template <typename Entry> QMap<QString, Outcome> runCorpus(const char* folder, E
     QMap<QString, Outcome> outcomes;
     const QDir dir(QStringLiteral(PELVANE_TEST_DATA "/") + QLatin1String(folder));
     for (const QString& name : dir.entryList(QDir::Files)) {
-        QFile file(dir.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(name);
-        const QByteArray bytes = file.readAll();
+        const QByteArray bytes = readFile(dir.filePath(name));
         outcomes[name] =
             entry(reinterpret_cast<const uint8_t*>(bytes.constData()), std::size_t(bytes.size()));
         if (outcomes[name] == Outcome::Stopped)

@@ -7,8 +7,8 @@ TEST_F(StoreTest, EveryQueryFormMatchesStoredRecords) {
     coin("Canada", "1 Cent", 1965, "P", 2, 0.5f);
     coin("Canada", "5 Cents", 1965, "D", 1, 3.5f);
     coin("USA", "1 Cent", 1909, "S", 4, 12.5f);
-    auto empty = coin("", "Dime", 1960);
-    auto absent = coin(QString(), "Nickel", 1961);
+    coin("", "Dime", 1960);
+    coin(QString(), "Nickel", 1961);
     ASSERT_FALSE(ctx().save().has_value());
     reopen(); // everything below comes from the file, not from memory
 
@@ -49,14 +49,12 @@ TEST_F(StoreTest, EveryQueryFormMatchesStoredRecords) {
     EXPECT_EQ(denominations(fetch({}, {{"denomination", true}, {"year", true}})),
               QStringList({"1 Cent", "1 Cent", "5 Cents", "Dime", "Nickel"}));
     EXPECT_EQ(fetch({}, {{"denomination", true}, {"year", true}}).first()->year(), 1909);
-    (void)empty;
-    (void)absent;
 }
 
 TEST_F(StoreTest, FetchesSeePendingChanges) {
     auto a = coin("Canada", "1 Cent", 1965);
     auto b = coin("Canada", "5 Cents", 1966);
-    auto c = coin("Canada", "10 Cents", 1967);
+    coin("Canada", "10 Cents", 1967);
     ASSERT_FALSE(ctx().save());
     EXPECT_FALSE(ctx().hasChanges());
 
@@ -65,7 +63,7 @@ TEST_F(StoreTest, FetchesSeePendingChanges) {
     EXPECT_EQ(fetch(eq("denomination == %@", "25 Cents")).size(), 1);
     EXPECT_EQ(fetch(eq("denomination == %@", "5 Cents")).size(), 0);
 
-    auto d = coin("Canada", "50 Cents", 1968); // unsaved insert
+    coin("Canada", "50 Cents", 1968); // unsaved insert
     EXPECT_EQ(fetch(eq("country == %@", "Canada")).size(), 4);
     ctx().deleteObject(a); // unsaved delete
     EXPECT_EQ(fetch(eq("country == %@", "Canada")).size(), 3);
@@ -81,8 +79,6 @@ TEST_F(StoreTest, FetchesSeePendingChanges) {
     EXPECT_EQ(denominations(fetch({}, {{"year", true}})),
               QStringList({"25 Cents", "10 Cents", "50 Cents"}));
     EXPECT_EQ(fetch(eq("denomination == %@", "1 Cent")).size(), 0); // never comes back
-    (void)c;
-    (void)d;
 }
 
 TEST_F(StoreTest, OneObjectPerRowAndPicturesOnFirstAccess) {
@@ -186,11 +182,7 @@ TEST_F(StoreTest, ReadsBetweenTurnsOfTheEventLoopShareOneTransaction) {
 TEST_F(StoreTest, StoreFromANewerVersionIsRefusedAndLeftAlone) {
     container.reset();
     OtherConnection(path("Pelvane.sqlite")).exec("PRAGMA user_version=99");
-    const QByteArray before = [&] {
-        QFile f(path("Pelvane.sqlite"));
-        f.open(QIODevice::ReadOnly);
-        return f.readAll();
-    }();
+    const QByteArray before = readFile(path("Pelvane.sqlite"));
     PersistentContainer c(QStringLiteral("Pelvane"));
     std::optional<StoreError> failure;
     c.loadPersistentStores([&](const StoreDescription&, const auto& e) { failure = e; });
@@ -198,9 +190,7 @@ TEST_F(StoreTest, StoreFromANewerVersionIsRefusedAndLeftAlone) {
     EXPECT_TRUE(failure->message.contains("written by a newer Pelvane (store version 99"))
         << failure->message.toStdString();
     EXPECT_EQ(c.viewContext(), nullptr);
-    QFile f(path("Pelvane.sqlite"));
-    f.open(QIODevice::ReadOnly);
-    EXPECT_EQ(f.readAll(), before);
+    EXPECT_EQ(readFile(path("Pelvane.sqlite")), before);
 }
 
 TEST(PredicateDeathTest, UnknownFormatIsFatal) {

@@ -1,7 +1,6 @@
 #include "TestSupport.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/NavigationController.h"
-#include "platform/kit/PickerView.h"
 #include "platform/kit/TableView.h"
 #include "platform/kit/TextInput.h"
 #include "platform/kit/Window.h"
@@ -131,12 +130,6 @@ struct DigitsOnly : TextInputDelegate {
         return true;
     }
 };
-struct Choices : PickerViewDataSource {
-    TextField* field = nullptr;
-    int numberOfRows(PickerView* p) override { return p->tag() == 2 ? 3 : 0; }
-    QString titleForRow(PickerView*, int row) override { return QStringLiteral("AU-5%1").arg(row); }
-    void didSelectRow(PickerView* p, int row) override { field->setText(titleForRow(p, row)); }
-};
 } // namespace
 
 TEST_F(KitTest, TextInputsAskBeforeEveryInsertion) {
@@ -169,23 +162,6 @@ TEST_F(KitTest, TextInputsAskBeforeEveryInsertion) {
     QApplication::clipboard()->setText("5 6");
     view->paste();
     EXPECT_EQ(view->text(), "1234");
-
-    // A picker as input view: focusing the field opens it, picking writes the field.
-    Choices choices;
-    auto* graded = new TextField(root);
-    choices.field = graded;
-    PickerView picker;
-    picker.setTag(2);
-    picker.setDataSource(&choices);
-    graded->setInputView(&picker);
-    graded->show();
-    graded->setFocus();
-    QApplication::processEvents();
-    ASSERT_TRUE(picker.isOpen());
-    EXPECT_EQ(picker.titles(), QStringList({"AU-50", "AU-51", "AU-52"}));
-    picker.pick(1);
-    EXPECT_EQ(graded->text(), "AU-51");
-    EXPECT_FALSE(picker.isOpen());
 }
 
 namespace {

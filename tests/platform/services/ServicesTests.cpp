@@ -34,13 +34,11 @@ TEST(ImageCoding, StrictBase64) {
     EXPECT_EQ(ImageCoding::strictBase64Decode("TWFu"), QByteArray("Man"));
     EXPECT_EQ(ImageCoding::strictBase64Decode("TWE="), QByteArray("Ma"));
     EXPECT_EQ(ImageCoding::strictBase64Decode(""), QByteArray(""));
-    for (const char* bad : {"TWF", "TW=u", "TWFu7", "TWF*", "TWE=TWFu", "TW\nFu"})
+    // A picture's base64 followed by a record number ("TWFu7") is (usually) no longer base64.
+    for (const char* bad : {"TWF", "TW=u", "TWFu7", "TWF*", "TWE=TWFu", "TW\nFu", "====", "A===",
+                            "TW==TWFu", "TWé="})
         EXPECT_FALSE(ImageCoding::strictBase64Decode(bad).has_value()) << bad;
-    // A picture's base64 followed by a record number is (usually) no longer base64.
-    EXPECT_FALSE(ImageCoding::strictBase64Decode("TWFu7").has_value());
     EXPECT_TRUE(ImageCoding::strictBase64Decode("1234").has_value());
-    for (const char* bad : {"====", "A===", "TW==TWFu", "TWé="})
-        EXPECT_FALSE(ImageCoding::strictBase64Decode(bad).has_value()) << bad;
     // Whatever the bytes, decoding gives them back.
     QByteArray bytes;
     for (int n = 0; n < 300; ++n) {
@@ -54,12 +52,10 @@ TEST_F(PelvaneTest, FilesWriteAtomicallyAndReadAnyUnicode) {
     ASSERT_TRUE(Files::writeTextAtomically(path("a.csv"), "[PELVANE]\nPérou^1 Sol\n"));
     ASSERT_TRUE(Files::readText(path("a.csv"), text));
     EXPECT_EQ(text, "[PELVANE]\nPérou^1 Sol\n");
-    QFile utf16(path("b.csv"));
-    ASSERT_TRUE(utf16.open(QIODevice::WriteOnly));
-    utf16.write(QByteArray("\xFF\xFE", 2));
     const QString sample = "[PELVANE]\r\nZ\u00fcrich";
-    utf16.write(reinterpret_cast<const char*>(sample.utf16()), sample.size() * 2);
-    utf16.close();
+    writeFile(path("b.csv"),
+              QByteArray("\xFF\xFE", 2) +
+                  QByteArray(reinterpret_cast<const char*>(sample.utf16()), sample.size() * 2));
     ASSERT_TRUE(Files::readText(path("b.csv"), text));
     EXPECT_EQ(text, sample);
     QString error;
@@ -134,11 +130,9 @@ TEST(ImageCoding, ForgedSizesAreRefusedBeforeDecoding) {
 TEST(Platform, MailNeedsAMailProgramSetUp) {
     QTemporaryDir bin;
     auto script = [&](const char* name, const QByteArray& body) {
-        QFile f(bin.filePath(QString::fromLatin1(name)));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write("#!/bin/sh\n" + body);
-        f.close();
-        f.setPermissions(f.permissions() | QFileDevice::ExeOwner);
+        const QString file = bin.filePath(QString::fromLatin1(name));
+        writeFile(file, "#!/bin/sh\n" + body);
+        QFile::setPermissions(file, QFile::permissions(file) | QFileDevice::ExeOwner);
     };
     const QByteArray path = qgetenv("PATH");
     qputenv("PATH", bin.path().toLocal8Bit());
