@@ -112,8 +112,8 @@ INSTANTIATE_TEST_SUITE_P(
                    ReadOnly::Nothing, 1, kMalformed, false},
         StoreFault{"DamagedPicturePage", [](const QString& f) { damagePage(f, "Coins_pictures"); },
                    ReadOnly::Nothing, 1, kMalformed, false},
-        StoreFault{"ZeroLength", [](const QString& f) { writeFile(f, {}); }, ReadOnly::Nothing,
-                   -1, "the store file is empty", false},
+        StoreFault{"ZeroLength", [](const QString& f) { writeFile(f, {}); }, ReadOnly::Nothing, -1,
+                   "the store file is empty", false},
         StoreFault{"Directory",
                    [](const QString& f) {
                        QFile::remove(f);

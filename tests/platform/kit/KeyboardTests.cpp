@@ -1,105 +1,21 @@
 // The keyboard through the real kit widgets: alerts take it, screens go back and save, lists
 // move, open, delete and search, pickers pick.
-#include "TestSupport.h"
-#include "platform/kit/AlertController.h"
-#include "platform/kit/NavigationController.h"
+#include "KitFixture.h"
 #include "platform/kit/PickerView.h"
-#include "platform/kit/SearchController.h"
-#include "platform/kit/TableView.h"
 #include "platform/kit/TextInput.h"
-#include "platform/kit/Window.h"
 
-#include <QApplication>
-#include <QLabel>
 #include <QListWidget>
 #include <QMenu>
-#include <QPushButton>
 #include <QShortcut>
 #include <QTest>
-#include <QToolButton>
-#include <QVBoxLayout>
 
 namespace {
-
-class Cell : public TableViewCell {
-public:
-    Cell()
-        : label(new QLabel(this)) {}
-    QLabel* label;
-};
-
-// Two sections of rows with a delete action each, behind a search field.
-struct Rows : TableViewDataSource {
-    QList<QList<int>> sections{{0, 1, 2}, {10, 11}};
-    QList<IndexPath> opened;
-    QStringList searches;
-    int numberOfSections(TableView*) override { return int(sections.size()); }
-    int numberOfRows(TableView*, int s) override { return int(sections[s].size()); }
-    TableViewCell* cellForRow(TableView* t, IndexPath p) override {
-        auto* cell = static_cast<Cell*>(t->dequeueReusableCell("Cell"));
-        cell->label->setText(QString::number(sections[p.section][p.row]));
-        return cell;
-    }
-    QString titleForHeader(TableView*, int s) override { return QStringLiteral("Part %1").arg(s); }
-    void didSelectRow(TableView*, IndexPath p) override { opened << p; }
-    QList<SwipeAction> trailingSwipeActions(TableView* t, IndexPath) override {
-        return {{"Delete", true, [this, t](IndexPath p) {
-                     sections[p.section].removeAt(p.row);
-                     t->deleteRows({p});
-                 }}};
-    }
-};
-
-class Screen : public ViewController {
-public:
-    explicit Screen(const QString& name, bool withTable = false) {
-        setTitle(name);
-        auto* layout = new QVBoxLayout(this);
-        button = new QPushButton(QStringLiteral("Act"), this);
-        connect(button, &QPushButton::clicked, this, [this] { ++clicks; });
-        layout->addWidget(button);
-        if (withTable) {
-            table = new TableView(this);
-            table->registerCell("Cell", [] { return new Cell; });
-            search = new SearchController;
-            search->placeAbove(table, "Search",
-                               [this](SearchController* s) { rows.searches << s->text(); });
-            table->setDataSource(&rows);
-            layout->addWidget(table);
-        }
-        addKeyCommand(QKeySequence::Save, [this] { ++saves; });
-    }
-    QPushButton* button;
-    TableView* table = nullptr;
-    SearchController* search = nullptr;
-    Rows rows;
-    int clicks = 0;
-    int saves = 0;
-};
-
-class KeyboardTest : public PelvaneTest {
+class KeyboardTest : public KitTest {
 protected:
     void SetUp() override {
-        PelvaneTest::SetUp();
-        Storyboard::clear();
-        Storyboard::registerSegue("list", SegueKind::Push, [] { return new Screen("List", true); });
-        Storyboard::registerSegue("form", SegueKind::Push, [] { return new Screen("Form"); });
-        root = new Screen("First");
-        window = std::make_unique<Window>(root);
-        window->resize(390, 700);
-        window->show();
+        KitTest::SetUp();
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    }
-    void TearDown() override {
-        while (auto* a = AlertController::current())
-            a->triggerAction(a->actionTitles().value(0));
-        window.reset();
-        QApplication::processEvents();
-        PelvaneTest::TearDown();
-    }
-    Screen* top() {
-        return static_cast<Screen*>(window->navigationController()->topViewController());
     }
     QWidget* focus() { return window->focusWidget(); }
     // A key as the user presses it: to whatever has the keyboard.
@@ -108,10 +24,7 @@ protected:
         QTest::keyClick(target, Qt::Key(key), modifiers);
         QApplication::processEvents();
     }
-    Screen* root = nullptr;
-    std::unique_ptr<Window> window;
 };
-
 } // namespace
 
 TEST_F(KeyboardTest, AnAlertTakesTheKeyboardFromEverythingBehindIt) {
@@ -187,7 +100,7 @@ TEST_F(KeyboardTest, AnAlertTakesTheKeyboardFromEverythingBehindIt) {
 TEST_F(KeyboardTest, ScreensGoBackAndSaveByKey) {
     press(Qt::Key_Escape); // the first screen has nowhere to go back to
     EXPECT_EQ(top(), root);
-    root->performSegue("form");
+    root->performSegue("next");
     auto* form = top();
     ASSERT_NE(form, root);
     EXPECT_TRUE(form->isAncestorOf(focus()) || focus() == form);
@@ -197,14 +110,14 @@ TEST_F(KeyboardTest, ScreensGoBackAndSaveByKey) {
     press(Qt::Key_Escape);
     EXPECT_EQ(top(), root);
 
-    root->performSegue("form");
+    root->performSegue("next");
     // Keys from the bar's buttons reach the screen on top too.
     window->navigationController()->backButton()->setFocus();
     press(Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(top(), root);
 
     // A screen whose bar shows its own back item in place of the stack's goes back through it.
-    root->performSegue("form");
+    root->performSegue("next");
     int unwound = 0;
     top()->navigationItem().hidesBackButton = true;
     top()->navigationItem().leftItems = {
@@ -223,7 +136,7 @@ TEST_F(KeyboardTest, ScreensGoBackAndSaveByKey) {
 
 TEST_F(KeyboardTest, ListsMoveOpenDeleteAndSearchByKey) {
     root->performSegue("list");
-    Screen* list = top();
+    KitScreen* list = top();
     QListView* rows = list->table->listView();
     ASSERT_EQ(focus(), rows); // a list screen opens with the keyboard on its rows
 

@@ -1,76 +1,23 @@
-#include "TestSupport.h"
-#include "platform/kit/AlertController.h"
-#include "platform/kit/NavigationController.h"
-#include "platform/kit/TableView.h"
+#include "KitFixture.h"
+#include "platform/kit/Symbols.h"
 #include "platform/kit/TextInput.h"
-#include "platform/kit/Window.h"
 
-#include <QApplication>
+#include <QAction>
 #include <QClipboard>
-#include <QLabel>
-#include <QPushButton>
 #include <QTest>
-
-namespace {
-
-QStringList lifecycle;
-
-class Screen : public ViewController {
-public:
-    explicit Screen(const QString& name) { setTitle(name); }
-    void viewDidLoad() override { lifecycle << title() + ":load"; }
-    void viewWillAppear(bool) override { lifecycle << title() + ":willAppear"; }
-    void viewDidAppear(bool) override { lifecycle << title() + ":didAppear"; }
-    void viewWillDisappear(bool) override { lifecycle << title() + ":willDisappear"; }
-    void viewDidDisappear(bool) override { lifecycle << title() + ":didDisappear"; }
-    void prepareForSegue(StoryboardSegue& segue, QObject*) override {
-        if (auto* next = dynamic_cast<Screen*>(segue.destination))
-            next->handedOver = title();
-        prepared << segue.identifier;
-    }
-    QString handedOver;
-    QStringList prepared;
-};
-
-class KitTest : public PelvaneTest {
-protected:
-    void SetUp() override {
-        PelvaneTest::SetUp();
-        lifecycle.clear();
-        Storyboard::clear();
-        Storyboard::registerSegue("next", SegueKind::Push, [] { return new Screen("Second"); });
-        Storyboard::registerSegue("third", SegueKind::Push, [] { return new Screen("Third"); });
-        Storyboard::registerSegue("modal", SegueKind::Modal, [] { return new Screen("Modal"); });
-        root = new Screen("First");
-        window = std::make_unique<Window>(root);
-        window->show();
-    }
-    void TearDown() override {
-        window.reset();
-        QApplication::processEvents();
-        PelvaneTest::TearDown();
-    }
-    Screen* top() {
-        return static_cast<Screen*>(window->navigationController()->topViewController());
-    }
-    Screen* root = nullptr;
-    std::unique_ptr<Window> window;
-};
-
-} // namespace
 
 TEST_F(KitTest, SeguesHandOverAndUnwindToTheOwner) {
     EXPECT_EQ(lifecycle, QStringList({"First:load", "First:willAppear", "First:didAppear"}));
     lifecycle.clear();
     root->performSegue("next");
-    Screen* second = top();
+    KitScreen* second = top();
     EXPECT_EQ(second->title(), "Second");
     EXPECT_EQ(second->handedOver, "First");
     EXPECT_EQ(lifecycle, QStringList({"Second:load", "First:willDisappear", "Second:willAppear",
                                       "First:didDisappear", "Second:didAppear"}));
     second->performSegue("third");
     top()->performSegue("modal");
-    Screen* modal = top();
+    KitScreen* modal = top();
     EXPECT_EQ(modal->title(), "Third"); // a modal screen sits in a stack of its own
     ViewController* presented = nullptr;
     for (auto* nav : window->findChildren<NavigationController*>())
@@ -164,43 +111,13 @@ TEST_F(KitTest, TextInputsAskBeforeEveryInsertion) {
     EXPECT_EQ(view->text(), "1234");
 }
 
-namespace {
-class Cell : public TableViewCell {
-public:
-    Cell()
-        : label(new QLabel(this)) {
-        label->setGeometry(0, 0, 300, 40);
-    }
-    QLabel* label;
-};
-struct Rows : TableViewDataSource {
-    QList<int> rows;
-    int cellsAsked = 0;
-    int numberOfRows(TableView*, int) override { return int(rows.size()); }
-    TableViewCell* cellForRow(TableView* t, IndexPath p) override {
-        ++cellsAsked;
-        auto* cell = static_cast<Cell*>(t->dequeueReusableCell("Cell"));
-        cell->label->setText(QString::number(rows[p.row]));
-        return cell;
-    }
-    QString titleForHeader(TableView*, int) override {
-        return QStringLiteral("# Coins = %1").arg(rows.size());
-    }
-    QList<SwipeAction> trailingSwipeActions(TableView* t, IndexPath) override {
-        return {{"delete", true, [this, t](IndexPath p) {
-                     rows.removeAt(p.row);
-                     t->deleteRows({p});
-                 }}};
-    }
-};
-} // namespace
-
 TEST_F(KitTest, TableDrawsOnlyVisibleRowsAndDeletesBySwipe) {
-    Rows source;
+    KitRows source;
+    source.sections = {{}};
     for (int i = 0; i < 32000; ++i)
-        source.rows << i;
+        source.sections[0] << i;
     auto* table = new TableView(root);
-    table->registerCell("Cell", [] { return new Cell; });
+    table->registerCell("Cell", [] { return new KitCell; });
     table->setDataSource(&source);
     table->setGeometry(0, 0, 390, 700);
     table->show();
@@ -208,11 +125,11 @@ TEST_F(KitTest, TableDrawsOnlyVisibleRowsAndDeletesBySwipe) {
     table->grab();
     EXPECT_GT(source.cellsAsked, 0);
     EXPECT_LT(source.cellsAsked, 40); // a screenful, not 32,000
-    EXPECT_EQ(table->headerTitle(0), "# Coins = 32000");
+    EXPECT_EQ(table->headerTitle(0), "32000 rows");
 
-    EXPECT_TRUE(table->triggerSwipeAction({0, 2}, "delete"));
+    EXPECT_TRUE(table->triggerSwipeAction({0, 2}, "Delete"));
     EXPECT_EQ(table->numberOfRows(0), 31999);
-    EXPECT_EQ(source.rows[2], 3);
+    EXPECT_EQ(source.sections[0][2], 3);
 
     // A real left drag on row 0 reveals the button; clicking it deletes the row.
     QWidget* vp = table->listView()->viewport();
@@ -226,6 +143,46 @@ TEST_F(KitTest, TableDrawsOnlyVisibleRowsAndDeletesBySwipe) {
     QTest::mouseRelease(vp, Qt::LeftButton, {}, QPoint(200, r.center().y()));
     EXPECT_EQ(table->revealedRow(), table->listRow({0, 0}));
     QTest::mouseClick(vp, Qt::LeftButton, {}, QPoint(r.right() - 20, r.center().y()));
-    EXPECT_EQ(source.rows.first(), 1);
+    EXPECT_EQ(source.sections[0].first(), 1);
     EXPECT_EQ(table->numberOfRows(0), 31998);
+}
+
+// Symbols come from the resources in the colour asked for; a bar button shows its symbol
+// instead of its title, and a name the resources lack leaves the title.
+TEST_F(KitTest, SymbolsAreTintedAndShownOnBarButtons) {
+    EXPECT_TRUE(Symbols::exists("plus"));
+    EXPECT_FALSE(Symbols::exists("no.such.symbol"));
+    EXPECT_TRUE(Symbols::icon("no.such.symbol").isNull());
+    const QImage plus = Symbols::icon("plus", 22, Qt::red).pixmap(22, 22).toImage();
+    ASSERT_FALSE(plus.isNull());
+    const QColor centre = plus.pixelColor(plus.width() / 2, plus.height() / 2);
+    EXPECT_EQ(centre.red(), 255);
+    EXPECT_EQ(centre.green(), 0);
+    EXPECT_EQ(plus.pixelColor(0, 0).alpha(), 0); // outside the drawing
+
+    root->navigationItem().rightItems = {
+        {"Sort", [] {}, nullptr, "SortButton", "arrow.up.arrow.down"},
+        {"Other", [] {}, nullptr, "OtherButton", "no.such.symbol"}};
+    root->updateNavigationBar();
+    QApplication::processEvents(); // the bar shows its new items
+    auto* sort = window->findChild<QPushButton*>("SortButton");
+    ASSERT_NE(sort, nullptr);
+    EXPECT_FALSE(sort->icon().isNull());
+    EXPECT_TRUE(sort->text().isEmpty());
+    EXPECT_EQ(sort->toolTip(), "Sort");
+    EXPECT_EQ(window->findChild<QPushButton*>("OtherButton")->text(), "Other");
+
+    // The search field's clear button appears with a text and empties the field.
+    SearchController search;
+    QStringList heard;
+    search.searchResultsUpdater = [&](SearchController* s) { heard << s->text(); };
+    auto* clear = search.findChild<QAction*>("ClearButton");
+    ASSERT_NE(clear, nullptr);
+    EXPECT_FALSE(clear->isVisible());
+    search.setText("VF");
+    EXPECT_TRUE(clear->isVisible());
+    clear->trigger();
+    EXPECT_EQ(search.text(), "");
+    EXPECT_FALSE(clear->isVisible());
+    EXPECT_EQ(heard, QStringList({"VF", ""}));
 }

@@ -35,8 +35,8 @@ TEST(ImageCoding, StrictBase64) {
     EXPECT_EQ(ImageCoding::strictBase64Decode("TWE="), QByteArray("Ma"));
     EXPECT_EQ(ImageCoding::strictBase64Decode(""), QByteArray(""));
     // A picture's base64 followed by a record number ("TWFu7") is (usually) no longer base64.
-    for (const char* bad : {"TWF", "TW=u", "TWFu7", "TWF*", "TWE=TWFu", "TW\nFu", "====", "A===",
-                            "TW==TWFu", "TWé="})
+    for (const char* bad :
+         {"TWF", "TW=u", "TWFu7", "TWF*", "TWE=TWFu", "TW\nFu", "====", "A===", "TW==TWFu", "TWé="})
         EXPECT_FALSE(ImageCoding::strictBase64Decode(bad).has_value()) << bad;
     EXPECT_TRUE(ImageCoding::strictBase64Decode("1234").has_value());
     // Whatever the bytes, decoding gives them back.

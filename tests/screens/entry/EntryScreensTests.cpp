@@ -289,7 +289,8 @@ TEST_F(EntryScreenTest, RateShareRows) {
 // by its noted values find it; texts are matched as texts, so an absent denomination is not
 // found by the empty text.
 TEST_F(EntryScreenTest, ImportedCoinWithoutYearKeepsNotesAndLosesOnlyTheRemovedPicture) {
-    const QByteArray front = coinPicture(Qt::red).toBase64(), back = coinPicture(Qt::blue).toBase64();
+    const QByteArray front = coinPicture(Qt::red).toBase64(),
+                     back = coinPicture(Qt::blue).toBase64();
     Exchange::mergeExchangeText(ctx(), QByteArray("[PELVANE]\nPeru^Sol^^^^^^^P") +
                                            QByteArray(11, '^') + front + '^' + back +
                                            "\nChile^^^^^^^^^^^^^^^^^^1990\n");

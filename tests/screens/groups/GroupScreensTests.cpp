@@ -207,7 +207,6 @@ TEST_F(GroupsTest, OneValueReadsPluralAndTabsKeepTheirStacks) {
 }
 
 TEST_F(GroupsTest, ACountAbove32767IsFatal) {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_DEATH(
         {
             for (int i = 0; i < 32768; ++i) // unsaved: counted all the same

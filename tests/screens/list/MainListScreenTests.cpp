@@ -55,7 +55,7 @@ TEST_F(DollarScreenTest, MainListSortsAlternatelySearchesAndCounts) {
 
     // The search follows the sort key; the header counts the coins shown.
     const std::tuple<const char*, const char*, int> searches[] = {
-        {"By Name", "CENT", 1}, {"By Year", "8", 1},      {"By Quantity", "3", 1},
+        {"By Name", "CENT", 1}, {"By Year", "8", 1},    {"By Quantity", "3", 1},
         {"By Value", "2.5", 2}, {"By Country", "a", 3},
     };
     for (const auto& [title, text, found] : searches) {
