@@ -10,6 +10,7 @@
 #include "screens/groups/PrintCoinsViewController.h"
 
 #include <QDir>
+#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTextBlock>

@@ -1,6 +1,5 @@
 #include "../ScreenFixture.h"
 #include "platform/Console.h"
-#include "platform/ImageCoding.h"
 #include "screens/entry/EditViewController.h"
 #include "screens/list/MainListTableViewCell.h"
 #include "screens/list/MainListTableViewController.h"
@@ -87,7 +86,7 @@ TEST_F(ScreenTest, RowTapFillsTheCurrentCoinAndOpensTheEditScreen) {
     auto c = addCoin("Lincoln Cent", 1909, 2, 3.5f);
     c->setId(42);
     c->setSerialNumber("PCGS 123");
-    c->setBackImage(ImageCoding::coinPictureData(QImage(10, 10, QImage::Format_RGB32)));
+    c->setBackImage(coinPicture());
     ctx().save();
     menu->performSegue("ListCoins");
     auto* list = topAs<MainListTableViewController>();
@@ -112,7 +111,7 @@ TEST_F(ScreenTest, RowTapFillsTheCurrentCoinAndOpensTheEditScreen) {
 }
 
 TEST_F(ScreenTest, OnlyTheVisibleRowsAreDrawnAndASortKeepsTheCoinsInMemory) {
-    const QByteArray picture = ImageCoding::coinPictureData(QImage(50, 50, QImage::Format_RGB32));
+    const QByteArray picture = coinPicture();
     for (int i = 0; i < 300; ++i) {
         auto c = ctx().insert<Coins>();
         c->setDenomination(QStringLiteral("Coin %1").arg(i));

@@ -1,5 +1,4 @@
 #include "../ScreenFixture.h"
-#include "platform/ImageCoding.h"
 #include "screens/valuation/ValuationTableViewCell.h"
 #include "screens/valuation/ValuationViewController.h"
 
@@ -28,7 +27,7 @@ protected:
 
 TEST_F(ValuationTest, OpensWithTotalsRowsAndPlaceholderPictures) {
     auto withPicture = addCoin("Lincoln Cent", 1909, 2, 3.5f);
-    withPicture->setFrontImage(ImageCoding::coinPictureData(QImage(40, 40, QImage::Format_RGB32)));
+    withPicture->setFrontImage(coinPicture());
     ctx().save();
     addCoin("Buffalo Nickel", 1937, 0, 20.0f); // counts as no coin here
     addCoin("Mercury Dime", 1944, 3, 1.25f);
