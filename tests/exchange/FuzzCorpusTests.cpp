@@ -7,10 +7,11 @@
 using FuzzEntries::Outcome;
 
 namespace {
-// Every file of a corpus folder through one entry point; a crash or a sanitizer report ends
-// the test, a designed stop is an answer. The outcome of each, by file name.
 // The message of each designed stop, by file name.
 QMap<QString, QString> stops;
+
+// Every file of a corpus folder through one entry point; a crash or a sanitizer report ends
+// the test, a designed stop is an answer. The outcome of each, by file name.
 
 template <typename Entry> QMap<QString, Outcome> runCorpus(const char* folder, Entry entry) {
     QMap<QString, Outcome> outcomes;

@@ -1,12 +1,5 @@
-#include "TestSupport.h"
-#include "platform/kit/NavigationController.h"
+#include "KitFixture.h"
 #include "platform/kit/TabBarController.h"
-#include "platform/kit/TableView.h"
-#include "platform/kit/Window.h"
-
-#include <QApplication>
-#include <QLabel>
-#include <QPushButton>
 
 namespace {
 QStringList events;
@@ -38,14 +31,12 @@ public:
 };
 } // namespace
 
-TEST_F(PelvaneTest, TabsLoadWhenFirstShownAndPassAppearAndDisappear) {
+TEST_F(KitTest, TabsLoadWhenFirstShownAndPassAppearAndDisappear) {
     events.clear();
-    Window window(new ViewController);
-    window.show();
     auto* tabs = new TabBarController;
     tabs->setViewControllers({new Tab("A"), new Tab("B")}, {"A", "B"});
     EXPECT_TRUE(events.isEmpty());
-    window.navigationController()->pushViewController(tabs, false);
+    window->navigationController()->pushViewController(tabs, false);
     EXPECT_EQ(events, QStringList({"A:load", "A:willAppear", "A:didAppear"}));
     events.clear();
     tabs->setSelectedIndex(1);
@@ -56,7 +47,7 @@ TEST_F(PelvaneTest, TabsLoadWhenFirstShownAndPassAppearAndDisappear) {
     EXPECT_EQ(events,
               QStringList({"B:willDisappear", "A:willAppear", "B:didDisappear", "A:didAppear"}));
     events.clear();
-    window.navigationController()->popViewController(false);
+    window->navigationController()->popViewController(false);
     EXPECT_EQ(events, QStringList({"A:willDisappear", "A:didDisappear"}));
 
     // Bar buttons on both sides; a disabled one cannot be pressed.

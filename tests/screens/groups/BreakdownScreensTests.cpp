@@ -110,11 +110,7 @@ protected:
     }
     // Opens the breakdown of the case's value by a tap on its group row.
     BreakdownTableViewController* open() {
-        tabs = openGroups();
-        GroupTableViewController* g = groupScreen(tabs, GetParam().tab);
-        g->tableView->selectRow({0, int(g->ValueList.indexOf(GetParam().groupValue))});
-        return dynamic_cast<BreakdownTableViewController*>(
-            tabs->tab(GetParam().tab)->topViewController());
+        return openBreakdown(GetParam().tab, GetParam().groupValue);
     }
     QStringList shown(BreakdownTableViewController* b) {
         QStringList out;
@@ -126,7 +122,6 @@ protected:
         }
         return out;
     }
-    TabBarController* tabs = nullptr;
 
 private:
     qint16 lastId_ = 0;

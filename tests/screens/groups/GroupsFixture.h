@@ -19,6 +19,13 @@ protected:
         tabs->setSelectedIndex(tab);
         return dynamic_cast<GroupTableViewController*>(tabs->tab(tab)->viewControllers().value(0));
     }
+    // The breakdown of a group's value, opened by a tap on its row.
+    BreakdownTableViewController* openBreakdown(int tab, const QString& value) {
+        tabs = openGroups();
+        GroupTableViewController* g = groupScreen(tabs, tab);
+        g->tableView->selectRow({0, int(g->ValueList.indexOf(value))});
+        return dynamic_cast<BreakdownTableViewController*>(tabs->tab(tab)->topViewController());
+    }
     static QPushButton* barButton(ViewController* screen, const char* name) {
         return screen->navigationController()->findChild<QPushButton*>(QString::fromLatin1(name));
     }
@@ -27,4 +34,5 @@ protected:
         field->clear();
         QTest::keyClicks(field, text);
     }
+    TabBarController* tabs = nullptr;
 };

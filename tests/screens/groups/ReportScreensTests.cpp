@@ -60,7 +60,6 @@ class ReportTest : public GroupsTest {
 protected:
     void SetUp() override {
         GroupsTest::SetUp();
-        Console::startCapture();
         addCoin("Dime", 1999, 2, 1.25f, "USA", "D")->setFrontImage(coinPicture(Qt::red));
         addCoin("Dime", 1964, 1, 0.5f, "USA", "P");
         auto quarter = addCoin("Quarter", 1964, 3, 2.0f, "USA", "S");
@@ -70,23 +69,13 @@ protected:
         addCoin("Dime", 2001, 4, 1.0f, "Canada", "P");
         ASSERT_FALSE(ctx().save());
     }
-    void TearDown() override {
-        Console::stopCapture();
-        GroupsTest::TearDown();
-    }
-    BreakdownTableViewController* open(int tab, const QString& value) {
-        TabBarController* tabs = openGroups();
-        GroupTableViewController* g = groupScreen(tabs, tab);
-        g->tableView->selectRow({0, int(g->ValueList.indexOf(value))});
-        return dynamic_cast<BreakdownTableViewController*>(tabs->tab(tab)->topViewController());
-    }
     QString documents() const { return dir() + "/Documents/"; }
 };
 
 TEST_F(ReportTest, EachBreakdownWritesItsCoinsInOrderOnA4AndOffersTheFile) {
     for (const ReportCase& k : kReports) {
         SCOPED_TRACE(k.fileName.toStdString());
-        BreakdownTableViewController* b = open(k.tab, k.groupValue);
+        BreakdownTableViewController* b = openBreakdown(k.tab, k.groupValue);
         ASSERT_NE(b, nullptr);
         Console::startCapture();
         fakes.shareSheet->presented.clear();
@@ -168,7 +157,7 @@ TEST_F(ReportTest, BadInputStillGivesTheWholeReport) {
     coin->setDescrip(QStringLiteral("中国硬币 😀"));
     coin->setFrontImage("broken bytes");
     ASSERT_FALSE(ctx().save());
-    BreakdownTableViewController* b = open(0, "Dime");
+    BreakdownTableViewController* b = openBreakdown(0, "Dime");
     barButton(b, "ShareButton")->click();
     PdfPages pdf(documents() + "CoinListByDenomination.pdf");
     ASSERT_GE(pdf.count(), 2);
@@ -203,7 +192,7 @@ TEST_F(ReportTest, BadInputStillGivesTheWholeReport) {
 
 TEST_F(ReportTest, WithoutTextMessagesOnlyTheAlertComes) {
     fakes.messages->canSend = false;
-    BreakdownTableViewController* b = open(0, "Dime");
+    BreakdownTableViewController* b = openBreakdown(0, "Dime");
     barButton(b, "ShareButton")->click();
     QTRY_VERIFY(b->presentedAlert() != nullptr);
     EXPECT_EQ(alertText(),
@@ -216,7 +205,7 @@ TEST_F(ReportTest, ALongReportShowsItsProgressAndGivesTheSameFile) {
     for (int i = 0; i < BreakdownTableViewController::ReportInBackgroundFrom; ++i)
         addCoin("Dime", 1700 + i, 1, 0.1f, "USA", "P")->setFrontImage(coinPicture(Qt::green));
     ASSERT_FALSE(ctx().save());
-    BreakdownTableViewController* b = open(0, "Dime");
+    BreakdownTableViewController* b = openBreakdown(0, "Dime");
     barButton(b, "ShareButton")->click();
     EXPECT_TRUE(b->isWritingReport());
     EXPECT_TRUE(b->ProgressView_->isVisible());
@@ -238,7 +227,7 @@ TEST_F(ReportTest, ALongReportShowsItsProgressAndGivesTheSameFile) {
 TEST_F(ReportTest, ThePrintScreenListsTheGroupInTheGroupScreensOrderAndPrintsIt) {
     fakes.printController->outputFile = dir() + "/printed.pdf";
     SortAscending = false;
-    BreakdownTableViewController* b = open(1, "USA");
+    BreakdownTableViewController* b = openBreakdown(1, "USA");
     search(b->searchController, "d"); // has no effect on the listing
     barButton(b, "PrintButton")->click();
     auto* print =
@@ -272,7 +261,7 @@ TEST_F(ReportTest, ThePrintScreenListsTheGroupInTheGroupScreensOrderAndPrintsIt)
 }
 
 TEST_F(ReportTest, TheYearListingNamesTheYearTwiceAndAnEmptyGroupHidesPrinting) {
-    BreakdownTableViewController* b = open(2, "1964");
+    BreakdownTableViewController* b = openBreakdown(2, "1964");
     barButton(b, "PrintButton")->click();
     auto* print =
         dynamic_cast<PrintCoinsViewController*>(b->navigationController()->topViewController());
@@ -294,7 +283,7 @@ TEST_F(ReportTest, TheYearListingNamesTheYearTwiceAndAnEmptyGroupHidesPrinting) 
 // A disk that fills up or a file-size limit part-way through leaves the earlier report whole
 // and says why.
 TEST_F(ReportTest, AWriteCutShortKeepsTheEarlierReport) {
-    BreakdownTableViewController* b = open(0, "Dime");
+    BreakdownTableViewController* b = openBreakdown(0, "Dime");
     barButton(b, "ShareButton")->click();
     const QString path = documents() + "CoinListByDenomination.pdf";
     const QByteArray earlier = readFile(path);
