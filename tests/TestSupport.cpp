@@ -59,20 +59,22 @@ int OtherConnection::exec(const char* sql) {
     return sqlite3_exec(db_, sql, nullptr, nullptr, nullptr);
 }
 
+qint64 OtherConnection::number(const QByteArray& sql) {
+    sqlite3_stmt* st = nullptr;
+    sqlite3_prepare_v2(db_, sql.constData(), -1, &st, nullptr);
+    const qint64 n = st && sqlite3_step(st) == SQLITE_ROW ? sqlite3_column_int64(st, 0) : -1;
+    sqlite3_finalize(st);
+    return n;
+}
+
 void damagePage(const QString& storeFile, const char* table) {
     qint64 page = 0, pageSize = 0;
     {
         OtherConnection store(storeFile);
-        sqlite3_stmt* st = nullptr;
-        sqlite3_prepare_v2(store.handle(),
-                           "SELECT rootpage, (SELECT page_size FROM pragma_page_size) FROM "
-                           "sqlite_master WHERE name = ?",
-                           -1, &st, nullptr);
-        sqlite3_bind_text(st, 1, table, -1, SQLITE_STATIC);
-        ASSERT_EQ(sqlite3_step(st), SQLITE_ROW) << table;
-        page = sqlite3_column_int64(st, 0);
-        pageSize = sqlite3_column_int64(st, 1);
-        sqlite3_finalize(st);
+        page = store.number(QByteArray("SELECT rootpage FROM sqlite_master WHERE name = '") +
+                            table + "'");
+        pageSize = store.number("PRAGMA page_size");
+        ASSERT_GT(page, 0) << table;
     }
     QFile file(storeFile);
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));

@@ -50,6 +50,8 @@ public:
     OtherConnection& operator=(const OtherConnection&) = delete;
     // The SQLite result code of running the statements.
     int exec(const char* sql);
+    // The first column of the query's first row; -1 without one.
+    qint64 number(const QByteArray& sql);
     struct sqlite3* handle() const {
         return db_;
     }

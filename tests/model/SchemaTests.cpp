@@ -37,16 +37,6 @@ QStringList rows(const QString& file, const char* table) {
     return out;
 }
 
-qint64 number(const QString& file, const char* sql) {
-    sqlite3* db = nullptr;
-    sqlite3_open_v2(file.toUtf8().constData(), &db, SQLITE_OPEN_READONLY, nullptr);
-    sqlite3_stmt* st = nullptr;
-    sqlite3_prepare_v2(db, sql, -1, &st, nullptr);
-    const qint64 n = st && sqlite3_step(st) == SQLITE_ROW ? sqlite3_column_int64(st, 0) : -1;
-    sqlite3_finalize(st);
-    sqlite3_close(db);
-    return n;
-}
 } // namespace
 
 // A number never set is 0, in memory and in the file, so that an equality on 0 finds it.
@@ -61,12 +51,12 @@ TEST_F(StoreTest, NumbersNeverSetAreStoredAsZero) {
     ASSERT_FALSE(ctx().save());
 
     OtherConnection raw(path("Pelvane.sqlite"));
-    EXPECT_EQ(number(path("Pelvane.sqlite"),
-                     "SELECT count(*) FROM Coins WHERE year IS NULL OR quantity IS NULL OR id IS "
-                     "NULL OR value IS NULL OR totalValue IS NULL OR diameter IS NULL OR weight "
-                     "IS NULL OR thickness IS NULL"),
-              0);
-    EXPECT_EQ(number(path("Pelvane.sqlite"), "SELECT count(*) FROM Coins WHERE country IS NULL"),
+    EXPECT_EQ(
+        raw.number("SELECT count(*) FROM Coins WHERE year IS NULL OR quantity IS NULL OR id IS "
+                   "NULL OR value IS NULL OR totalValue IS NULL OR diameter IS NULL OR weight "
+                   "IS NULL OR thickness IS NULL"),
+        0);
+    EXPECT_EQ(raw.number("SELECT count(*) FROM Coins WHERE country IS NULL"),
               1); // texts stay absent
     // Even another program cannot store an absent number.
     EXPECT_EQ(raw.exec("INSERT INTO Coins (denomination, year) VALUES ('X', NULL)"),
@@ -132,7 +122,8 @@ TEST_F(StoreTest, StoreOfTheFirstSchemaIsBroughtForwardOnce) {
     container.reset();
     reopen();
     EXPECT_EQ(rows(file, "Coins"), coinsAfter);
-    EXPECT_EQ(number(file, "PRAGMA user_version"), PersistentContainer::SchemaVersion);
+    EXPECT_EQ(OtherConnection(file).number("PRAGMA user_version"),
+              PersistentContainer::SchemaVersion);
 }
 
 // Screens carry on with nothing after a failed fetch, and say why on the console.
