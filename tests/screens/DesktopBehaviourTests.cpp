@@ -28,8 +28,7 @@ protected:
 TEST_F(DesktopTest, TheMainListAndTheAddFormAnswerTheKeyboard) {
     addCoin("Penny", 1950);
     addCoin("Dime", 1960);
-    menu->performSegue("ListCoins");
-    auto* list = topAs<MainListTableViewController>();
+    auto* list = openList();
     ASSERT_NE(list, nullptr);
     EXPECT_EQ(window->focusWidget(), list->tableView->listView());
 

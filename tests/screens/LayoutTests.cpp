@@ -24,8 +24,7 @@ protected:
     MainListTableViewController* listOf(int coins) {
         for (int i = 0; i < coins; ++i)
             addCoin(QStringLiteral("%1 Cents").arg(i, 3, 10, QLatin1Char('0')), 1900 + i);
-        menu->performSegue("ListCoins");
-        return topAs<MainListTableViewController>();
+        return openList();
     }
 };
 
@@ -64,8 +63,7 @@ TEST_F(LayoutTest, ADesktopWindowCentresAReadableColumnAndAPhoneWindowUsesItAll)
 }
 
 TEST_F(LayoutTest, TheBarsSaveDoesWhatTheFormsSaveDoes) {
-    menu->performSegue("ListCoins");
-    top()->performSegue("AddCoin");
+    openList()->performSegue("AddCoin");
     auto* add = topAs<AddViewController>();
     ASSERT_NE(button("SaveButtonInBar"), nullptr);
     EXPECT_EQ(button("SaveButtonInBar")->text(), "Save");
@@ -105,8 +103,7 @@ TEST_F(LayoutTest, TheBarsSaveDoesWhatTheFormsSaveDoes) {
     EXPECT_TRUE(stored);
 
     // The bar's button is enabled with the form's.
-    menu->performSegue("ListCoins");
-    top()->performSegue("AddCoin");
+    openList()->performSegue("AddCoin");
     topAs<AddViewController>()->SaveButton->setEnabled(false);
     EXPECT_FALSE(button("SaveButtonInBar")->isEnabled());
 }
@@ -163,8 +160,7 @@ TEST_F(LayoutTest, DarkBordersStayVisible) {
     const QColor window = QApplication::palette().color(QPalette::Window);
     const QColor border = Styling::visibleBorder(Qt::black);
     EXPECT_GT(qAbs(border.lightness() - window.lightness()), 80);
-    menu->performSegue("ListCoins");
-    top()->performSegue("AddCoin");
+    openList()->performSegue("AddCoin");
     auto* add = topAs<AddViewController>();
     EXPECT_TRUE(add->SaveButton->styleSheet().contains(border.name()));
     EXPECT_FALSE(add->SaveButton->styleSheet().contains(QColor(Qt::black).name() + ";"));

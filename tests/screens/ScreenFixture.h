@@ -7,6 +7,7 @@
 #include "platform/kit/AlertController.h"
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/Window.h"
+#include "screens/list/MainListTableViewController.h"
 #include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>
@@ -54,6 +55,10 @@ protected:
     QPushButton* button(const QString& name) { return window->findChild<QPushButton*>(name); }
     ViewController* top() { return window->navigationController()->topViewController(); }
     template <typename T> T* topAs() { return dynamic_cast<T*>(top()); }
+    MainListTableViewController* openList() {
+        menu->performSegue("ListCoins");
+        return topAs<MainListTableViewController>();
+    }
     CoinPtr addCoin(const QString& denomination, int year, int quantity = 1, float value = 1,
                     const QString& country = QStringLiteral("Canada"),
                     const QString& mintMark = QStringLiteral("P")) {

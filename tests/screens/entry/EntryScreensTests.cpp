@@ -14,10 +14,6 @@
 
 class EntryScreenTest : public ScreenTest {
 protected:
-    MainListTableViewController* openList() {
-        menu->performSegue("ListCoins");
-        return topAs<MainListTableViewController>();
-    }
     // Opens the coin from the main list as a tap on its row does.
     EditViewController* openFromList(const CoinPtr& coin) {
         auto* list = topAs<MainListTableViewController>();

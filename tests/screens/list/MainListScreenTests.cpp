@@ -20,8 +20,7 @@ TEST_F(DollarScreenTest, MainListSortsAlternatelySearchesAndCounts) {
     addCoin("Cent", 1909, 1, 12.5f, "USA");
     addCoin("Nickel", 1937, 3, 2.55f, "");
     addCoin("Maple Leaf", 1988, 0, 2100);
-    menu->performSegue("ListCoins");
-    auto* list = topAs<MainListTableViewController>();
+    auto* list = openList();
     ASSERT_NE(list, nullptr);
     EXPECT_EQ(names(list->CoinList), QStringList({"Dime", "Cent", "Nickel", "Maple Leaf"}));
     EXPECT_EQ(list->CoinCount, 6);
@@ -88,8 +87,7 @@ TEST_F(ScreenTest, RowTapFillsTheCurrentCoinAndOpensTheEditScreen) {
     c->setSerialNumber("PCGS 123");
     c->setBackImage(coinPicture());
     ctx().save();
-    menu->performSegue("ListCoins");
-    auto* list = topAs<MainListTableViewController>();
+    auto* list = openList();
     list->tableView->selectRow({0, 0});
     auto* edit = topAs<EditViewController>();
     ASSERT_NE(edit, nullptr);
@@ -119,8 +117,7 @@ TEST_F(ScreenTest, OnlyTheVisibleRowsAreDrawnAndASortKeepsTheCoinsInMemory) {
         c->setFrontImage(picture);
     }
     ASSERT_FALSE(ctx().save());
-    menu->performSegue("ListCoins");
-    auto* list = topAs<MainListTableViewController>();
+    auto* list = openList();
     QApplication::processEvents();
     window->repaint();
     const int drawn = list->tableView->cellsRequested();
@@ -145,8 +142,7 @@ TEST_F(ScreenTest, OnlyTheVisibleRowsAreDrawnAndASortKeepsTheCoinsInMemory) {
 // the appearance's colour.
 TEST_F(ScreenTest, DarkRowsBlackenTheFourTextLinesOnly) {
     addCoin("Dime", 1964);
-    menu->performSegue("ListCoins");
-    auto* list = topAs<MainListTableViewController>();
+    auto* list = openList();
     list->DarkMode = true;
     auto* cell = static_cast<MainListTableViewCell*>(list->cellForRow(list->tableView, {0, 0}));
     for (QLabel* l : {cell->DenominationLabel, cell->Label2, cell->Label3, cell->Label4})
