@@ -31,60 +31,31 @@ struct GroupCase {
     QLabel* (*valueLabel)(TableViewCell*);
 };
 
-template <typename T> bool is(QObject* o) {
-    return dynamic_cast<T*>(o) != nullptr;
-}
-
 const GroupCase kCases[] = {
-    {"Denomination",
-     0,
-     "Sort and Search By Denomination",
-     " Denominations",
-     " Denomination",
+    {"Denomination", 0, "Sort and Search By Denomination", " Denominations", " Denomination",
      [](Coins& c, const QString& v) { c.setDenomination(v); },
-     [](const Coins& c) { return c.denomination(); },
-     {"", "Dime", "dime", "Cent"},
-     {"", "Cent", "Dime", "dime"},
-     "IM",
-     {"Dime", "dime"},
-     [] { return SelectedDenomination; },
-     [](ViewController* s) { return is<DenominationGroupTableViewController>(s); },
-     [](TableViewCell* c) { return is<DenominationgroupTableViewCell>(c); },
-     [](ViewController* s) { return is<DenominationBreakdownTableViewController>(s); },
+     [](const Coins& c) { return c.denomination(); }, QStringList{"", "Dime", "dime", "Cent"},
+     QStringList{"", "Cent", "Dime", "dime"}, "IM", QStringList{"Dime", "dime"},
+     [] { return SelectedDenomination; }, isScreen<DenominationGroupTableViewController>,
+     isCell<DenominationgroupTableViewCell>, isScreen<DenominationBreakdownTableViewController>,
      [](TableViewCell* c) {
          return static_cast<DenominationgroupTableViewCell*>(c)->DenominationLabel;
      }},
-    {"Country",
-     1,
-     "Search By Denomination",
-     " Countries",
-     " Country",
+    {"Country", 1, "Search By Denomination", " Countries", " Country",
      [](Coins& c, const QString& v) { c.setCountry(v); },
-     [](const Coins& c) { return c.country(); },
-     {"", "Peru", "peru", "Chile"},
-     {"", "Chile", "Peru", "peru"},
-     "ER",
-     {"Peru", "peru"},
-     [] { return SelectedCountry; },
-     [](ViewController* s) { return is<CountryGroupTableViewController>(s); },
-     [](TableViewCell* c) { return is<CountryGroupTableViewCell>(c); },
-     [](ViewController* s) { return is<CountryBreakdownTableViewController>(s); },
+     [](const Coins& c) { return c.country(); }, QStringList{"", "Peru", "peru", "Chile"},
+     QStringList{"", "Chile", "Peru", "peru"}, "ER", QStringList{"Peru", "peru"},
+     [] { return SelectedCountry; }, isScreen<CountryGroupTableViewController>,
+     isCell<CountryGroupTableViewCell>, isScreen<CountryBreakdownTableViewController>,
      [](TableViewCell* c) { return static_cast<CountryGroupTableViewCell*>(c)->CountryLabel; }},
-    {"Year",
-     2,
-     "Sort and Search By Year",
-     " Years",
-     " Year",
+    {"Year", 2, "Sort and Search By Year", " Years", " Year",
      [](Coins& c, const QString& v) { c.setYear(v.toShort()); },
      [](const Coins& c) { return QString::number(c.year()); },
-     {"1964", "999", "1000", "2019"},
-     {"1000", "1964", "2019", "999"}, // texts: 999 after 1000
-     "19",
-     {"1964", "2019"},
-     [] { return QString::number(SelectedYear); },
-     [](ViewController* s) { return is<YearGroupTableViewController>(s); },
-     [](TableViewCell* c) { return is<YearTableViewCell>(c); },
-     [](ViewController* s) { return is<YearBreakdownTableViewController>(s); },
+     QStringList{"1964", "999", "1000", "2019"},
+     QStringList{"1000", "1964", "2019", "999"}, // texts: 999 after 1000
+     "19", QStringList{"1964", "2019"}, [] { return QString::number(SelectedYear); },
+     isScreen<YearGroupTableViewController>, isCell<YearTableViewCell>,
+     isScreen<YearBreakdownTableViewController>,
      [](TableViewCell* c) { return static_cast<YearTableViewCell*>(c)->YearLabel; }},
 };
 

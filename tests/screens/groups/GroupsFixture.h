@@ -7,6 +7,14 @@
 
 #include <QPushButton>
 
+// Whether a screen or a cell is of the named class.
+template <typename T> bool isScreen(ViewController* s) {
+    return dynamic_cast<T*>(s) != nullptr;
+}
+template <typename T> bool isCell(TableViewCell* c) {
+    return dynamic_cast<T*>(c) != nullptr;
+}
+
 class GroupsTest : public DollarScreenTest {
 protected:
     TabBarController* openGroups() {

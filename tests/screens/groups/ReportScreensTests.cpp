@@ -32,27 +32,15 @@ struct ReportCase {
 };
 
 const ReportCase kReports[] = {
-    {0,
-     "Dime",
-     "Coins Filtered by Denomination: Dime",
-     "CoinListByDenomination.pdf",
-     {"Dime Coin Year: 1964", "Dime Coin Year: 1999", "Dime Coin Year: 2001"},
-     "99",
-     {"Dime Coin Year: 1999"}},
-    {1,
-     "USA",
-     "Coins Filtered by Country: USA",
-     "CoinListByCountry.pdf",
-     {"Dime Coin Year: 1964", "Dime Coin Year: 1999", "Quarter Coin Year: 1964"},
-     "q",
-     {"Quarter Coin Year: 1964"}},
-    {2,
-     "1964",
-     "Coins Filtered by Year: 1964",
-     "CoinListByYear.pdf",
-     {"Dime Coin Year: 1964", "Quarter Coin Year: 1964", "cent Coin Year: 1964"},
-     "t",
-     {"Quarter Coin Year: 1964", "cent Coin Year: 1964"}},
+    {0, "Dime", "Coins Filtered by Denomination: Dime", "CoinListByDenomination.pdf",
+     QStringList{"Dime Coin Year: 1964", "Dime Coin Year: 1999", "Dime Coin Year: 2001"}, "99",
+     QStringList{"Dime Coin Year: 1999"}},
+    {1, "USA", "Coins Filtered by Country: USA", "CoinListByCountry.pdf",
+     QStringList{"Dime Coin Year: 1964", "Dime Coin Year: 1999", "Quarter Coin Year: 1964"}, "q",
+     QStringList{"Quarter Coin Year: 1964"}},
+    {2, "1964", "Coins Filtered by Year: 1964", "CoinListByYear.pdf",
+     QStringList{"Dime Coin Year: 1964", "Quarter Coin Year: 1964", "cent Coin Year: 1964"}, "t",
+     QStringList{"Quarter Coin Year: 1964", "cent Coin Year: 1964"}},
 };
 } // namespace
 
