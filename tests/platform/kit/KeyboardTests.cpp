@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QShortcut>
+#include <QToolButton>
 #include <QTest>
 
 namespace {
