@@ -7,8 +7,8 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QShortcut>
-#include <QToolButton>
 #include <QTest>
+#include <QToolButton>
 
 namespace {
 class KeyboardTest : public KitTest {
