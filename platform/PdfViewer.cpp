@@ -34,7 +34,10 @@ PdfViewer::PdfViewer(QWidget* parent)
 }
 
 PdfViewer::~PdfViewer() {
-    // The document closes as it goes and tells the view, which must not be half gone by then.
+    // The document closes as it goes and tells the view, which must not be half gone by then;
+    // nor must the screen that holds this view, which is already being taken apart when its
+    // children go, so the page change that closing sets off is not passed on.
+    blockSignals(true);
     setDocument(nullptr);
 }
 
