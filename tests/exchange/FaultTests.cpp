@@ -99,6 +99,13 @@ TEST_F(PelvaneTest, FailedWritesKeepTheEarlierFileAndTellWhy) {
     EXPECT_EQ(error, "Input/output error");
     EXPECT_EQ(device.written.size(), 4096);
 
+    // A full disk: every write to /dev/full fails as one to a full file system does.
+    QFile full(QStringLiteral("/dev/full"));
+    ASSERT_TRUE(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    error.clear();
+    EXPECT_FALSE(Files::writeAll(full, bigger, &error));
+    EXPECT_EQ(error, "No space left on device");
+
     // A file-size limit, as a full or quota-bound disk gives.
     error.clear();
     bool written = true;
