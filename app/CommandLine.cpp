@@ -31,6 +31,19 @@ const QList<Option>& options() {
          "FILE",
          "Merge the exchange file FILE into the collection and exit.",
          [](LaunchOptions& o, const QString& v) { o.importFile = v; }},
+        {{"backup"},
+         "FILE",
+         "Write an exact copy of the whole collection, pictures and all, to FILE and exit.",
+         [](LaunchOptions& o, const QString& v) { o.backupFile = v; }},
+        {{"restore"},
+         "FILE",
+         "Replace the collection with the backup or snapshot FILE (the current one is kept as "
+         "a snapshot first) and exit.",
+         [](LaunchOptions& o, const QString& v) { o.restoreFile = v; }},
+        {{"backups"},
+         {},
+         "List the snapshots taken automatically and exit.",
+         [](LaunchOptions& o, const QString&) { o.listBackups = true; }},
         {{"report"},
          "KIND",
          "Write the PDF report of a group and exit: KIND is denomination, country or year, "
@@ -117,8 +130,20 @@ LaunchOptions parseLaunchOptions(const QStringList& arguments) {
     }
     if (!launch.message.isEmpty())
         return launch;
-    if (!launch.exportFile.isEmpty() && !launch.importFile.isEmpty())
-        launch.error = usageError(QStringLiteral("--export and --import cannot be combined."));
+    // One thing at a time: each of these does its work and exits.
+    const QList<std::pair<const char*, bool>> commands = {
+        {"--export", !launch.exportFile.isEmpty()},
+        {"--import", !launch.importFile.isEmpty()},
+        {"--backup", !launch.backupFile.isEmpty()},
+        {"--restore", !launch.restoreFile.isEmpty()},
+        {"--backups", launch.listBackups}};
+    QStringList given;
+    for (const auto& [name, set] : commands)
+        if (set)
+            given << QLatin1String(name);
+    if (given.size() > 1)
+        launch.error =
+            usageError(QStringLiteral("%1 cannot be combined.").arg(given.join(" and ")));
     return launch;
 }
 

@@ -4,16 +4,19 @@
 
 // What the command line asks of this run.
 struct LaunchOptions {
-    QString dataDir;       // --data-dir DIR: collection and preferences kept in DIR
-    QString exportFile;    // --export FILE: write the exchange file and exit
-    QString importFile;    // --import FILE: merge an exchange file and exit
-    QString grabFile;      // --grab PNG: save a picture of the window after start-up and exit
-    bool dark = false;     // --dark: the dark appearance, whatever the desktop says
-    bool openMenu = false; // --open-menu: start with the menu opened (screenshots)
-    QStringList report;    // --report KIND VALUE: write the PDF report of a group and exit
-    QString pdfFile;       // --pdf FILE: where the report goes
-    QString message;       // --help, --version: printed on stdout, then the program exits with 0
-    QString error;         // set when the arguments make no sense: printed on stderr, exit 2
+    QString dataDir;          // --data-dir DIR: collection and preferences kept in DIR
+    QString exportFile;       // --export FILE: write the exchange file and exit
+    QString importFile;       // --import FILE: merge an exchange file and exit
+    QString backupFile;       // --backup FILE: write an exact copy of the store and exit
+    QString restoreFile;      // --restore FILE: replace the store with a backup and exit
+    bool listBackups = false; // --backups: list the snapshots and exit
+    QString grabFile;         // --grab PNG: save a picture of the window after start-up and exit
+    bool dark = false;        // --dark: the dark appearance, whatever the desktop says
+    bool openMenu = false;    // --open-menu: start with the menu opened (screenshots)
+    QStringList report;       // --report KIND VALUE: write the PDF report of a group and exit
+    QString pdfFile;          // --pdf FILE: where the report goes
+    QString message;          // --help, --version: printed on stdout, then the program exits with 0
+    QString error;            // set when the arguments make no sense: printed on stderr, exit 2
 };
 
 LaunchOptions parseLaunchOptions(const QStringList& arguments);

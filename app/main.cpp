@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
+#include "app/StoreCommands.h"
 #include "app/Storyboard.h"
 #include "exchange/CommandLine.h"
 #include "platform/kit/Appearance.h"
@@ -31,9 +32,10 @@ int runWithoutWindow(int argc, char** argv, const LaunchOptions& options) {
     prepare(options);
     AppDelegate delegate;
     delegate.didFinishLaunching();
-    ManagedObjectContext& context = *delegate.persistentContainer().viewContext();
+    PersistentContainer& store = delegate.persistentContainer();
+    ManagedObjectContext& context = *store.viewContext();
     return !options.exportFile.isEmpty() ? Exchange::runExport(context, options.exportFile)
-                                         : Exchange::runImport(context, options.importFile);
+                                         : Exchange::runImport(context, options.importFile, &store);
 }
 // The report lays text out and draws it, so it needs fonts but never a display.
 int runReport(int argc, char** argv, const LaunchOptions& options) {
@@ -73,6 +75,13 @@ int main(int argc, char** argv) {
     }
     if (!options.exportFile.isEmpty() || !options.importFile.isEmpty())
         return runWithoutWindow(argc, argv, options);
+    if (!options.backupFile.isEmpty() || !options.restoreFile.isEmpty() || options.listBackups) {
+        QCoreApplication app(argc, argv);
+        prepare(options);
+        return !options.backupFile.isEmpty()    ? StoreCommands::backup(options.backupFile)
+               : !options.restoreFile.isEmpty() ? StoreCommands::restore(options.restoreFile)
+                                                : StoreCommands::listSnapshots();
+    }
     if (!options.report.isEmpty())
         return runReport(argc, argv, options);
 
@@ -81,6 +90,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("org.pelvane.Pelvane"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/pelvane.svg")));
     prepare(options);
+    const bool snapshotDue = StoreCommands::snapshotDue();
     AppDelegate delegate;
     delegate.didFinishLaunching();
     if (options.dark)
@@ -90,6 +100,8 @@ int main(int argc, char** argv) {
     auto* menu = new MainMenuViewController;
     Window window(menu);
     window.show();
+    if (snapshotDue)
+        StoreCommands::takeSnapshotSoon(&window);
     if (options.openMenu)
         menu->HandleButtonClick();
     if (!options.grabFile.isEmpty()) {

@@ -3,6 +3,7 @@
 #include "exchange/ExchangeReader.h"
 #include "exchange/ExchangeWriter.h"
 #include "model/ManagedObjectContext.h"
+#include "model/PersistentContainer.h"
 #include "platform/Files.h"
 
 #include <QFile>
@@ -18,7 +19,34 @@ void say(const QString& line) {
 }
 } // namespace
 
+namespace {
+// The coins an exchange file at the path holds: its lines after the marker.
+qsizetype coinsInFile(const QString& file) {
+    QFile in(file);
+    if (!QFileInfo(file).isFile() || !in.open(QIODevice::ReadOnly))
+        return 0;
+    const QByteArray text = in.readAll();
+    const qsizetype marker = text.indexOf(Marker);
+    if (marker < 0)
+        return 0;
+    qsizetype coins = 0;
+    for (qsizetype start = marker, end; start < text.size(); start = end + 1) {
+        end = text.indexOf('\n', start);
+        if (end < 0)
+            end = text.size();
+        const QByteArrayView line = QByteArrayView(text).sliced(start, end - start).trimmed();
+        if (!line.isEmpty() && line != QByteArrayView(Marker))
+            ++coins;
+    }
+    return coins;
+}
+} // namespace
+
 int runExport(ManagedObjectContext& context, const QString& file) {
+    if (QString why; !Files::isWritableTarget(file, &why)) {
+        say(QStringLiteral("Cannot write %1: %2").arg(file, why));
+        return 1;
+    }
     StoreError readError;
     const QByteArray bytes = exchangeText(context, {}, &readError);
     // A file from a store that could not be read whole would replace a good backup.
@@ -26,6 +54,15 @@ int runExport(ManagedObjectContext& context, const QString& file) {
         say(QStringLiteral("Cannot read the collection: %1").arg(readError.message));
         return 1;
     }
+    // An empty collection (a mistyped data folder) must not wipe out a backup.
+    if (bytes == QByteArray(Marker) + '\n')
+        if (const qsizetype held = coinsInFile(file); held > 0) {
+            say(QStringLiteral("Not writing %1: the collection is empty and the file holds %2 "
+                               "coins. Check the data folder, or write to another file.")
+                    .arg(file)
+                    .arg(held));
+            return 1;
+        }
     QString error;
     if (!Files::writeAtomically(file, bytes, &error)) {
         say(QStringLiteral("Cannot write %1: %2").arg(file, error));
@@ -34,7 +71,7 @@ int runExport(ManagedObjectContext& context, const QString& file) {
     return 0;
 }
 
-int runImport(ManagedObjectContext& context, const QString& file) {
+int runImport(ManagedObjectContext& context, const QString& file, PersistentContainer* store) {
     // A device or a pipe may never end (/dev/zero): only a file of known size is read.
     const QFileInfo info(file);
     if (info.exists() && !info.isFile()) {
@@ -52,14 +89,36 @@ int runImport(ManagedObjectContext& context, const QString& file) {
         say(QStringLiteral("Cannot read %1: it is not text").arg(file));
         return 1;
     }
-    const ImportResult result = mergeExchangeText(context, std::move(*text));
+    // Whether the store's file is still the one written to: a file deleted or cut short under
+    // the import would take every coin with it, whatever the saves said.
+    auto storeGone = [&] {
+        if (!store || store->storeFileIntact())
+            return false;
+        say(QStringLiteral("The collection file %1 was deleted, replaced or cut short while the "
+                           "import ran: nothing was kept.")
+                .arg(store->storePath()));
+        return true;
+    };
+    if (store)
+        store->readWithoutMemoryMap();
+    Merge merge(context, std::move(*text));
+    while (merge.step(64))
+        if (storeGone())
+            return 1;
+    const ImportResult& result = merge.result();
     if (result.wrongFile) {
         say(info.fileName() + QStringLiteral(" Is The Incorrect Import File"));
         return 2;
     }
+    if (storeGone())
+        return 1;
     const auto error = context.save();
-    std::printf("%d created, %d updated, %d skipped\n", result.created, result.updated,
-                result.skipped);
+    if (storeGone())
+        return 1;
+    // Only what is in the store is counted.
+    std::printf("%d created, %d updated, %d skipped\n",
+                result.created - (error ? result.notSaved : 0),
+                result.updated - (error ? result.updatedSinceSave : 0), result.skipped);
     if (error) {
         // Every coin the merge left pending is lost with the process: say how many and why.
         say(QStringLiteral("%1 coins not saved: %2")

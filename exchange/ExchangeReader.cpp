@@ -120,6 +120,18 @@ void apply(Coins& coin, const Fields& fields, bool isNew) {
                        "Pelvane/ImportViewController", 271);
         if (type == AttributeType::Data && !value.isValid() && isNew)
             continue; // not valid base64: the new coin simply has no such picture
+        if (type == AttributeType::Data && value.isValid() &&
+            ImageCoding::decode(value.toByteArray()).isNull()) {
+            // Kept, it would stop every later export: the coin goes on without it.
+            Console::log(QStringLiteral("Warning: the %1 picture of %2 cannot be read; the coin "
+                                        "is kept without it")
+                             .arg(kAttributes[p] == QLatin1String("frontImage") ? "front" : "back",
+                                  coinForMessage(coin)));
+            if (isNew)
+                continue;
+            coin.setValue(attribute, QVariant());
+            continue;
+        }
         if (type == AttributeType::Text && value.typeId() == QMetaType::QByteArray)
             coin.setText(attribute, value.toByteArray());
         else
@@ -196,6 +208,10 @@ bool Merge::step(qsizetype count) {
         // would create, update or be skipped.
         if (fields.size() > kAttributes.size())
             fatalError(QStringLiteral("Index out of range"), "Pelvane/ImportViewController", 262);
+        // The lookup and the save that follows it hold the write lock together, so that two
+        // imports of one file never both find a coin missing and both create it.
+        if (auto locked = context.beginWriteBatch(); locked && locked->isBusy())
+            dontWaitWhenBusy();
         // The key texts and the request go before the coin is written: a huge field is then
         // held as text once, not three times.
         StoreError fetchFailure;

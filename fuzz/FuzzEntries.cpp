@@ -8,11 +8,8 @@
 
 #include <QBuffer>
 #include <QByteArray>
-#include <QDir>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
-#include <QTemporaryDir>
 
 #include <cstdio>
 #include <cstdlib>
@@ -31,31 +28,18 @@ QString& stopText() {
     return text;
 }
 
-// On a memory file system where there is one: every input writes the store several times,
-// and on a disk those writes are most of what an input costs.
-QTemporaryDir& storeFolder() {
-    static const std::unique_ptr<QTemporaryDir> dir = [] {
-        const QFileInfo memory(QStringLiteral("/dev/shm"));
-        return memory.isDir() && memory.isWritable()
-                   ? std::make_unique<QTemporaryDir>(memory.filePath() +
-                                                     QStringLiteral("/pelvane-fuzz-XXXXXX"))
-                   : std::make_unique<QTemporaryDir>();
-    }();
-    return *dir;
-}
-
 std::unique_ptr<PersistentContainer>& store() {
     static std::unique_ptr<PersistentContainer> container;
     return container;
 }
 
+// A fresh, empty store in memory: the last connection to close takes the old one with it.
 void openStore() {
     store().reset();
-    QFile::remove(storeFolder().filePath(QStringLiteral("Pelvane.sqlite")));
     store() = std::make_unique<PersistentContainer>(QStringLiteral("Pelvane"));
     store()->loadPersistentStores([](const StoreDescription&, const std::optional<StoreError>& e) {
         if (e)
-            qFatal("cannot make the temporary store: %s", qPrintable(e->description()));
+            qFatal("cannot make the store: %s", qPrintable(e->description()));
     });
 }
 
@@ -96,7 +80,8 @@ void prepare() {
     if (done)
         return;
     done = true;
-    PersistentContainer::setDefaultDirectory(storeFolder().path());
+    // Every input makes a store; in memory, that costs what the merge itself costs.
+    PersistentContainer::setInMemory(true);
     openStore();
 }
 
@@ -113,15 +98,8 @@ Outcome mergeAndExport(const uint8_t* data, std::size_t size) {
         (void)Exchange::exchangeText(context);
     });
     // Most inputs make no coin (no marker line, no line after it): the store is still
-    // empty then, and emptying it would cost as much as the input.
-    if (!madeCoins)
-        return outcome;
-    // A stop may leave a new coin pending: it goes with the rest, so that the next input
-    // starts from an empty store.
-    FetchRequest all(QStringLiteral("Coins"));
-    for (const ObjectPtr& coin : context.fetch(all))
-        context.deleteObject(coin);
-    if (context.save())
+    // empty then. A stop may leave a new coin pending: it goes with the store.
+    if (madeCoins)
         openStore();
     return outcome;
 }

@@ -103,6 +103,7 @@ std::optional<StoreError> ManagedObjectContext::save() {
     const bool upgrade = readBatch_;
     if (upgrade) {
         readBatch_ = false;
+        writeBatch_ = false;
         batchEnd_->stop();
         db_->resetAll();
     } else if (auto error = beginWrite()) {

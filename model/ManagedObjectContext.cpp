@@ -122,10 +122,31 @@ void ManagedObjectContext::beginReadBatch() {
         batchEnd_->start();
 }
 
+std::optional<StoreError> ManagedObjectContext::beginWriteBatch() {
+    if (writeBatch_)
+        return std::nullopt;
+    // A batch begun for reading may see an older state than the lock will.
+    endReadBatch();
+    if (!sqlite3_get_autocommit(db_->handle()))
+        return std::nullopt;
+    SqliteStatement& begin = db_->cached(QStringLiteral("BEGIN IMMEDIATE"));
+    const bool began = begin.step() == SQLITE_DONE;
+    std::optional<StoreError> error;
+    if (!began)
+        error = lastError();
+    begin.reset();
+    if (!began)
+        return error;
+    readBatch_ = writeBatch_ = true;
+    if (QCoreApplication::instance())
+        batchEnd_->start();
+    return std::nullopt;
+}
+
 void ManagedObjectContext::endReadBatch() {
     if (!readBatch_)
         return;
-    readBatch_ = false;
+    readBatch_ = writeBatch_ = false;
     batchEnd_->stop();
     db_->resetAll(); // no statement may still be reading
     if (!db_->exec(QStringLiteral("COMMIT")))

@@ -62,6 +62,12 @@ public:
     // store for an empty picture (the export) can ask.
     std::optional<StoreError> takeReadError();
 
+    // Takes the store's write lock now and keeps it, with the reads made meanwhile, until the
+    // next save or the next turn of the event loop: what a save then writes was decided on
+    // what the store held, since no other program can write in between. The error when the
+    // lock could not be had (the reads then go on without it).
+    std::optional<StoreError> beginWriteBatch();
+
     // Whether a write waits for another program's lock to go (2 s) before it gives up.
     void setWaitWhenBusy(bool wait);
 
@@ -121,6 +127,7 @@ private:
     static constexpr qsizetype kPendingIndexThreshold = 64;
     std::optional<StoreError> readError_;
     bool readBatch_ = false;
+    bool writeBatch_ = false; // the batch holds the write lock
     quint64 changeCount_ = 0;
     std::unique_ptr<QTimer> batchEnd_;
 };

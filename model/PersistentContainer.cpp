@@ -1,5 +1,7 @@
 #include "model/PersistentContainer.h"
 
+#include "model/Backup.h"
+#include "model/Snapshots.h"
 #include "model/Sqlite.h"
 
 #include <QDir>
@@ -7,11 +9,27 @@
 #include <QStandardPaths>
 
 #include <sqlite3.h>
+#include <sys/stat.h>
+
+#include <cstdio>
 
 namespace {
 QString& directoryOverride() {
     static QString dir;
     return dir;
+}
+
+bool& inMemory() {
+    static bool memory = false;
+    return memory;
+}
+
+bool isMemory(const QString& path) {
+    return path.startsWith(QLatin1String("file:")) && path.contains(QLatin1String("vfs=memdb"));
+}
+
+QString setApplicationId() {
+    return QStringLiteral("PRAGMA application_id=%1").arg(Backup::ApplicationId);
 }
 
 // Numbers are never absent: a column of numbers holds 0 where nothing was set.
@@ -88,15 +106,65 @@ QString PersistentContainer::defaultDirectory() {
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
 }
 
+void PersistentContainer::setInMemory(bool memory) {
+    inMemory() = memory;
+}
+
+QString PersistentContainer::storePath() const {
+    if (!path_.isEmpty())
+        return path_;
+    if (inMemory())
+        return QStringLiteral("file:/%1.sqlite?vfs=memdb").arg(name_);
+    return QDir(defaultDirectory()).filePath(name_ + QLatin1String(".sqlite"));
+}
+
 void PersistentContainer::loadPersistentStores(const Completion& completion) {
-    StoreDescription description{
-        QDir(defaultDirectory()).filePath(name_ + QLatin1String(".sqlite"))};
-    const std::optional<StoreError> error = open(description.path);
+    StoreDescription description{storePath()};
+    const std::optional<StoreError> error = open(description.path, true);
     if (completion)
         completion(description, error);
 }
 
-std::optional<StoreError> PersistentContainer::open(const QString& path) {
+std::optional<StoreError> PersistentContainer::loadStoreAt(const QString& path,
+                                                           bool snapshotFirst) {
+    return open(path, snapshotFirst);
+}
+
+bool PersistentContainer::storeFileIntact() {
+    if (!db_ || isMemory(path_))
+        return true;
+    struct stat now {};
+    if (::stat(QFile::encodeName(path_).constData(), &now) != 0 || quint64(now.st_dev) != device_ ||
+        quint64(now.st_ino) != inode_ || qint64(now.st_size) < largestSize_)
+        return false;
+    largestSize_ = qint64(now.st_size);
+    return true;
+}
+
+void PersistentContainer::readWithoutMemoryMap() {
+    if (db_)
+        db_->exec(QStringLiteral("PRAGMA mmap_size=0"));
+}
+
+std::optional<StoreError> PersistentContainer::open(const QString& path, bool snapshotFirst) {
+    path_ = path;
+    if (isMemory(path)) {
+        db_ = std::make_unique<SqliteDatabase>();
+        if (!db_->open(path))
+            return StoreError::because(db_->errorCode(), db_->errorMessage());
+        db_->exec(QStringLiteral("PRAGMA journal_mode=MEMORY"));
+        SqliteStatement version(db_->handle(), QStringLiteral("PRAGMA user_version"));
+        const bool fresh = version.step() == SQLITE_ROW && version.columnInt(0) == 0;
+        version = SqliteStatement();
+        if (fresh) {
+            const QStringList steps =
+                schema() << QStringLiteral("PRAGMA user_version=%1").arg(SchemaVersion);
+            for (const QString& statement : steps)
+                db_->exec(statement);
+        }
+        context_ = std::make_unique<ManagedObjectContext>(db_.get());
+        return std::nullopt;
+    }
     auto failure = [&](int code, const QString& message) {
         StoreError e;
         e.code = code;
@@ -117,6 +185,21 @@ std::optional<StoreError> PersistentContainer::open(const QString& path) {
     db_ = std::make_unique<SqliteDatabase>();
     if (!db_->open(path))
         return failure(db_->errorCode(), db_->errorMessage());
+    struct stat file {};
+    if (::stat(QFile::encodeName(path).constData(), &file) == 0) {
+        device_ = quint64(file.st_dev);
+        inode_ = quint64(file.st_ino);
+        largestSize_ = qint64(file.st_size);
+    }
+    // A table or column missing would make every later statement on it fail, or worse: SQLite
+    // reads an unknown quoted column name as a text.
+    auto schemaProblem = [&]() -> std::optional<StoreError> {
+        if (const QString missing = Backup::missingSchema(db_->handle()); !missing.isEmpty())
+            return failure(134020, QStringLiteral("The store does not hold what this Pelvane "
+                                                  "needs: %1")
+                                       .arg(missing));
+        return std::nullopt;
+    };
 
     SqliteStatement version(db_->handle(), QStringLiteral("PRAGMA user_version"));
     if (!version.isValid() || version.step() != SQLITE_ROW)
@@ -135,6 +218,8 @@ std::optional<StoreError> PersistentContainer::open(const QString& path) {
         // that holds nothing yet cannot be made there.
         if (current == 0)
             return failure(SQLITE_READONLY, QStringLiteral("attempt to write a readonly database"));
+        if (auto problem = schemaProblem())
+            return problem;
         db_->exec(QStringLiteral("PRAGMA mmap_size=1073741824"));
         context_ = std::make_unique<ManagedObjectContext>(db_.get());
         return std::nullopt;
@@ -151,10 +236,23 @@ std::optional<StoreError> PersistentContainer::open(const QString& path) {
         // Reading through a memory map spares a system call and a copy per page.
         !db_->exec(QStringLiteral("PRAGMA mmap_size=1073741824")))
         return failure(db_->errorCode(), db_->errorMessage());
+    if (current > 0)
+        if (auto problem = schemaProblem())
+            return problem;
+    if (current > 0 && current < SchemaVersion && snapshotFirst) {
+        // Kept as it was before it changes; a snapshot that cannot be written stops nothing.
+        const Result<QString> kept = Snapshots::take(path, QStringLiteral("before-upgrade"));
+        if (!kept.ok())
+            std::fprintf(stderr, "Could not keep a snapshot before the upgrade: %s\n",
+                         qPrintable(kept.error().message));
+    }
     if (current < SchemaVersion) {
         // A new store gets the whole schema, an older one the steps it lacks; either way in
         // one transaction, so a failure leaves the file as it was.
-        const QStringList steps = current == 0 ? schema() : numbersNeverNull();
+        QStringList steps = current == 0 ? schema() : QStringList();
+        if (current == 1)
+            steps << numbersNeverNull();
+        steps << setApplicationId();
         if (!db_->exec(QStringLiteral("BEGIN IMMEDIATE")))
             return failure(db_->errorCode(), db_->errorMessage());
         for (const QString& statement :

@@ -18,7 +18,8 @@ struct StoreDescription {
 class PersistentContainer {
 public:
     // The schema this build writes; a store with a newer one is refused, not touched.
-    static constexpr int SchemaVersion = 2;
+    // 3: the application id in the header, so that a restore can tell our stores.
+    static constexpr int SchemaVersion = 3;
 
     explicit PersistentContainer(QString name);
     ~PersistentContainer();
@@ -32,11 +33,30 @@ public:
     // Where stores live: QStandardPaths::AppDataLocation unless set (--data-dir, tests).
     static void setDefaultDirectory(const QString& dir);
     static QString defaultDirectory();
+    // Stores kept in memory only (SQLite's memdb), shared by the containers of one process:
+    // for the fuzz targets, which make thousands of stores a second.
+    static void setInMemory(bool inMemory);
+    // The file loadPersistentStores opens.
+    QString storePath() const;
+
+    // Opens (creates, migrates) the store at the path; a store of an older schema is kept as a
+    // snapshot first when `snapshotFirst`.
+    std::optional<StoreError> loadStoreAt(const QString& path, bool snapshotFirst = true);
+
+    // Whether the file at the store's path is still the one open, whole: not deleted, replaced
+    // or cut short since it was opened.
+    bool storeFileIntact();
+    // Reads through system calls instead of a memory map: a file cut short under a map stops
+    // the process (SIGBUS) where a read returns an error.
+    void readWithoutMemoryMap();
 
 private:
-    std::optional<StoreError> open(const QString& path);
+    std::optional<StoreError> open(const QString& path, bool snapshotFirst);
 
     QString name_;
+    QString path_;
+    quint64 device_ = 0, inode_ = 0;
+    qint64 largestSize_ = 0;
     std::unique_ptr<SqliteDatabase> db_;
     std::unique_ptr<ManagedObjectContext> context_;
 };

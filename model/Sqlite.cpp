@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
 #include <QUrl>
 
 #include <sqlite3.h>
@@ -44,9 +45,11 @@ SqliteStatement& SqliteStatement::operator=(SqliteStatement&& other) noexcept {
 }
 
 void SqliteStatement::reset() {
+    bound_.clear();
+    if (!stmt_)
+        return;
     sqlite3_reset(stmt_);
     sqlite3_clear_bindings(stmt_);
-    bound_.clear();
 }
 
 void SqliteStatement::bindNull(int i) {
@@ -104,7 +107,8 @@ void SqliteStatement::bind(int i, const QVariant& v) {
 }
 
 int SqliteStatement::step() {
-    return sqlite3_step(stmt_);
+    // A statement whose prepare failed never runs; its error is the connection's.
+    return stmt_ ? sqlite3_step(stmt_) : SQLITE_ERROR;
 }
 
 bool SqliteStatement::isNull(int col) const {
@@ -146,6 +150,14 @@ bool writable(const QString& path, bool* folderWritable) {
 bool SqliteDatabase::open(const QString& path) {
     close();
     readOnly_ = false;
+    // An address such as "file:/name?vfs=memdb": a store in memory, nothing on a disk.
+    if (path.startsWith(QLatin1String("file:"))) {
+        const int rc =
+            sqlite3_open_v2(path.toUtf8().constData(), &db_,
+                            SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_URI, nullptr);
+        setBusyTimeout(BusyTimeoutMs);
+        return rc == SQLITE_OK;
+    }
     bool folderWritable = true;
     const bool canWrite = writable(path, &folderWritable);
     if (canWrite) {
@@ -153,6 +165,20 @@ bool SqliteDatabase::open(const QString& path) {
                                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
         if (rc != SQLITE_OK)
             return false;
+    } else if (const QFileInfo log(path + QLatin1String("-wal"));
+               !folderWritable && log.isFile() && log.size() > 0) {
+        // The last writer stopped before its log went into the file (a crash), and the log
+        // can only be read where a shared-memory file can be made beside it: read a copy of
+        // both, so that nothing the log holds is missed.
+        copy_ = std::make_unique<QTemporaryDir>();
+        const QString file = copy_->filePath(QFileInfo(path).fileName());
+        if (!copy_->isValid() || !QFile::copy(path, file) ||
+            !QFile::copy(log.filePath(), file + QLatin1String("-wal")))
+            return false;
+        if (sqlite3_open_v2(QFile::encodeName(file).constData(), &db_, SQLITE_OPEN_READWRITE,
+                            nullptr) != SQLITE_OK)
+            return false;
+        readOnly_ = true;
     } else {
         // Immutable: no lock, journal or shared-memory file is made, since none can be.
         const QByteArray uri = QUrl::fromLocalFile(path).toEncoded() +
@@ -176,6 +202,7 @@ void SqliteDatabase::close() {
     if (db_)
         sqlite3_close_v2(db_);
     db_ = nullptr;
+    copy_.reset();
 }
 
 bool SqliteDatabase::exec(const QString& sql) {

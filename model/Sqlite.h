@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QTemporaryDir>
 #include <QVariant>
 #include <memory>
 
@@ -76,5 +77,7 @@ public:
 private:
     sqlite3* db_ = nullptr;
     bool readOnly_ = false;
+    // A private copy read in place of a store whose log cannot be read where it is.
+    std::unique_ptr<QTemporaryDir> copy_;
     QHash<QString, std::shared_ptr<SqliteStatement>> cache_;
 };

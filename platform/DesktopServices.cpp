@@ -1,5 +1,6 @@
 #include "platform/DesktopServices.h"
 
+#include "platform/Files.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Window.h"
 
@@ -16,6 +17,7 @@
 #include <QMediaCaptureSession>
 #include <QMediaDevices>
 #include <QMenu>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QProcess>
 #include <QPushButton>
@@ -110,10 +112,20 @@ void DesktopShareSheet::present(const QList<ShareItem>& items, const QStringList
                                                    QFileInfo(path).fileName());
                 dialog->setAcceptMode(QFileDialog::AcceptSave);
                 dialog->setAttribute(Qt::WA_DeleteOnClose);
-                QObject::connect(dialog, &QFileDialog::fileSelected, [path](const QString& target) {
-                    QFile::remove(target);
-                    QFile::copy(path, target);
-                });
+                QObject::connect(dialog, &QFileDialog::fileSelected,
+                                 [anchor, path](const QString& target) {
+                                     // Written beside the chosen file and renamed: a failed copy
+                                     // leaves it as it was.
+                                     QString error;
+                                     if (Files::copyAtomically(path, target, &error))
+                                         return;
+                                     auto* box = new QMessageBox(
+                                         QMessageBox::Warning, QStringLiteral("Save As"),
+                                         QStringLiteral("Cannot write %1: %2").arg(target, error),
+                                         QMessageBox::Ok, anchor);
+                                     box->setAttribute(Qt::WA_DeleteOnClose);
+                                     box->open();
+                                 });
                 dialog->open();
             });
             menu->addAction(QStringLiteral("Open"),

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QStandardPaths>
 #include <QStringDecoder>
@@ -44,7 +45,55 @@ bool writeAll(QIODevice& device, const QByteArray& bytes, QString* error) {
     return true;
 }
 
+bool isWritableTarget(const QString& path, QString* error) {
+    // Renaming a new file over a device node or a pipe would replace it, even for root.
+    const QFileInfo info(path);
+    if (!info.exists() || info.isFile())
+        return true;
+    if (error)
+        *error = QStringLiteral("it is not a regular file");
+    return false;
+}
+
+bool copyAtomically(const QString& from, const QString& to, QString* error) {
+    if (!isWritableTarget(to, error))
+        return false;
+    QFile in(from);
+    if (!in.open(QIODevice::ReadOnly)) {
+        if (error)
+            *error = in.errorString();
+        return false;
+    }
+    QSaveFile out(to);
+    if (!out.open(QIODevice::WriteOnly)) {
+        if (error)
+            *error = out.errorString();
+        return false;
+    }
+    while (!in.atEnd()) {
+        const QByteArray chunk = in.read(1 << 20);
+        if (chunk.isEmpty() && in.error() != QFileDevice::NoError) {
+            if (error)
+                *error = in.errorString();
+            out.cancelWriting();
+            return false;
+        }
+        if (!writeAll(out, chunk, error)) {
+            out.cancelWriting();
+            return false;
+        }
+    }
+    if (!out.flush() || !out.commit()) {
+        if (error)
+            *error = out.errorString();
+        return false;
+    }
+    return true;
+}
+
 bool writeAtomically(const QString& path, const QByteArray& bytes, QString* error) {
+    if (!isWritableTarget(path, error))
+        return false;
     QSaveFile file(path);
     // Unbuffered: a small file would otherwise sit in the buffer until commit(), which does
     // not notice that writing it out failed and puts the cut file in place of the earlier one.

@@ -30,6 +30,8 @@ QImage decode(const QByteArray& bytes) {
     const QSize size = reader.size();
     if (size.isValid() && !saneSize(size.width(), size.height()))
         return {};
+    // One limit: what our size check lets through, the image reader never refuses for size.
+    reader.setAllocationLimit(int(MaxPixels * 4 / (1024 * 1024)) + 1);
     return reader.read();
 }
 

@@ -10,7 +10,8 @@ inline constexpr qint64 MaxPixels = 64LL * 1000 * 1000;
 inline constexpr int MaxSide = 32768;
 bool saneSize(qint64 width, qint64 height);
 // A null image when the bytes are no picture, or one larger than MaxPixels (refused from its
-// header, before anything is allocated).
+// header, before anything is allocated). The one test of a picture: the import keeps what it
+// decodes, and the export writes whatever it decoded.
 QImage decode(const QByteArray& bytes);
 // The picture drawn onto a 100 x 100 canvas, stretched to the whole square whatever its shape.
 QImage redrawnForStorage(const QImage& image);

@@ -45,7 +45,23 @@ int run(ManagedObjectContext& context, const QStringList& arguments, const QStri
     QString value = arguments[1];
     if (&kind == &Kind::year())
         value = QString::number(*Numbers::parseInt16(value));
-    const QList<CoinPtr> coins = context.fetch<Coins>(kind.fetchRequest(value, true));
+    const QString path =
+        pdfFile.isEmpty() ? Files::documentsDirectory() + kind.pdfFileName : pdfFile;
+    if (QString why; !Files::isWritableTarget(path, &why)) {
+        std::fprintf(stderr, "Cannot write %s: %s\n", qPrintable(path), qPrintable(why));
+        return 1;
+    }
+    // A store that cannot be read is not taken for a group without coins, nor a damaged
+    // picture for a coin without one.
+    auto unreadable = [](const StoreError& error) {
+        std::fprintf(stderr, "Cannot read the collection: %s\n", qPrintable(error.message));
+        return 1;
+    };
+    context.takeReadError();
+    StoreError failure;
+    const QList<CoinPtr> coins = context.fetch<Coins>(kind.fetchRequest(value, true), &failure);
+    if (failure.code != 0)
+        return unreadable(failure);
     if (coins.isEmpty()) {
         std::fprintf(stderr, "No coins with the %s %s: nothing written.\n",
                      qPrintable(arguments[0]), qPrintable(arguments[1]));
@@ -53,8 +69,8 @@ int run(ManagedObjectContext& context, const QStringList& arguments, const QStri
     }
     const auto document = CoinDocument::report(kind.reportTitle + kind.titleValue(*coins.first()),
                                                coins, kScreenWidth / 6);
-    const QString path =
-        pdfFile.isEmpty() ? Files::documentsDirectory() + kind.pdfFileName : pdfFile;
+    if (auto error = context.takeReadError())
+        return unreadable(*error);
     return CoinDocument::writePdfFile(path, CoinDocument::pdf(*document)) ? 0 : 1;
 }
 } // namespace ReportCommand

@@ -1,0 +1,110 @@
+#include "app/StoreCommands.h"
+
+#include "model/Backup.h"
+#include "model/PersistentContainer.h"
+#include "model/Snapshots.h"
+#include "platform/Console.h"
+
+#include <QFileInfo>
+#include <QFutureWatcher>
+#include <QLocale>
+#include <QPointer>
+#include <QTimer>
+#include <QtConcurrent/QtConcurrentRun>
+
+#include <cstdio>
+
+namespace StoreCommands {
+
+namespace {
+void say(const QString& line) {
+    std::fprintf(stderr, "%s\n", line.toUtf8().constData());
+}
+QString coins(qint64 n) {
+    return QStringLiteral("%1 %2").arg(QLocale::c().toString(n),
+                                       n == 1 ? QStringLiteral("coin") : QStringLiteral("coins"));
+}
+} // namespace
+
+QString storePath() {
+    return PersistentContainer(QStringLiteral("Pelvane")).storePath();
+}
+
+int backup(const QString& file) {
+    // A mistyped data folder must not put an empty collection over a full backup.
+    if (const Result<qint64> held = Backup::coinCount(file);
+        QFileInfo(file).isFile() && held.ok() && held.value() > 0) {
+        const Result<qint64> ours = Backup::coinCount(storePath());
+        if (ours.ok() && ours.value() == 0) {
+            say(QStringLiteral("Not writing %1: the collection is empty and the backup holds %2. "
+                               "Check the data folder, or write to another file.")
+                    .arg(file, coins(held.value())));
+            return 1;
+        }
+    }
+    const Result<qint64> written = Backup::write(storePath(), file);
+    if (!written.ok()) {
+        say(written.error().message);
+        return 1;
+    }
+    std::printf("Backed up %s to %s\n", qPrintable(coins(written.value())), qPrintable(file));
+    return 0;
+}
+
+int restore(const QString& file) {
+    const Result<Backup::Restored> restored = Backup::restore(storePath(), file);
+    if (!restored.ok()) {
+        say(QStringLiteral("Cannot restore: %1").arg(restored.error().message));
+        return 1;
+    }
+    const Backup::Restored& r = restored.value();
+    std::printf("Restored %s from %s; the collection held %s%s\n", qPrintable(coins(r.coinsAfter)),
+                qPrintable(file), qPrintable(coins(r.coinsBefore)),
+                r.snapshot.isEmpty() ? "" : qPrintable(QStringLiteral(", kept in ") + r.snapshot));
+    return 0;
+}
+
+int listSnapshots() {
+    const QList<Snapshots::Entry> all = Snapshots::list(storePath());
+    if (all.isEmpty()) {
+        std::printf("No snapshots yet in %s\n", qPrintable(Snapshots::folder(storePath())));
+        return 0;
+    }
+    for (const Snapshots::Entry& e : all) {
+        const Result<qint64> n = Backup::coinCount(e.path);
+        std::printf(
+            "%s  %12s  %9s  %s\n", qPrintable(e.date.toString(Qt::ISODate)),
+            qPrintable(n.ok() ? coins(n.value()) : QStringLiteral("unreadable")),
+            qPrintable(QLocale::c().formattedDataSize(e.size, 1, QLocale::DataSizeSIFormat)),
+            qPrintable(e.path));
+    }
+    return 0;
+}
+
+bool snapshotDue() {
+    return Snapshots::due(storePath());
+}
+
+void takeSnapshotSoon(QObject* owner) {
+    // Later than the first paint, so that the window never waits for the copy.
+    QTimer::singleShot(1500, owner, [owner = QPointer<QObject>(owner), path = storePath()] {
+        if (!owner)
+            return;
+        // (taken, the snapshot's path or why there is none)
+        using Outcome = std::pair<bool, QString>;
+        auto* watcher = new QFutureWatcher<Outcome>(owner);
+        QObject::connect(watcher, &QFutureWatcher<Outcome>::finished, watcher, [watcher] {
+            const auto [taken, text] = watcher->result();
+            Console::log(taken ? QStringLiteral("Snapshot taken: %1").arg(text)
+                               : QStringLiteral("Could not take a snapshot: %1").arg(text));
+            watcher->deleteLater();
+        });
+        watcher->setFuture(QtConcurrent::run([path] {
+            const Result<QString> taken = Snapshots::take(path);
+            return taken.ok() ? Outcome{true, taken.value()}
+                              : Outcome{false, taken.error().message};
+        }));
+    });
+}
+
+} // namespace StoreCommands

@@ -1,0 +1,22 @@
+#pragma once
+// Backups, restores and snapshots, from the command line and at the window's start.
+#include <QString>
+
+class QObject;
+
+namespace StoreCommands {
+// The store file the program opens (in the data folder).
+QString storePath();
+// --backup FILE: 0 and one line naming the file and the coins; 1 and the reason on stderr.
+int backup(const QString& file);
+// --restore FILE: 0 and what was replaced; 1 and the reason, the collection untouched.
+int restore(const QString& file);
+// --backups: one line per snapshot, newest first.
+int listSnapshots();
+// Whether the daily snapshot is due; asked before the store is opened, since opening it
+// touches its files.
+bool snapshotDue();
+// Takes the daily snapshot on a worker once the window is up; a failure is said once on the
+// console and stops nothing.
+void takeSnapshotSoon(QObject* owner);
+} // namespace StoreCommands

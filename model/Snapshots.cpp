@@ -1,0 +1,121 @@
+#include "model/Snapshots.h"
+
+#include "model/Backup.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSet>
+
+#include <algorithm>
+
+namespace Snapshots {
+
+namespace {
+constexpr int kDays = 7, kWeeks = 4, kMonths = 6;
+const QString kPrefix = QStringLiteral("Pelvane-");
+
+QDateTime modified(const QString& path) {
+    const QFileInfo info(path);
+    return info.exists() ? info.lastModified() : QDateTime();
+}
+} // namespace
+
+QString folder(const QString& storePath) {
+    return QFileInfo(storePath).absoluteDir().filePath(QStringLiteral("Backups"));
+}
+
+QList<Entry> list(const QString& storePath) {
+    QList<Entry> out;
+    const QDir dir(folder(storePath));
+    for (const QFileInfo& info :
+         dir.entryInfoList({kPrefix + QStringLiteral("*.sqlite")}, QDir::Files)) {
+        const QDate date = QDate::fromString(info.fileName().mid(kPrefix.size(), 10),
+                                             QStringLiteral("yyyy-MM-dd"));
+        if (date.isValid())
+            out.append({info.absoluteFilePath(), date, info.size(), info.lastModified()});
+    }
+    std::sort(out.begin(), out.end(), [](const Entry& a, const Entry& b) {
+        return a.modified != b.modified ? a.modified > b.modified : a.path > b.path;
+    });
+    return out;
+}
+
+bool due(const QString& storePath, const QDateTime& now) {
+    if (!QFileInfo(storePath).isFile())
+        return false;
+    const QList<Entry> all = list(storePath);
+    if (all.isEmpty())
+        return true;
+    const QDateTime newest = all.first().modified;
+    if (newest.secsTo(now) < 24 * 60 * 60)
+        return false;
+    return std::max(modified(storePath), modified(storePath + QStringLiteral("-wal"))) > newest;
+}
+
+Result<QString> take(const QString& storePath, const QString& occasion, const QDate& today) {
+    const QString dir = folder(storePath);
+    if (!QDir().mkpath(dir))
+        return StoreError::because(14, QStringLiteral("Cannot make the folder %1").arg(dir));
+    QString name = kPrefix + today.toString(QStringLiteral("yyyy-MM-dd"));
+    // A snapshot taken for an occasion never replaces one taken earlier that day.
+    if (!occasion.isEmpty())
+        name += QLatin1Char('-') + occasion + QLatin1Char('-') +
+                QTime::currentTime().toString(QStringLiteral("HHmmss"));
+    const QString path = QDir(dir).filePath(name + QStringLiteral(".sqlite"));
+    const Result<qint64> written = Backup::write(storePath, path);
+    if (!written.ok())
+        return written.error();
+    prune(storePath, today);
+    return path;
+}
+
+QList<QDate> kept(QList<QDate> dates) {
+    std::sort(dates.begin(), dates.end(), std::greater<>());
+    dates.erase(std::unique(dates.begin(), dates.end()), dates.end());
+    QSet<QDate> keep;
+    // The newest date of each of the latest days, weeks and months that have a snapshot.
+    auto keepNewestPer = [&](auto period, int count) {
+        QSet<qint64> seen;
+        for (const QDate& d : std::as_const(dates)) {
+            if (seen.size() == count)
+                break;
+            const qint64 key = period(d);
+            if (!seen.contains(key)) {
+                seen.insert(key);
+                keep.insert(d);
+            }
+        }
+    };
+    keepNewestPer([](const QDate& d) { return d.toJulianDay(); }, kDays);
+    keepNewestPer(
+        [](const QDate& d) {
+            int year = 0;
+            const int week = d.weekNumber(&year);
+            return qint64(year) * 100 + week;
+        },
+        kWeeks);
+    keepNewestPer([](const QDate& d) { return qint64(d.year()) * 100 + d.month(); }, kMonths);
+    QList<QDate> out(keep.begin(), keep.end());
+    std::sort(out.begin(), out.end(), std::greater<>());
+    return out;
+}
+
+void prune(const QString& storePath, const QDate& today) {
+    const QList<Entry> all = list(storePath);
+    QList<QDate> dates;
+    for (const Entry& e : all)
+        if (e.date <= today)
+            dates.append(e.date);
+    const QList<QDate> keep = kept(dates);
+    for (const Entry& e : all)
+        if (e.date <= today && !keep.contains(e.date))
+            QFile::remove(e.path);
+    // Copies a stopped program left half-written; one being written now is younger than this.
+    const QDir dir(folder(storePath));
+    for (const QFileInfo& part :
+         dir.entryInfoList({QStringLiteral(".Pelvane-*.part*")}, QDir::Files | QDir::Hidden))
+        if (part.lastModified().secsTo(QDateTime::currentDateTime()) > 60 * 60)
+            QFile::remove(part.absoluteFilePath());
+}
+
+} // namespace Snapshots
