@@ -35,6 +35,27 @@ ManagedObjectContext::~ManagedObjectContext() {
         o->context_ = nullptr;
 }
 
+void ManagedObjectContext::reset() {
+    endReadBatch();
+    for (auto& map : identity_) {
+        for (auto& weak : map)
+            if (auto o = weak.lock())
+                o->context_ = nullptr;
+        map.clear();
+    }
+    for (auto& o : inserted_)
+        o->context_ = nullptr;
+    inserted_.clear();
+    updated_.clear();
+    deleted_.clear();
+    for (auto& perEntity : dirtyByAttribute_)
+        for (auto& set : perEntity)
+            set.clear();
+    pendingIndexes_.clear();
+    readError_.reset();
+    ++changeCount_;
+}
+
 ObjectPtr ManagedObjectContext::makeObject(const EntityDescription& e) const {
     switch (e.index) {
     case 0:

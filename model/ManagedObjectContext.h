@@ -30,6 +30,9 @@ public:
     void deleteObject(const ObjectPtr& object);
 
     bool hasChanges() const;
+    // Forgets every object and pending change, as for a store opened anew (after a restore):
+    // objects still held elsewhere are no longer the context's.
+    void reset();
     // Writes every pending change in one transaction. On failure nothing is written, the
     // changes stay pending and the error is returned.
     std::optional<StoreError> save();

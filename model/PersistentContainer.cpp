@@ -141,6 +141,18 @@ bool PersistentContainer::storeFileIntact() {
     return true;
 }
 
+Result<Backup::Restored> PersistentContainer::restoreFrom(const QString& file) {
+    if (const Result<Backup::StoreInfo> checked = Backup::inspect(file); !checked.ok())
+        return checked.error();
+    context_->reset();
+    db_->close();
+    const Result<Backup::Restored> restored = Backup::restore(path_, file);
+    // Opened again whatever came of it: the restored store, or the one that stayed.
+    if (auto error = open(path_, false))
+        return *error;
+    return restored;
+}
+
 void PersistentContainer::readWithoutMemoryMap() {
     if (db_)
         db_->exec(QStringLiteral("PRAGMA mmap_size=0"));
@@ -172,8 +184,12 @@ std::optional<StoreError> PersistentContainer::open(const QString& path, bool sn
         e.userInfo.insert(QStringLiteral("NSSQLiteErrorDomain"), QString::number(code));
         e.userInfo.insert(QStringLiteral("reason"), message);
         e.userInfo.insert(QStringLiteral("NSFilePath"), path);
-        // The file is left as it is for recovery: never deleted or overwritten.
-        db_.reset();
+        // The file is left as it is for recovery: never deleted or overwritten. A context
+        // already handed out keeps its (closed) connection.
+        if (context_)
+            db_->close();
+        else
+            db_.reset();
         return e;
     };
     QDir().mkpath(QFileInfo(path).absolutePath());
@@ -182,7 +198,8 @@ std::optional<StoreError> PersistentContainer::open(const QString& path, bool sn
     if (const QFileInfo file(path);
         file.isFile() && file.size() == 0 && !QFileInfo::exists(path + QLatin1String("-wal")))
         return failure(SQLITE_NOTADB, QStringLiteral("the store file is empty"));
-    db_ = std::make_unique<SqliteDatabase>();
+    if (!db_)
+        db_ = std::make_unique<SqliteDatabase>();
     if (!db_->open(path))
         return failure(db_->errorCode(), db_->errorMessage());
     struct stat file {};
@@ -221,7 +238,8 @@ std::optional<StoreError> PersistentContainer::open(const QString& path, bool sn
         if (auto problem = schemaProblem())
             return problem;
         db_->exec(QStringLiteral("PRAGMA mmap_size=1073741824"));
-        context_ = std::make_unique<ManagedObjectContext>(db_.get());
+        if (!context_)
+            context_ = std::make_unique<ManagedObjectContext>(db_.get());
         return std::nullopt;
     }
     // Small pages keep the bytes each single-coin commit writes low: a commit rewrites every
@@ -266,6 +284,7 @@ std::optional<StoreError> PersistentContainer::open(const QString& path, bool sn
         if (!db_->exec(QStringLiteral("COMMIT")))
             return failure(db_->errorCode(), db_->errorMessage());
     }
-    context_ = std::make_unique<ManagedObjectContext>(db_.get());
+    if (!context_)
+        context_ = std::make_unique<ManagedObjectContext>(db_.get());
     return std::nullopt;
 }

@@ -1,6 +1,7 @@
 #pragma once
 // The persistent container: one SQLite file "<name>.sqlite" in the application data folder and
 // the one main context over it.
+#include "model/Backup.h"
 #include "model/ManagedObjectContext.h"
 #include "model/StoreError.h"
 
@@ -42,6 +43,12 @@ public:
     // Opens (creates, migrates) the store at the path; a store of an older schema is kept as a
     // snapshot first when `snapshotFirst`.
     std::optional<StoreError> loadStoreAt(const QString& path, bool snapshotFirst = true);
+
+    // Replaces the store with a backup or snapshot (see Backup::restore) while the program runs:
+    // the store is closed for it and opened again, and the context forgets what it held. A
+    // file that fails the checks changes nothing. An error of the reopening is the container's
+    // own failure to load.
+    Result<Backup::Restored> restoreFrom(const QString& file);
 
     // Whether the file at the store's path is still the one open, whole: not deleted, replaced
     // or cut short since it was opened.
