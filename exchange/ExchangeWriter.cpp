@@ -28,13 +28,19 @@ QHash<QByteArray, std::optional<QByteArray>> reencodeAll(const QList<QByteArray>
             done.insert(p, std::nullopt);
             distinct.append(p);
         }
-    const QList<std::optional<QByteArray>> encoded = QtConcurrent::blockingMapped(
-        distinct, [](const QByteArray& bytes) -> std::optional<QByteArray> {
-            const QByteArray encoded = ImageCoding::reencodeJpeg(bytes, 0.6);
-            if (encoded.isEmpty() && ImageCoding::decode(bytes).isNull())
-                return std::nullopt;
-            return ImageCoding::base64(encoded);
-        });
+    auto reencode = [](const QByteArray& bytes) -> std::optional<QByteArray> {
+        const QByteArray encoded = ImageCoding::reencodeJpeg(bytes, 0.6);
+        if (encoded.isEmpty() && ImageCoding::decode(bytes).isNull())
+            return std::nullopt;
+        return ImageCoding::base64(encoded);
+    };
+    // Handing one picture to another thread costs more than encoding it here.
+    QList<std::optional<QByteArray>> encoded;
+    if (distinct.size() <= 1)
+        for (const QByteArray& p : distinct)
+            encoded.append(reencode(p));
+    else
+        encoded = QtConcurrent::blockingMapped(distinct, reencode);
     for (qsizetype i = 0; i < distinct.size(); ++i)
         done[distinct[i]] = encoded[i];
     return done;

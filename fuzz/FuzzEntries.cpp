@@ -2,6 +2,7 @@
 
 #include "exchange/ExchangeReader.h"
 #include "exchange/ExchangeWriter.h"
+#include "model/Entity.h"
 #include "model/PersistentContainer.h"
 #include "platform/Fatal.h"
 #include "platform/ImageCoding.h"
@@ -12,6 +13,8 @@
 #include <QImageReader>
 
 #include <cstdio>
+#include <sqlite3.h>
+#include <vector>
 #include <cstdlib>
 #include <memory>
 
@@ -41,6 +44,38 @@ void openStore() {
         if (e)
             qFatal("cannot make the store: %s", qPrintable(e->description()));
     });
+}
+
+// Every row deleted through a connection of its own, its statements prepared once: making the
+// store anew would parse the schema and every statement again for each input.
+void emptyStore() {
+    store()->viewContext()->reset();
+    static const struct Deletes {
+        Deletes() {
+            sqlite3_open_v2(qPrintable(store()->storePath()), &db,
+                            SQLITE_OPEN_READWRITE | SQLITE_OPEN_URI, nullptr);
+            for (const EntityDescription* e : Model::entities())
+                for (const QString& table : {e->name, e->dataTable()}) {
+                    sqlite3_stmt* st = nullptr;
+                    if (sqlite3_prepare_v2(
+                            db, qPrintable(QStringLiteral("DELETE FROM \"%1\"").arg(table)), -1,
+                            &st, nullptr) == SQLITE_OK)
+                        statements.push_back(st);
+                }
+        }
+        ~Deletes() {
+            for (sqlite3_stmt* st : statements)
+                sqlite3_finalize(st);
+            sqlite3_close(db);
+        }
+        sqlite3* db = nullptr;
+        std::vector<sqlite3_stmt*> statements;
+    } deletes;
+    for (sqlite3_stmt* st : deletes.statements) {
+        if (sqlite3_step(st) != SQLITE_DONE)
+            qFatal("cannot empty the store");
+        sqlite3_reset(st);
+    }
 }
 
 // Stops are thrown from the caller's thread only: the export decodes on other threads but
@@ -98,9 +133,9 @@ Outcome mergeAndExport(const uint8_t* data, std::size_t size) {
         (void)Exchange::exchangeText(context);
     });
     // Most inputs make no coin (no marker line, no line after it): the store is still
-    // empty then. A stop may leave a new coin pending: it goes with the store.
+    // empty then. A stop may leave a new coin pending: the context forgets it with the rest.
     if (madeCoins)
-        openStore();
+        emptyStore();
     return outcome;
 }
 
