@@ -41,6 +41,28 @@ void PrintTo(const StoreFault& fault, std::ostream* out) {
     *out << fault.name;
 }
 
+// Half the sample deleted, then put back by a writer that stopped before its log went into the
+// file: the store file alone holds twenty coins, the file and its log all forty.
+void leaveCoinsInTheLog(const QString& f) {
+    const QString aside = f + ".aside";
+    {
+        OtherConnection db(f);
+        ASSERT_EQ(db.exec("CREATE TEMP TABLE kept AS SELECT * FROM Coins WHERE pk > 20;"
+                          "DELETE FROM Coins WHERE pk > 20; PRAGMA wal_checkpoint(TRUNCATE);"
+                          "PRAGMA wal_autocheckpoint=0;"
+                          "INSERT INTO Coins SELECT * FROM kept"),
+                  0);
+        // What a crash leaves: the file and the log as they are while the writer runs.
+        ASSERT_TRUE(QFile::copy(f, aside));
+        ASSERT_TRUE(QFile::copy(f + "-wal", aside + "-wal"));
+    }
+    QFile::remove(f);
+    QFile::remove(f + "-wal");
+    QFile::remove(f + "-shm");
+    ASSERT_TRUE(QFile::rename(aside, f));
+    ASSERT_TRUE(QFile::rename(aside + "-wal", f + "-wal"));
+}
+
 const QByteArray kEarlierBackup = "[PELVANE]\nthe earlier backup^\n";
 const char* const kMalformed = "Cannot read the collection: database disk image is malformed";
 
@@ -120,8 +142,27 @@ INSTANTIATE_TEST_SUITE_P(
                        QDir().mkpath(f);
                    },
                    ReadOnly::Nothing, -1, "Fatal error: Unresolved error", false},
+        // Tables and columns changed by hand: the designed stop names what is missing, and no
+        // statement runs on what is not there (a missing quoted column reads as its name).
+        StoreFault{"DroppedColumn",
+                   [](const QString& f) {
+                       OtherConnection(f).exec("ALTER TABLE Coins DROP COLUMN notes");
+                   },
+                   ReadOnly::Nothing, -1, "the table Coins has no column notes", false},
+        StoreFault{"DroppedTable",
+                   [](const QString& f) { OtherConnection(f).exec("DROP TABLE CoinEdge"); },
+                   ReadOnly::Nothing, -1, "there is no table CoinEdge", false},
+        StoreFault{"RenamedTable",
+                   [](const QString& f) {
+                       OtherConnection(f).exec("ALTER TABLE Coins_pictures RENAME TO Pictures");
+                   },
+                   ReadOnly::Nothing, -1, "there is no table Coins_pictures", false},
         StoreFault{"ReadOnlyFile", nullptr, ReadOnly::File, 0, "", true},
         StoreFault{"ReadOnlyFolder", nullptr, ReadOnly::Folder, 0, "", true},
+        // A crash left coins in the log, and the folder can no longer be written: the log is
+        // read all the same, not one coin missed.
+        StoreFault{"ReadOnlyFolderWithALeftoverLog", leaveCoinsInTheLog, ReadOnly::Folder, 0, "",
+                   true},
         StoreFault{"LockedByAnotherWriter",
                    [](const QString& f) {
                        // Kept open for the rest of the case, holding the write lock.

@@ -1,0 +1,187 @@
+#include "Program.h"
+#include "TestSupport.h"
+
+#include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <sqlite3.h>
+#include <sys/stat.h>
+
+namespace {
+const QString kSample = QStringLiteral(PELVANE_SOURCE_DIR "/samples/Pelvane-sample.csv");
+
+// Every row of every table of a store, as text: two stores with the same dump hold the same.
+QByteArray dump(const QString& storeFile) {
+    OtherConnection db(storeFile);
+    QByteArray out;
+    sqlite3_stmt* tables = nullptr;
+    sqlite3_prepare_v2(db.handle(),
+                       "SELECT name FROM sqlite_master WHERE type='table' ORDER BY name", -1,
+                       &tables, nullptr);
+    while (sqlite3_step(tables) == SQLITE_ROW) {
+        const QByteArray table = reinterpret_cast<const char*>(sqlite3_column_text(tables, 0));
+        out += "== " + table + '\n';
+        sqlite3_stmt* rows = nullptr;
+        sqlite3_prepare_v2(db.handle(), "SELECT * FROM \"" + table + "\" ORDER BY 1", -1, &rows,
+                           nullptr);
+        while (sqlite3_step(rows) == SQLITE_ROW) {
+            for (int c = 0; c < sqlite3_column_count(rows); ++c)
+                out += QByteArray::number(sqlite3_column_type(rows, c)) + ':' +
+                       QByteArray(static_cast<const char*>(sqlite3_column_blob(rows, c)),
+                                  sqlite3_column_bytes(rows, c))
+                           .toBase64() +
+                       '|';
+            out += '\n';
+        }
+        sqlite3_finalize(rows);
+    }
+    sqlite3_finalize(tables);
+    return out;
+}
+
+// A store in its own data folder holding the sample, and what the exchange file cannot carry.
+QString collection(const QString& folder) {
+    EXPECT_EQ(runProgram(folder, {"--import", kSample}).exitCode, 0);
+    const QString store = folder + "/Pelvane.sqlite";
+    OtherConnection db(store);
+    EXPECT_EQ(db.exec("UPDATE Coins SET descrip = 'O''Brien''s \"harp\", 1,2', value = 0.1, "
+                      "totalValue = 1e-7 WHERE pk = 1;"
+                      "INSERT INTO Coins (country, denomination, year, mintMark) "
+                      "SELECT country, denomination, year, mintMark FROM Coins WHERE pk = 1"),
+              SQLITE_OK);
+    return store;
+}
+} // namespace
+
+// A backup is the store, exact: texts the exchange file changes, doubles, both pictures, and two
+// coins that share every import key come back as they were, in a new folder or over a collection
+// that changed, which is kept as a snapshot first.
+TEST_F(PelvaneTest, BackupAndRestoreAreExact) {
+    const QString store = collection(path("a"));
+    const QByteArray original = dump(store);
+    ASSERT_TRUE(original.contains("Coins_pictures"));
+
+    ProgramRun run = runProgram(path("a"), {"--backup", path("copy.sqlite")});
+    EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
+    EXPECT_EQ(run.output, "Backed up 41 coins to " + path("copy.sqlite") + "\n");
+    EXPECT_FALSE(QFileInfo::exists(path("copy.sqlite-wal")));
+
+    run = runProgram(path("b"), {"--restore", path("copy.sqlite")});
+    EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
+    EXPECT_EQ(dump(path("b/Pelvane.sqlite")), original);
+    EXPECT_EQ(OtherConnection(path("b/Pelvane.sqlite")).number("PRAGMA application_id"),
+              0x50656C76);
+
+    // Over a collection that changed since: that one is kept.
+    ASSERT_EQ(OtherConnection(store).exec("DELETE FROM Coins WHERE pk > 10"), SQLITE_OK);
+    const QByteArray changed = dump(store);
+    run = runProgram(path("a"), {"--restore", path("copy.sqlite")});
+    EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
+    EXPECT_TRUE(run.output.startsWith("Restored 41 coins from " + path("copy.sqlite") +
+                                      "; the collection held 10 coins, kept in " +
+                                      path("a/Backups/Pelvane-")))
+        << qPrintable(run.output);
+    EXPECT_EQ(dump(store), original);
+    const QStringList kept = QDir(path("a/Backups")).entryList({"*before-restore*.sqlite"});
+    ASSERT_EQ(kept.size(), 1);
+    EXPECT_EQ(dump(path("a/Backups/") + kept.first()), changed);
+
+    run = runProgram(path("a"), {"--backups"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_TRUE(run.output.contains(QDate::currentDate().toString(Qt::ISODate) + "      10 coins"))
+        << qPrintable(run.output);
+
+    // An older schema is brought forward on the copy; the file given is never changed.
+    const QString old = path("schema1.sqlite");
+    ASSERT_TRUE(QFile::copy(PELVANE_TEST_DATA "/stores/written-by-schema-1.sqlite", old));
+    const QByteArray oldBytes = readFile(old);
+    run = runProgram(path("c"), {"--restore", old});
+    EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
+    EXPECT_EQ(readFile(old), oldBytes);
+    EXPECT_EQ(OtherConnection(path("c/Pelvane.sqlite")).number("PRAGMA user_version"), 3);
+}
+
+// What is no whole Pelvane store is refused with the reason, and the collection stays as it was.
+TEST_F(PelvaneTest, RestoreRefusesWhatIsNoWholeBackup) {
+    const QString store = collection(path("a"));
+    ASSERT_EQ(runProgram(path("a"), {"--backup", path("good.sqlite")}).exitCode, 0);
+    const QByteArray before = readFile(store);
+
+    struct Case {
+        const char* name;
+        std::function<void(const QString&)> make;
+        const char* reason;
+    };
+    const QList<Case> cases = {
+        {"random.bin", [](const QString& f) { writeFile(f, QByteArray(5000, '\x5A')); },
+         "is not a Pelvane backup: it is no SQLite database"},
+        {"foreign.db",
+         [](const QString& f) { OtherConnection(f).exec("CREATE TABLE notes(a); PRAGMA user_version=2"); },
+         "is not a Pelvane backup: it is the database of another program"},
+        {"other-program.db",
+         [](const QString& f) { OtherConnection(f).exec("CREATE TABLE t(a); PRAGMA application_id=7"); },
+         "it is the database of another program"},
+        {"newer.sqlite",
+         [this](const QString& f) {
+             QFile::copy(path("good.sqlite"), f);
+             OtherConnection(f).exec("PRAGMA user_version=9");
+         },
+         "was written by a newer Pelvane (store version 9; this one reads up to 3)"},
+        {"no-notes.sqlite",
+         [this](const QString& f) {
+             QFile::copy(path("good.sqlite"), f);
+             OtherConnection(f).exec("ALTER TABLE Coins DROP COLUMN notes");
+         },
+         "is not a whole Pelvane backup: the table Coins has no column notes"},
+        {"damaged.sqlite",
+         [this](const QString& f) {
+             QFile::copy(path("good.sqlite"), f);
+             damagePage(f, "Coins_pictures");
+         },
+         "is damaged"},
+        {"folder", [](const QString& f) { QDir().mkpath(f); }, "is not a regular file"},
+        {"missing.sqlite", [](const QString&) {}, "does not exist"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const QString file = path(c.name);
+        c.make(file);
+        const ProgramRun run = runProgram(path("a"), {"--restore", file});
+        EXPECT_EQ(run.exitCode, 1);
+        EXPECT_TRUE(run.errors.startsWith("Cannot restore: " + file));
+        EXPECT_TRUE(run.errors.contains(c.reason)) << qPrintable(run.errors);
+        EXPECT_EQ(readFile(store), before);
+    }
+    EXPECT_FALSE(QDir(path("a/Backups")).exists()); // nothing was about to be replaced
+}
+
+// A backup is written only to a regular file, never over the collection itself, and never as an
+// empty collection over a backup that holds coins (a mistyped data folder).
+TEST_F(PelvaneTest, BackupKeepsWhatItMustNotReplace) {
+    collection(path("a"));
+    ASSERT_EQ(::mkfifo(qPrintable(path("fifo")), 0600), 0);
+    QDir().mkpath(path("folder"));
+    for (const QString& target : {path("fifo"), path("folder")}) {
+        const ProgramRun run = runProgram(path("a"), {"--backup", target});
+        EXPECT_EQ(run.exitCode, 1);
+        EXPECT_EQ(run.errors, "Cannot write " + target + ": it is not a regular file\n");
+    }
+    struct stat info {};
+    ASSERT_EQ(::stat(qPrintable(path("fifo")), &info), 0);
+    EXPECT_TRUE(S_ISFIFO(info.st_mode));
+
+    ProgramRun run = runProgram(path("a"), {"--backup", path("a/Pelvane.sqlite")});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains("it is the collection itself")) << qPrintable(run.errors);
+
+    ASSERT_EQ(runProgram(path("a"), {"--backup", path("full.sqlite")}).exitCode, 0);
+    const QByteArray full = readFile(path("full.sqlite"));
+    ASSERT_EQ(runProgram(path("empty"), {"--export", path("empty.csv")}).exitCode, 0);
+    run = runProgram(path("empty"), {"--backup", path("full.sqlite")});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains("the collection is empty and the backup holds 41 coins"))
+        << qPrintable(run.errors);
+    EXPECT_EQ(readFile(path("full.sqlite")), full);
+}
