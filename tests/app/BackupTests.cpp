@@ -118,10 +118,14 @@ TEST_F(PelvaneTest, RestoreRefusesWhatIsNoWholeBackup) {
         {"random.bin", [](const QString& f) { writeFile(f, QByteArray(5000, '\x5A')); },
          "is not a Pelvane backup: it is no SQLite database"},
         {"foreign.db",
-         [](const QString& f) { OtherConnection(f).exec("CREATE TABLE notes(a); PRAGMA user_version=2"); },
+         [](const QString& f) {
+             OtherConnection(f).exec("CREATE TABLE notes(a); PRAGMA user_version=2");
+         },
          "is not a Pelvane backup: it is the database of another program"},
         {"other-program.db",
-         [](const QString& f) { OtherConnection(f).exec("CREATE TABLE t(a); PRAGMA application_id=7"); },
+         [](const QString& f) {
+             OtherConnection(f).exec("CREATE TABLE t(a); PRAGMA application_id=7");
+         },
          "it is the database of another program"},
         {"newer.sqlite",
          [this](const QString& f) {

@@ -34,9 +34,8 @@ TEST(Snapshots, RetentionKeepsDaysWeeksAndMonths) {
     // Sparse snapshots: a gap of months keeps the old ones, one per period.
     const QList<QDate> sparse = {QDate(2026, 11, 24), QDate(2026, 11, 24), QDate(2025, 1, 3),
                                  QDate(2025, 1, 2), QDate(2020, 5, 1)};
-    EXPECT_EQ(Snapshots::kept(sparse),
-              (QList<QDate>{QDate(2026, 11, 24), QDate(2025, 1, 3), QDate(2025, 1, 2),
-                            QDate(2020, 5, 1)}));
+    EXPECT_EQ(Snapshots::kept(sparse), (QList<QDate>{QDate(2026, 11, 24), QDate(2025, 1, 3),
+                                                     QDate(2025, 1, 2), QDate(2020, 5, 1)}));
 }
 
 // Taken when none is younger than a day and the store changed since; each one a whole store;
@@ -50,8 +49,8 @@ TEST_F(StoreTest, SnapshotsAreTakenWhenDueAndPruned) {
 
     const Result<QString> taken = Snapshots::take(store);
     ASSERT_TRUE(taken.ok()) << qPrintable(taken.error().message);
-    EXPECT_TRUE(taken.value().endsWith(
-        "/Backups/Pelvane-" + QDate::currentDate().toString(Qt::ISODate) + ".sqlite"));
+    EXPECT_TRUE(taken.value().endsWith("/Backups/Pelvane-" +
+                                       QDate::currentDate().toString(Qt::ISODate) + ".sqlite"));
     const Result<Backup::StoreInfo> info = Backup::inspect(taken.value());
     ASSERT_TRUE(info.ok()) << qPrintable(info.error().message);
     EXPECT_EQ(info.value().coins, 1);

@@ -7,9 +7,15 @@
 #include <QBuffer>
 #include <QColorSpace>
 #include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QImageWriter>
+#include <QMenu>
+#include <QMessageBox>
 #include <QPainter>
 #include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 TEST(ImageCoding, PhotosAreStoredAsSquareJpegs) {
     QImage photo(4000, 3000, QImage::Format_RGB32);
@@ -144,4 +150,47 @@ TEST(Platform, MailNeedsAMailProgramSetUp) {
     script("xdg-mime", "echo thunderbird.desktop\n");
     EXPECT_TRUE(mail.canSendMail());
     qputenv("PATH", path);
+}
+
+// The share sheet's "Save As...": the chosen file is written beside and renamed, so a copy that
+// fails leaves it as it was, the file itself may be chosen, and no pipe or device is replaced.
+TEST_F(PelvaneTest, SaveAsNeverLosesTheChosenFile) {
+    QWidget anchor;
+    const QString report = path("CoinListByYear.pdf");
+    writeFile(report, "%PDF the report");
+    auto saveAs = [&](const QString& source, const QString& target) {
+        DesktopShareSheet().present({ShareItem{QUrl::fromLocalFile(source), {}, {}, {}}}, {},
+                                    &anchor);
+        auto* menu = anchor.findChild<QMenu*>();
+        ASSERT_TRUE(menu);
+        for (QAction* a : menu->actions())
+            if (a->text() == "Save As...")
+                a->trigger();
+        auto* dialog = anchor.findChild<QFileDialog*>();
+        ASSERT_TRUE(dialog);
+        emit dialog->fileSelected(target);
+        delete dialog;
+        delete menu;
+    };
+    auto warning = [&]() -> QString {
+        auto* box = anchor.findChild<QMessageBox*>();
+        const QString text = box ? box->text() : QString();
+        delete box;
+        return text;
+    };
+
+    saveAs(report, path("copy.pdf"));
+    EXPECT_EQ(readFile(path("copy.pdf")), "%PDF the report");
+    saveAs(report, report); // the same file: still there, whole
+    EXPECT_EQ(readFile(report), "%PDF the report");
+    EXPECT_EQ(warning(), "");
+
+    ASSERT_EQ(::mkfifo(qPrintable(path("fifo")), 0600), 0);
+    saveAs(report, path("fifo"));
+    EXPECT_EQ(warning(), "Cannot write " + path("fifo") + ": it is not a regular file");
+    EXPECT_TRUE(QFileInfo(path("fifo")).exists() && !QFileInfo(path("fifo")).isFile());
+
+    saveAs(path("gone.pdf"), path("copy.pdf")); // the copy fails: the earlier file stays
+    EXPECT_TRUE(warning().startsWith("Cannot write " + path("copy.pdf")));
+    EXPECT_EQ(readFile(path("copy.pdf")), "%PDF the report");
 }
