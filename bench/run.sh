@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 cmake -S . -B build-bench -G Ninja -DCMAKE_BUILD_TYPE=Release -DPELVANE_TESTS=OFF >/dev/null
 cmake --build build-bench --target store_bench exchange_bench list_bench groups_bench valuation_bench \
-  reference_bench import_screen_bench report_bench >/dev/null
+  reference_bench import_screen_bench report_bench backup_bench >/dev/null
 export QT_QPA_PLATFORM=offscreen
 ./build-bench/bench/store_bench
 ./build-bench/bench/exchange_bench
@@ -14,3 +14,4 @@ export QT_QPA_PLATFORM=offscreen
 ./build-bench/bench/groups_bench
 ./build-bench/bench/import_screen_bench
 ./build-bench/bench/report_bench
+./build-bench/bench/backup_bench

@@ -1,0 +1,91 @@
+// Backup, restore and the start with a snapshot due, on a collection of 32,000 coins with two
+// pictures each. Prints one figure per line.
+#include "BenchProgram.h"
+#include "app/StoreCommands.h"
+#include "model/Backup.h"
+#include "model/Snapshots.h"
+
+#include <QDir>
+#include <QFile>
+#include <QThreadPool>
+
+#include <algorithm>
+
+using namespace BenchCollection;
+
+namespace {
+double median(std::vector<double> v) {
+    std::sort(v.begin(), v.end());
+    return v[v.size() / 2];
+}
+
+// Milliseconds until the menu's window is shown and painted, as the program starts it; with a
+// snapshot due, the snapshot is started as the program starts it.
+double startWindow(const QString& folder, bool withSnapshot) {
+    QElapsedTimer t;
+    t.start();
+    useDataDirectory(folder);
+    const bool due = StoreCommands::snapshotDue();
+    if (withSnapshot != due)
+        std::fprintf(stderr, "a snapshot was %sdue\n", due ? "" : "not ");
+    auto* running = new BenchProgram::Running(folder);
+    if (due)
+        StoreCommands::takeSnapshotSoon(&running->window);
+    running->window.grab();
+    const double shown = BenchProgram::ms(t);
+    // The snapshot runs to its end before the next start.
+    settle(due ? 2500 : 0);
+    QThreadPool::globalInstance()->waitForDone();
+    delete running;
+    return shown;
+}
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QTemporaryDir dir;
+    const QString store = dir.filePath("Pelvane.sqlite");
+    build(dir.path(), 32000);
+
+    std::vector<double> backup, copy, restore;
+    for (int run = 0; run < 3; ++run) {
+        const QString target = dir.filePath("backup.sqlite");
+        QElapsedTimer t;
+        t.start();
+        const Result<qint64> written = Backup::write(store, target);
+        backup.push_back(double(t.nsecsElapsed()) / 1e9);
+        if (!written.ok() || written.value() != 32000)
+            return 1;
+        QFile::remove(dir.filePath("plain.sqlite"));
+        t.restart();
+        if (!QFile::copy(store, dir.filePath("plain.sqlite")))
+            return 1;
+        copy.push_back(double(t.nsecsElapsed()) / 1e9);
+        t.restart();
+        // Over the collection, which is kept as a snapshot first: all a restore does.
+        const Result<Backup::Restored> restored = Backup::restore(store, target);
+        restore.push_back(double(t.nsecsElapsed()) / 1e9);
+        if (!restored.ok() || restored.value().coinsAfter != 32000)
+            return 1;
+        QDir(Snapshots::folder(store)).removeRecursively();
+    }
+    const double b = median(backup), c = median(copy);
+    print("backup: 32,000 coins", b, "s", "<= 2 s");
+    print("backup / copy of the store file", b / c, "x", "<= 3");
+    std::printf("  (store file %.0f MB; plain copy %.2f s)\n", double(QFileInfo(store).size()) / 1e6,
+                c);
+    print("restore: 32,000 coins", median(restore), "s", "<= 2 s");
+
+    // Alternating starts, so that the machine's drift falls on both alike.
+    std::vector<double> with, without;
+    for (int run = 0; run < 5; ++run) {
+        QDir(Snapshots::folder(store)).removeRecursively();
+        with.push_back(startWindow(dir.path(), true));
+        without.push_back(startWindow(dir.path(), false));
+    }
+    print("start: with a snapshot due / without", median(with) / median(without), "x", "<= 1.1");
+    std::printf("  (window shown in %.0f ms with a snapshot due, %.0f ms without)\n", median(with),
+                median(without));
+    return 0;
+}
