@@ -4,11 +4,14 @@
 #include "model/PersistentContainer.h"
 #include "model/Snapshots.h"
 #include "platform/Console.h"
+#include "platform/kit/AlertController.h"
+#include "platform/kit/NavigationController.h"
+#include "platform/kit/ViewController.h"
+#include "platform/kit/Window.h"
 
 #include <QFileInfo>
 #include <QFutureWatcher>
 #include <QLocale>
-#include <QPointer>
 #include <QTimer>
 #include <QtConcurrent/QtConcurrentRun>
 
@@ -85,19 +88,27 @@ bool snapshotDue() {
     return Snapshots::due(storePath());
 }
 
-void takeSnapshotSoon(QObject* owner) {
+void takeSnapshotSoon(Window* window) {
     // Later than the first paint, so that the window never waits for the copy.
-    QTimer::singleShot(1500, owner, [owner = QPointer<QObject>(owner), path = storePath()] {
-        if (!owner)
-            return;
+    QTimer::singleShot(1500, window, [window, path = storePath()] {
         // (taken, the snapshot's path or why there is none)
         using Outcome = std::pair<bool, QString>;
-        auto* watcher = new QFutureWatcher<Outcome>(owner);
-        QObject::connect(watcher, &QFutureWatcher<Outcome>::finished, watcher, [watcher] {
+        auto* watcher = new QFutureWatcher<Outcome>(window);
+        QObject::connect(watcher, &QFutureWatcher<Outcome>::finished, watcher, [window, watcher] {
             const auto [taken, text] = watcher->result();
-            Console::log(taken ? QStringLiteral("Snapshot taken: %1").arg(text)
-                               : QStringLiteral("Could not take a snapshot: %1").arg(text));
             watcher->deleteLater();
+            if (taken) {
+                Console::log(QStringLiteral("Snapshot taken: %1").arg(text));
+                return;
+            }
+            Console::log(QStringLiteral("Could not take a snapshot: %1").arg(text));
+            if (ViewController* top = window->navigationController()->topViewController())
+                top->present(AlertController::okAlert(
+                    QStringLiteral("No Snapshot Today"),
+                    QStringLiteral("Pelvane could not keep today's snapshot of the collection: "
+                                   "%1\n\nThe collection itself is unchanged. To keep a copy, "
+                                   "back it up from Import / Export.")
+                        .arg(text)));
         });
         watcher->setFuture(QtConcurrent::run([path] {
             const Result<QString> taken = Snapshots::take(path);

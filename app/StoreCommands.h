@@ -2,7 +2,7 @@
 // Backups, restores and snapshots, from the command line and at the window's start.
 #include <QString>
 
-class QObject;
+class Window;
 
 namespace StoreCommands {
 // The store file the program opens (in the data folder).
@@ -16,7 +16,7 @@ int listSnapshots();
 // Whether the daily snapshot is due; asked before the store is opened, since opening it
 // touches its files.
 bool snapshotDue();
-// Takes the daily snapshot on a worker once the window is up; a failure is said once on the
-// console and stops nothing.
-void takeSnapshotSoon(QObject* owner);
+// Takes the daily snapshot on a worker once the window is up; a failure is said once, on the
+// console and in an alert over the window, and stops nothing.
+void takeSnapshotSoon(Window* window);
 } // namespace StoreCommands
