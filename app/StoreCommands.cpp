@@ -2,6 +2,7 @@
 
 #include "model/Backup.h"
 #include "model/PersistentContainer.h"
+#include "model/Restore.h"
 #include "model/Snapshots.h"
 #include "platform/Console.h"
 #include "platform/kit/AlertController.h"
@@ -55,7 +56,8 @@ int backup(const QString& file) {
 }
 
 int restore(const QString& file) {
-    const Result<Backup::Restored> restored = Backup::restore(storePath(), file);
+    const Result<Backup::Restored> restored =
+        Backup::restore(storePath(), file, &PersistentContainer::upgradeCopy);
     if (!restored.ok()) {
         say(QStringLiteral("Cannot restore: %1").arg(restored.error().message));
         return 1;

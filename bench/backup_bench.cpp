@@ -3,6 +3,7 @@
 #include "BenchProgram.h"
 #include "app/StoreCommands.h"
 #include "model/Backup.h"
+#include "model/Restore.h"
 #include "model/Snapshots.h"
 
 #include <QDir>
@@ -78,7 +79,8 @@ int main(int argc, char** argv) {
         copy.push_back(double(t.nsecsElapsed()) / 1e9);
         t.restart();
         // Over the collection, which is kept as a snapshot first: all a restore does.
-        const Result<Backup::Restored> restored = Backup::restore(store, target);
+        const Result<Backup::Restored> restored =
+            Backup::restore(store, target, &PersistentContainer::upgradeCopy);
         restore.push_back(double(t.nsecsElapsed()) / 1e9);
         if (!restored.ok() || restored.value().coinsAfter != 32000)
             return 1;

@@ -29,7 +29,7 @@ bool isMemory(const QString& path) {
 }
 
 QString setApplicationId() {
-    return QStringLiteral("PRAGMA application_id=%1").arg(Backup::ApplicationId);
+    return QStringLiteral("PRAGMA application_id=%1").arg(StoreSchema::ApplicationId);
 }
 
 // Numbers are never absent: a column of numbers holds 0 where nothing was set.
@@ -146,11 +146,16 @@ Result<Backup::Restored> PersistentContainer::restoreFrom(const QString& file) {
         return checked.error();
     context_->reset();
     db_->close();
-    const Result<Backup::Restored> restored = Backup::restore(path_, file);
+    const Result<Backup::Restored> restored = Backup::restore(path_, file, &upgradeCopy);
     // Opened again whatever came of it: the restored store, or the one that stayed.
     if (auto error = open(path_, false))
         return *error;
     return restored;
+}
+
+std::optional<StoreError> PersistentContainer::upgradeCopy(const QString& path) {
+    PersistentContainer copy(QStringLiteral("Pelvane"));
+    return copy.loadStoreAt(path, false);
 }
 
 void PersistentContainer::readWithoutMemoryMap() {
@@ -211,7 +216,7 @@ std::optional<StoreError> PersistentContainer::open(const QString& path, bool sn
     // A table or column missing would make every later statement on it fail, or worse: SQLite
     // reads an unknown quoted column name as a text.
     auto schemaProblem = [&]() -> std::optional<StoreError> {
-        if (const QString missing = Backup::missingSchema(db_->handle()); !missing.isEmpty())
+        if (const QString missing = StoreSchema::missing(db_->handle()); !missing.isEmpty())
             return failure(134020, QStringLiteral("The store does not hold what this Pelvane "
                                                   "needs: %1")
                                        .arg(missing));

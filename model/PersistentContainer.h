@@ -1,9 +1,10 @@
 #pragma once
 // The persistent container: one SQLite file "<name>.sqlite" in the application data folder and
 // the one main context over it.
-#include "model/Backup.h"
 #include "model/ManagedObjectContext.h"
+#include "model/Restore.h"
 #include "model/StoreError.h"
+#include "model/StoreSchema.h"
 
 #include <QString>
 #include <functional>
@@ -19,8 +20,7 @@ struct StoreDescription {
 class PersistentContainer {
 public:
     // The schema this build writes; a store with a newer one is refused, not touched.
-    // 3: the application id in the header, so that a restore can tell our stores.
-    static constexpr int SchemaVersion = 3;
+    static constexpr int SchemaVersion = StoreSchema::Version;
 
     explicit PersistentContainer(QString name);
     ~PersistentContainer();
@@ -43,6 +43,9 @@ public:
     // Opens (creates, migrates) the store at the path; a store of an older schema is kept as a
     // snapshot first when `snapshotFirst`.
     std::optional<StoreError> loadStoreAt(const QString& path, bool snapshotFirst = true);
+    // Brings a copy of a store up to this build's schema (for a restore): opened, migrated
+    // without a snapshot of its own, closed.
+    static std::optional<StoreError> upgradeCopy(const QString& path);
 
     // Replaces the store with a backup or snapshot (see Backup::restore) while the program runs:
     // the store is closed for it and opened again, and the context forgets what it held. A

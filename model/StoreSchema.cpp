@@ -1,0 +1,47 @@
+#include "model/StoreSchema.h"
+
+#include "model/Entity.h"
+
+#include <QSet>
+
+#include <sqlite3.h>
+
+namespace StoreSchema {
+
+QString missing(sqlite3* db) {
+    auto columnsOf = [db](const QString& table) {
+        QSet<QString> columns;
+        sqlite3_stmt* stmt = nullptr;
+        const QByteArray sql = QStringLiteral("PRAGMA table_info(\"%1\")").arg(table).toUtf8();
+        if (sqlite3_prepare_v2(db, sql.constData(), -1, &stmt, nullptr) == SQLITE_OK)
+            while (sqlite3_step(stmt) == SQLITE_ROW)
+                columns.insert(
+                    QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, 1))));
+        sqlite3_finalize(stmt);
+        return columns;
+    };
+    for (const EntityDescription* e : Model::entities()) {
+        const QSet<QString> main = columnsOf(e->name);
+        const QSet<QString> data = e->hasData() ? columnsOf(e->dataTable()) : QSet<QString>();
+        if (main.isEmpty())
+            return QStringLiteral("there is no table %1").arg(e->name);
+        if (e->hasData() && data.isEmpty())
+            return QStringLiteral("there is no table %1").arg(e->dataTable());
+        for (const QString& table : {e->name, e->dataTable()}) {
+            const bool pictures = table != e->name;
+            if (pictures && !e->hasData())
+                continue;
+            if (!(pictures ? data : main).contains(QStringLiteral("pk")))
+                return QStringLiteral("the table %1 has no column pk").arg(table);
+        }
+        for (const AttributeDescription& a : e->attributes) {
+            const bool pictures = a.type == AttributeType::Data;
+            if (!(pictures ? data : main).contains(a.name))
+                return QStringLiteral("the table %1 has no column %2")
+                    .arg(pictures ? e->dataTable() : e->name, a.name);
+        }
+    }
+    return {};
+}
+
+} // namespace StoreSchema
