@@ -121,7 +121,7 @@ void apply(Coins& coin, const Fields& fields, bool isNew) {
         if (type == AttributeType::Data && !value.isValid() && isNew)
             continue; // not valid base64: the new coin simply has no such picture
         if (type == AttributeType::Data && value.isValid() &&
-            ImageCoding::decode(value.toByteArray()).isNull()) {
+            !ImageCoding::readable(value.toByteArray())) {
             // Kept, it would stop every later export: the coin goes on without it.
             Console::log(QStringLiteral("Warning: the %1 picture of %2 cannot be read; the coin "
                                         "is kept without it")

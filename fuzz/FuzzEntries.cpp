@@ -157,6 +157,10 @@ Outcome picture(const uint8_t* data, std::size_t size) {
     }
     return guarded([&] {
         const QImage image = ImageCoding::decode(bytes);
+        // The import's quick check must answer as the decoder does, or the import keeps a
+        // picture the export cannot write (or drops one it could).
+        if (ImageCoding::readable(bytes) == image.isNull())
+            qFatal("the quick check of a picture disagrees with the decoder");
         (void)ImageCoding::reencodeJpeg(bytes, 0.6);
         if (!image.isNull())
             (void)ImageCoding::coinPictureData(image);

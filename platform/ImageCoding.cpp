@@ -174,6 +174,60 @@ private:
 };
 } // namespace
 
+namespace {
+// Whether libjpeg reads a JPEG through to its end: the header, the size check and every block's
+// coefficients, drawn at an eighth of the size since only the reading can fail.
+class JpegChecker {
+public:
+    JpegChecker() {
+        in_.err = jpeg_std_error(&error_.manager);
+        error_.manager.error_exit = jumpOnError;
+        error_.manager.output_message = ignoreMessage;
+        jpeg_create_decompress(&in_);
+    }
+    ~JpegChecker() { jpeg_destroy_decompress(&in_); }
+    JpegChecker(const JpegChecker&) = delete;
+    JpegChecker& operator=(const JpegChecker&) = delete;
+
+    bool reads(const QByteArray& bytes) {
+        if (setjmp(error_.jump)) {
+            jpeg_abort_decompress(&in_);
+            return false;
+        }
+        jpeg_mem_src(&in_, reinterpret_cast<const unsigned char*>(bytes.constData()),
+                     static_cast<unsigned long>(bytes.size()));
+        if (jpeg_read_header(&in_, TRUE) != JPEG_HEADER_OK ||
+            !saneSize(in_.image_width, in_.image_height)) {
+            jpeg_abort_decompress(&in_);
+            return false;
+        }
+        in_.scale_num = 1;
+        in_.scale_denom = 8;
+        jpeg_start_decompress(&in_);
+        row_.resize(std::size_t(in_.output_width) * std::size_t(in_.output_components));
+        JSAMPROW row = row_.data();
+        while (in_.output_scanline < in_.output_height)
+            jpeg_read_scanlines(&in_, &row, 1);
+        jpeg_finish_decompress(&in_);
+        return true;
+    }
+
+private:
+    jpeg_decompress_struct in_;
+    JpegError error_;
+    std::vector<unsigned char> row_;
+};
+} // namespace
+
+bool readable(const QByteArray& bytes) {
+    if (bytes.startsWith("\xFF\xD8")) {
+        thread_local JpegChecker checker;
+        if (checker.reads(bytes))
+            return true;
+    }
+    return !decode(bytes).isNull();
+}
+
 QByteArray reencodeJpeg(const QByteArray& bytes, double quality) {
     if (bytes.startsWith("\xFF\xD8")) {
         thread_local Recoder recoder;

@@ -10,9 +10,12 @@ inline constexpr qint64 MaxPixels = 64LL * 1000 * 1000;
 inline constexpr int MaxSide = 32768;
 bool saneSize(qint64 width, qint64 height);
 // A null image when the bytes are no picture, or one larger than MaxPixels (refused from its
-// header, before anything is allocated). The one test of a picture: the import keeps what it
-// decodes, and the export writes whatever it decoded.
+// header, before anything is allocated). The one test of a picture: the import keeps what
+// decodes, and the export writes whatever decodes.
 QImage decode(const QByteArray& bytes);
+// Whether decode() gives a picture, found without drawing one where the bytes are a JPEG
+// that libjpeg reads through (the import checks every picture this way).
+bool readable(const QByteArray& bytes);
 // The picture drawn onto a 100 x 100 canvas, stretched to the whole square whatever its shape.
 QImage redrawnForStorage(const QImage& image);
 // JPEG at a quality from 0 to 1; empty when encoding fails.

@@ -194,3 +194,28 @@ TEST_F(PelvaneTest, SaveAsNeverLosesTheChosenFile) {
     EXPECT_TRUE(warning().startsWith("Cannot write " + path("copy.pdf")));
     EXPECT_EQ(readFile(path("copy.pdf")), "%PDF the report");
 }
+
+// The import's quick check of a picture answers as the decoder does: for whole pictures, every
+// cut of one, bytes changed inside one, and forged sizes.
+TEST(ImageCoding, TheQuickCheckAgreesWithTheDecoder) {
+    const QByteArray coin = readFile(PELVANE_TEST_DATA "/pictures/coin-picture.jpg");
+    ASSERT_FALSE(coin.isEmpty());
+    QList<QByteArray> inputs{coin, jpegClaiming(60000, 60000), jpegClaiming(5000, 5000),
+                             QByteArray("\xFF\xD8\xFF"), QByteArray("no picture")};
+    for (qsizetype cut = 1; cut < coin.size(); cut += 7)
+        inputs << coin.left(cut);
+    for (qsizetype at = 2; at < coin.size(); at += 11) {
+        QByteArray changed = coin;
+        changed[at] = char(changed[at] ^ 0x5A);
+        inputs << changed;
+    }
+    int readable = 0;
+    for (const QByteArray& bytes : inputs) {
+        readable += ImageCoding::readable(bytes);
+        EXPECT_EQ(ImageCoding::readable(bytes), !ImageCoding::decode(bytes).isNull())
+            << bytes.size() << " bytes: " << bytes.left(16).toHex().toStdString();
+    }
+    // Both answers were given many times.
+    EXPECT_GT(readable, 20);
+    EXPECT_GT(inputs.size() - readable, 20);
+}
