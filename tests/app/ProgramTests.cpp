@@ -23,7 +23,8 @@ TEST_F(PelvaneTest, CommandLineAnswersHelpAndVersionAndRefusesTheUnknown) {
         EXPECT_EQ(r.exitCode, 0);
         EXPECT_TRUE(r.output.startsWith("Usage: pelvane [options]\n")) << qPrintable(r.output);
         for (const char* option :
-             {"--data-dir DIR", "--export FILE", "--import FILE", "--dark", "--version"})
+             {"--data-dir DIR", "--export FILE", "--import FILE", "--backup FILE", "--restore FILE",
+              "--backups", "--dark", "--version"})
             EXPECT_TRUE(r.output.contains(option)) << option;
         EXPECT_TRUE(r.errors.isEmpty());
     }
@@ -33,11 +34,14 @@ TEST_F(PelvaneTest, CommandLineAnswersHelpAndVersionAndRefusesTheUnknown) {
 
     for (const QStringList& wrong :
          {QStringList{"--colour"}, QStringList{"stray"}, QStringList{"--export"},
-          QStringList{"--export", "a", "--import", "b"}}) {
+          QStringList{"--export", "a", "--import", "b"}, QStringList{"--backup", "a", "--backups"},
+          QStringList{"--restore", "a", "--import", "b"}}) {
         const ProgramRun r = runProgram(wrong);
         EXPECT_EQ(r.exitCode, 2) << qPrintable(wrong.join(' '));
         EXPECT_TRUE(r.output.isEmpty());
         EXPECT_TRUE(r.errors.contains("Usage: pelvane [options]")) << qPrintable(r.errors);
     }
     EXPECT_TRUE(runProgram(QStringList{"--colour"}).errors.contains("Unknown option 'colour'"));
+    EXPECT_TRUE(runProgram(QStringList{"--restore", "a", "--import", "b"})
+                    .errors.contains("--import and --restore cannot be combined."));
 }
