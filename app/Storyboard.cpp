@@ -1,6 +1,7 @@
 #include "app/Storyboard.h"
 
 #include "exchange/ExportViewController.h"
+#include "exchange/ImportExportViewController.h"
 #include "exchange/ImportViewController.h"
 #include "platform/kit/Storyboard.h"
 #include "platform/kit/TabBarController.h"

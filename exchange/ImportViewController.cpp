@@ -218,30 +218,3 @@ void ImportViewController::finishImport() {
                      [this] { performUnwind(QStringLiteral("unwindToMenu")); });
     present(alert);
 }
-
-ImportExportViewController::ImportExportViewController(QWidget* parent)
-    : ViewController(parent)
-    , ExportButton(new QPushButton(QStringLiteral("Export Coins"), this))
-    , ImportButton(new QPushButton(QStringLiteral("Import Coins"), this)) {
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(24, 24, 24, 24);
-    auto* note = new QLabel(QStringLiteral("Move the whole collection to another device: export "
-                                           "it here, import the file there."),
-                            this);
-    note->setWordWrap(true);
-    layout->addWidget(note);
-    layout->addSpacing(12);
-    layout->addWidget(ExportButton);
-    layout->addWidget(ImportButton);
-    layout->addStretch();
-    for (QPushButton* b : {ExportButton, ImportButton})
-        b->setMinimumHeight(48);
-    connect(ExportButton, &QPushButton::clicked, this, [this] { performSegue("ExportCoins"); });
-    connect(ImportButton, &QPushButton::clicked, this, [this] { performSegue("ImportCoins"); });
-}
-
-void ImportExportViewController::viewDidLoad() {
-    setTitle(QStringLiteral("Import / Export"));
-    for (QPushButton* b : {ExportButton, ImportButton})
-        Styling::round(b, 10, 2, Qt::black);
-}

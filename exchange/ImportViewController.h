@@ -53,12 +53,3 @@ private:
     bool busy_ = false;
     std::unique_ptr<Exchange::Merge> merge_;
 };
-
-// The menu's entry: a choice between the export and the import screen.
-class ImportExportViewController : public ViewController {
-    Q_OBJECT
-public:
-    explicit ImportExportViewController(QWidget* parent = nullptr);
-    void viewDidLoad() override;
-    QPushButton *ExportButton, *ImportButton;
-};

@@ -203,12 +203,12 @@ void DesktopImagePicker::presentCamera(QWidget* parent, std::function<void(QImag
     sheet->show();
 }
 
-void DesktopDocumentPicker::open(QWidget* parent, const QStringList& nameFilters,
-                                 std::function<void(QString)> picked,
-                                 std::function<void()> cancelled) {
-    auto* dialog = new QFileDialog(parent, QString(), QDir::homePath());
+namespace {
+// A file dialog that answers once and goes: non-blocking, as every dialog of the program.
+QFileDialog* fileDialog(QWidget* parent, const QString& start, const QStringList& nameFilters,
+                        std::function<void(QString)> picked, std::function<void()> cancelled) {
+    auto* dialog = new QFileDialog(parent, QString(), start);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(QFileDialog::ExistingFile);
     if (!nameFilters.isEmpty())
         dialog->setNameFilters(nameFilters);
     QObject::connect(dialog, &QFileDialog::fileSelected, [picked](const QString& f) {
@@ -219,6 +219,27 @@ void DesktopDocumentPicker::open(QWidget* parent, const QStringList& nameFilters
         if (cancelled)
             cancelled();
     });
+    return dialog;
+}
+} // namespace
+
+void DesktopDocumentPicker::save(QWidget* parent, const QString& suggestedPath,
+                                 const QStringList& nameFilters,
+                                 std::function<void(QString)> picked,
+                                 std::function<void()> cancelled) {
+    QFileDialog* dialog =
+        fileDialog(parent, suggestedPath, nameFilters, std::move(picked), std::move(cancelled));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->selectFile(suggestedPath);
+    dialog->open();
+}
+
+void DesktopDocumentPicker::open(QWidget* parent, const QStringList& nameFilters,
+                                 std::function<void(QString)> picked,
+                                 std::function<void()> cancelled) {
+    QFileDialog* dialog =
+        fileDialog(parent, QDir::homePath(), nameFilters, std::move(picked), std::move(cancelled));
+    dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->open();
 }
 

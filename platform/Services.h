@@ -82,6 +82,10 @@ public:
     virtual void open(QWidget* parent, const QStringList& nameFilters,
                       std::function<void(QString path)> picked,
                       std::function<void()> cancelled) = 0;
+    // Where to write a new file, starting from the suggested path.
+    virtual void save(QWidget* parent, const QString& suggestedPath, const QStringList& nameFilters,
+                      std::function<void(QString path)> picked,
+                      std::function<void()> cancelled) = 0;
 };
 
 class ReviewRequester {

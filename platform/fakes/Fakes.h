@@ -56,6 +56,7 @@ struct FakeImagePicker : ImagePicker {
 struct FakeDocumentPicker : DocumentPicker {
     QString next; // the path the user picks; empty: cancelled
     int presented = 0;
+    QString suggested; // what the last save dialog offered
     void open(QWidget*, const QStringList&, std::function<void(QString)> picked,
               std::function<void()> cancelled) override {
         ++presented;
@@ -63,6 +64,11 @@ struct FakeDocumentPicker : DocumentPicker {
             picked(next);
         else if (cancelled)
             cancelled();
+    }
+    void save(QWidget* parent, const QString& suggestedPath, const QStringList& filters,
+              std::function<void(QString)> picked, std::function<void()> cancelled) override {
+        suggested = suggestedPath;
+        open(parent, filters, std::move(picked), std::move(cancelled));
     }
 };
 

@@ -2,8 +2,13 @@
 #include "exchange/ExchangeReader.h"
 #include "exchange/ExchangeWriter.h"
 #include "exchange/ExportViewController.h"
+#include "exchange/ImportExportViewController.h"
 #include "exchange/ImportViewController.h"
+#include "model/Backup.h"
 #include "platform/kit/Views.h"
+
+#include <QDate>
+#include <QDir>
 
 #include <QTimer>
 #include <QToolButton>
@@ -210,4 +215,52 @@ TEST_F(ExchangeScreenTest, ExportOfADamagedStoreOffersNothingToSave) {
     EXPECT_EQ(screen->ExportTextView->text(), "");
     if (qEnvironmentVariableIsSet("PELVANE_SHOTS"))
         window->grab().save(qEnvironmentVariable("PELVANE_SHOTS") + "/export-damaged-store.png");
+}
+
+// The collection backed up through its button and put back through the other: the file chosen
+// in the dialog, progress while it is written, the counts of both sides before anything is
+// replaced, and a file that is no backup refused with the collection as it was.
+TEST_F(ExchangeScreenTest, BackUpAndRestoreThroughTheButtons) {
+    addCoin("1 Cent", 1909);
+    addCoin("5 Cents", 1910);
+    menu->performSegue("ImportExport");
+    auto* screen = topAs<ImportExportViewController>();
+    ASSERT_TRUE(screen);
+    auto coinsHeld = [this] { return ctx().count(FetchRequest(QStringLiteral("Coins"))); };
+
+    fakes.documentPicker->next = path("backup.sqlite");
+    QTest::mouseClick(screen->BackupButton, Qt::LeftButton);
+    EXPECT_TRUE(fakes.documentPicker->suggested.endsWith(
+        "/Pelvane-" + QDate::currentDate().toString(Qt::ISODate) + ".sqlite"));
+    EXPECT_TRUE(screen->isBusy() || AlertController::current());
+    EXPECT_EQ(alertShown(), "Backup Complete / Backed up 2 coins to " + path("backup.sqlite"));
+    dismissAlert();
+    EXPECT_TRUE(screen->RestoreButton->isEnabled());
+    const Result<Backup::StoreInfo> info = Backup::inspect(path("backup.sqlite"));
+    ASSERT_TRUE(info.ok()) << qPrintable(info.error().message);
+    EXPECT_EQ(info.value().coins, 2);
+
+    addCoin("10 Cents", 1911);
+    writeFile(path("notes.txt"), "no collection at all");
+    fakes.documentPicker->next = path("notes.txt");
+    QTest::mouseClick(screen->RestoreButton, Qt::LeftButton);
+    EXPECT_EQ(alertShown(), "Restore Failed / " + path("notes.txt") +
+                                " is not a Pelvane backup: it is no SQLite database");
+    dismissAlert();
+
+    fakes.documentPicker->next = path("backup.sqlite");
+    QTest::mouseClick(screen->RestoreButton, Qt::LeftButton);
+    EXPECT_EQ(alertShown(), "Restore From Backup? / The backup holds 2 coins; the collection holds "
+                            "3 coins. The collection as it is now is kept as a snapshot in "
+                            "Backups/.");
+    AlertController::current()->triggerAction("Cancel");
+    EXPECT_EQ(coinsHeld(), 3);
+
+    QTest::mouseClick(screen->RestoreButton, Qt::LeftButton);
+    ASSERT_TRUE(waitUntil([] { return AlertController::current() != nullptr; }, 5000));
+    AlertController::current()->triggerAction("Restore");
+    EXPECT_EQ(alertText(), "Restore Complete / Restored 2 coins.");
+    EXPECT_EQ(top(), menu); // no screen left showing the collection that went
+    EXPECT_EQ(coinsHeld(), 2);
+    EXPECT_EQ(QDir(dir() + "/Backups").entryList({"*before-restore*"}).size(), 1);
 }

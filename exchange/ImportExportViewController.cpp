@@ -1,0 +1,208 @@
+#include "exchange/ImportExportViewController.h"
+
+#include "model/Backup.h"
+#include "model/PersistentContainer.h"
+#include "platform/Files.h"
+#include "platform/Platform.h"
+#include "platform/kit/AlertController.h"
+#include "platform/kit/Appearance.h"
+#include "platform/kit/NavigationController.h"
+#include "platform/kit/Views.h"
+#include "screens/Application.h"
+
+#include <QDate>
+#include <QDir>
+#include <QFutureWatcher>
+#include <QLabel>
+#include <QLocale>
+#include <QPointer>
+#include <QVBoxLayout>
+#include <QtConcurrent/QtConcurrentRun>
+
+namespace {
+const QStringList kBackupFilters = {QStringLiteral("Pelvane backups (*.sqlite)"),
+                                    QStringLiteral("All files (*)")};
+
+QString coins(qint64 n) {
+    return QStringLiteral("%1 %2").arg(QLocale().toString(n),
+                                       n == 1 ? QStringLiteral("coin") : QStringLiteral("coins"));
+}
+
+// Work for a worker thread, its answer handed back to the screen if the screen is still there.
+template <typename T, typename Work, typename Done>
+void inBackground(QObject* screen, Work work, Done done) {
+    auto* watcher = new QFutureWatcher<T>(screen);
+    QObject::connect(watcher, &QFutureWatcher<T>::finished, screen, [watcher, done] {
+        done(watcher->result());
+        watcher->deleteLater();
+    });
+    watcher->setFuture(QtConcurrent::run(std::move(work)));
+}
+
+// (done, the number of coins or why not): what a worker hands back.
+using Outcome = std::pair<bool, QString>;
+} // namespace
+
+ImportExportViewController::ImportExportViewController(QWidget* parent)
+    : ViewController(parent)
+    , ExportButton(new QPushButton(QStringLiteral("Export Coins"), this))
+    , ImportButton(new QPushButton(QStringLiteral("Import Coins"), this))
+    , BackupButton(new QPushButton(QStringLiteral("Back Up Collection\u2026"), this))
+    , RestoreButton(new QPushButton(QStringLiteral("Restore From Backup\u2026"), this))
+    , BackupProgressView(new ProgressView(this)) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(24, 24, 24, 24);
+    auto* note = new QLabel(QStringLiteral("Move the whole collection to another device: export "
+                                           "it here, import the file there."),
+                            this);
+    note->setWordWrap(true);
+    layout->addWidget(note);
+    layout->addSpacing(12);
+    layout->addWidget(ExportButton);
+    layout->addWidget(ImportButton);
+    layout->addSpacing(24);
+    auto* copies = new QLabel(QStringLiteral("Keep an exact copy of the collection, every picture "
+                                             "included, or put one back."),
+                              this);
+    copies->setWordWrap(true);
+    layout->addWidget(copies);
+    layout->addSpacing(12);
+    layout->addWidget(BackupButton);
+    layout->addWidget(RestoreButton);
+    layout->addWidget(BackupProgressView);
+    layout->addStretch();
+    BackupProgressView->setVisible(false);
+    for (QPushButton* b : {ExportButton, ImportButton, BackupButton, RestoreButton})
+        b->setMinimumHeight(48);
+    connect(ExportButton, &QPushButton::clicked, this, [this] { performSegue("ExportCoins"); });
+    connect(ImportButton, &QPushButton::clicked, this, [this] { performSegue("ImportCoins"); });
+    connect(BackupButton, &QPushButton::clicked, this,
+            &ImportExportViewController::BackUpCollection);
+    connect(RestoreButton, &QPushButton::clicked, this,
+            &ImportExportViewController::RestoreFromBackup);
+}
+
+void ImportExportViewController::viewDidLoad() {
+    setTitle(QStringLiteral("Import / Export"));
+    for (QPushButton* b : {ExportButton, ImportButton, BackupButton, RestoreButton})
+        Styling::round(b, 10, 2, Qt::black);
+}
+
+void ImportExportViewController::setBusy(bool busy) {
+    busy_ = busy;
+    for (QPushButton* b : {ExportButton, ImportButton, BackupButton, RestoreButton})
+        b->setEnabled(!busy);
+    BackupProgressView->setVisible(busy);
+    BackupProgressView->setProgress(0);
+}
+
+void ImportExportViewController::BackUpCollection() {
+    if (busy_)
+        return;
+    const QString suggested = QDir(Files::documentsDirectory())
+                                  .filePath(QStringLiteral("Pelvane-%1.sqlite")
+                                                .arg(QDate::currentDate().toString(Qt::ISODate)));
+    QPointer<ImportExportViewController> self(this);
+    Platform::documentPicker().save(this, suggested, kBackupFilters,
+                                    [self](const QString& file) {
+                                        if (self)
+                                            self->backUpTo(file);
+                                    },
+                                    {});
+}
+
+void ImportExportViewController::backUpTo(const QString& file) {
+    setBusy(true);
+    const QString store = Application::delegate().persistentContainer().storePath();
+    QPointer<ProgressView> bar(BackupProgressView);
+    // Pages are counted on the worker; the bar follows on this thread.
+    auto progress = [bar](int done, int total) {
+        if (total > 0)
+            QMetaObject::invokeMethod(bar, [bar, fraction = float(done) / float(total)] {
+                if (bar)
+                    bar->setProgress(fraction);
+            });
+    };
+    inBackground<Outcome>(
+        this,
+        [store, file, progress] {
+            const Result<qint64> written = Backup::write(store, file, progress);
+            return written.ok() ? Outcome{true, coins(written.value())}
+                                : Outcome{false, written.error().message};
+        },
+        [this, file](const Outcome& outcome) {
+            setBusy(false);
+            present(
+                outcome.first
+                    ? AlertController::okAlert(
+                          QStringLiteral("Backup Complete"),
+                          QStringLiteral("Backed up %1 to %2").arg(outcome.second, file))
+                    : AlertController::okAlert(QStringLiteral("Backup Failed"), outcome.second));
+        });
+}
+
+void ImportExportViewController::RestoreFromBackup() {
+    if (busy_)
+        return;
+    QPointer<ImportExportViewController> self(this);
+    Platform::documentPicker().open(this, kBackupFilters,
+                                    [self](const QString& file) {
+                                        if (self)
+                                            self->checkBeforeRestoring(file);
+                                    },
+                                    {});
+}
+
+void ImportExportViewController::checkBeforeRestoring(const QString& file) {
+    setBusy(true);
+    const QString store = Application::delegate().persistentContainer().storePath();
+    // Checking a large file reads all of it: not on the window's thread.
+    inBackground<std::pair<Outcome, qint64>>(
+        this,
+        [store, file] {
+            const Result<Backup::StoreInfo> info = Backup::inspect(file);
+            const Result<qint64> current = Backup::coinCount(store);
+            if (!info.ok())
+                return std::pair{Outcome{false, info.error().message}, qint64(0)};
+            return std::pair{Outcome{true, coins(info.value().coins)},
+                             current.ok() ? current.value() : qint64(0)};
+        },
+        [this, file](const std::pair<Outcome, qint64>& checked) {
+            setBusy(false);
+            const auto& [outcome, held] = checked;
+            if (!outcome.first) {
+                present(AlertController::okAlert(QStringLiteral("Restore Failed"), outcome.second));
+                return;
+            }
+            auto* ask = new AlertController(
+                QStringLiteral("Restore From Backup?"),
+                QStringLiteral("The backup holds %1; the collection holds %2. The collection as "
+                               "it is now is kept as a snapshot in Backups/.")
+                    .arg(outcome.second, coins(held)));
+            ask->addAction(QStringLiteral("Restore"), AlertController::ActionStyle::Destructive,
+                           [this, file] { restore(file); });
+            ask->addAction(QStringLiteral("Cancel"), AlertController::ActionStyle::Cancel);
+            present(ask);
+        });
+}
+
+void ImportExportViewController::restore(const QString& file) {
+    // The store is closed and opened again on this thread: nothing else may use it meanwhile.
+    const Result<Backup::Restored> restored =
+        Application::delegate().persistentContainer().restoreFrom(file);
+    if (!restored.ok()) {
+        present(
+            AlertController::okAlert(QStringLiteral("Restore Failed"), restored.error().message));
+        return;
+    }
+    // Every screen behind this one showed the collection that is gone.
+    NavigationController* nav = navigationController();
+    const QString done = QStringLiteral("Restored %1.").arg(coins(restored.value().coinsAfter));
+    if (!nav) {
+        present(AlertController::okAlert(QStringLiteral("Restore Complete"), done));
+        return;
+    }
+    nav->popToRootViewController(false);
+    if (ViewController* root = nav->topViewController())
+        root->present(AlertController::okAlert(QStringLiteral("Restore Complete"), done));
+}
