@@ -63,12 +63,7 @@ public:
         in_.err = jpeg_std_error(&inError_.manager);
         inError_.manager.error_exit = jumpOnError;
         inError_.manager.output_message = ignoreMessage;
-        jpeg_create_decompress(&in_);
-        // Comments, Exif and colour profiles change what the ordinary decoder hands back
-        // (texts, orientation, colour space): such pictures go the ordinary way.
-        jpeg_save_markers(&in_, JPEG_COM, 1);
-        jpeg_save_markers(&in_, JPEG_APP0 + 1, 1);
-        jpeg_save_markers(&in_, JPEG_APP0 + 2, 1);
+        startDecompressor();
         out_.err = jpeg_std_error(&outError_.manager);
         outError_.manager.error_exit = jumpOnError;
         outError_.manager.output_message = ignoreMessage;
@@ -95,7 +90,21 @@ public:
     }
 
 private:
+    void startDecompressor() {
+        jpeg_create_decompress(&in_);
+        // Comments, Exif and colour profiles change what the ordinary decoder hands back
+        // (texts, orientation, colour space): such pictures go the ordinary way.
+        jpeg_save_markers(&in_, JPEG_COM, 1);
+        jpeg_save_markers(&in_, JPEG_APP0 + 1, 1);
+        jpeg_save_markers(&in_, JPEG_APP0 + 2, 1);
+    }
+
     bool decode(const QByteArray& bytes, int& dpmX, int& dpmY) {
+        // The tables a picture defines stay in a decompressor for the next picture (libjpeg's
+        // abbreviated streams): one without tables of its own would be read with another's,
+        // where the ordinary decoder refuses it. Each picture starts from a new one.
+        jpeg_destroy_decompress(&in_);
+        startDecompressor();
         if (setjmp(inError_.jump)) {
             jpeg_abort_decompress(&in_);
             return false;
@@ -190,6 +199,9 @@ public:
     JpegChecker& operator=(const JpegChecker&) = delete;
 
     bool reads(const QByteArray& bytes) {
+        // As in the recoder: no tables left from the picture before.
+        jpeg_destroy_decompress(&in_);
+        jpeg_create_decompress(&in_);
         if (setjmp(error_.jump)) {
             jpeg_abort_decompress(&in_);
             return false;

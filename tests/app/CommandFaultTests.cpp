@@ -149,21 +149,32 @@ TEST_F(PelvaneTest, TheImportKeepsOnlyPicturesTheExportCanWrite) {
     ASSERT_TRUE(large.save(&buffer, "JPEG", 30));
     const QByteArray whole = jpeg.toBase64();
     const QByteArray cut = whole.left(64); // valid base64, a header cut short
+    // No quantization tables of its own, after a picture that has them: it was once read with
+    // the tables of the picture before.
+    const QByteArray tableless =
+        readFile(PELVANE_TEST_DATA "/pictures/no-tables-read-with-the-last-pictures-tables.jpg")
+            .toBase64();
     writeFile(path("pictures.csv"), "[PELVANE]\nPeru^1 Sol^^^^^^^^^^^^^^^^^1936^" + cut +
-                                        "^\nPeru^2 Soles^^^^^^^^^^^^^^^^^1936^" + whole + "^\n");
+                                        "^\nPeru^2 Soles^^^^^^^^^^^^^^^^^1936^" + whole +
+                                        "^\nPeru^5 Soles^^^^^^^^^^^^^^^^^1936^" + tableless +
+                                        "^\n");
     ProgramRun run = runProgram(dir() + "/store", {"--import", path("pictures.csv")});
     EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
-    EXPECT_EQ(run.output, "2 created, 0 updated, 0 skipped\n");
-    EXPECT_TRUE(run.errors.contains("Warning: the front picture of 1 Sol, 1936, Peru cannot be "
-                                    "read; the coin is kept without it\n"))
-        << qPrintable(run.errors);
+    EXPECT_EQ(run.output, "3 created, 0 updated, 0 skipped\n");
+    for (const char* coin : {"1 Sol", "5 Soles"})
+        EXPECT_TRUE(run.errors.contains(QStringLiteral("Warning: the front picture of %1, 1936, "
+                                                       "Peru cannot be read; the coin is kept "
+                                                       "without it\n")
+                                            .arg(coin)))
+            << qPrintable(run.errors);
     EXPECT_FALSE(run.errors.contains("2 Soles"));
     run = runProgram(dir() + "/store", {"--export", path("out.csv")});
     EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
     const QList<QByteArray> lines = readFile(path("out.csv")).split('\n');
-    ASSERT_EQ(lines.size(), 4);
+    ASSERT_EQ(lines.size(), 5);
     EXPECT_EQ(lines[1].split('^').value(19), ""); // 1 Sol
     EXPECT_GT(lines[2].split('^').value(19).size(), 100);
+    EXPECT_EQ(lines[3].split('^').value(19), ""); // 5 Soles
 }
 
 // Two imports of one file at once: the lookups and saves of each hold the write lock together,
