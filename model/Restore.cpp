@@ -47,7 +47,24 @@ Result<Restored> restore(const QString& storePath, const QString& file, const Up
         return fail(
             failure(error->code,
                     QStringLiteral("Cannot bring %1 up to date: %2").arg(file, error->message)));
+    // Everything in the log goes into the file, and the log goes with the last connection: a
+    // log left behind means another program has the store open, and it would lay its pages
+    // over the restored file. Asked before the snapshot, so that a refusal leaves nothing
+    // behind, and again just before the file is replaced.
+    auto inUse = [&] {
+        {
+            Connection current(storePath, Connection::Read);
+            if (current.ok())
+                current.exec("PRAGMA wal_checkpoint(TRUNCATE)");
+        }
+        return QFileInfo::exists(storePath + QStringLiteral("-wal"));
+    };
+    const StoreError busy = failure(
+        SQLITE_BUSY, QStringLiteral("The collection is open in another Pelvane: close it and try "
+                                    "again"));
     if (QFileInfo(storePath).exists()) {
+        if (inUse())
+            return fail(busy);
         const Result<QString> snapshot =
             Snapshots::take(storePath, QStringLiteral("before-restore"));
         if (!snapshot.ok())
@@ -55,18 +72,8 @@ Result<Restored> restore(const QString& storePath, const QString& file, const Up
                                 QStringLiteral("Cannot keep the current collection first: %1")
                                     .arg(snapshot.error().message)));
         out.snapshot = snapshot.value();
-        // Everything in the log goes into the file, and the log goes with the last connection:
-        // a log left behind means another program has the store open, and it would lay its
-        // pages over the restored file.
-        {
-            Connection current(storePath, Connection::Read);
-            if (current.ok())
-                current.exec("PRAGMA wal_checkpoint(TRUNCATE)");
-        }
-        if (QFileInfo::exists(storePath + QStringLiteral("-wal")))
-            return fail(failure(SQLITE_BUSY,
-                                QStringLiteral("The collection is open in another Pelvane: close "
-                                               "it and try again")));
+        if (inUse())
+            return fail(busy);
     }
     if (auto error = replace(temporary, storePath))
         return fail(*error);

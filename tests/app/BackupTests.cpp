@@ -169,6 +169,18 @@ TEST_F(PelvaneTest, RestoreRefusesWhatIsNoWholeBackup) {
         EXPECT_EQ(readFile(store), before);
     }
     EXPECT_FALSE(QDir(path("a/Backups")).exists()); // nothing was about to be replaced
+
+    // A program that has the collection open would write over the restored file.
+    {
+        OtherConnection window(store);
+        ASSERT_EQ(window.number("SELECT count(*) FROM Coins"), 41);
+        const ProgramRun run = runProgram(path("a"), {"--restore", path("good.sqlite")});
+        EXPECT_EQ(run.exitCode, 1);
+        EXPECT_EQ(run.errors, "Cannot restore: The collection is open in another Pelvane: close "
+                              "it and try again\n");
+    }
+    EXPECT_EQ(readFile(store), before);
+    EXPECT_FALSE(QDir(path("a/Backups")).exists());
 }
 
 // A backup is written only to a regular file, never over the collection itself, and never as an
