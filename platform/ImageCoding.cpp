@@ -55,18 +55,22 @@ int dotsPerMeter(UINT8 unit, UINT16 density) {
     return 0;
 }
 
+// libjpeg's errors jump back to the caller, and its warnings say nothing.
+jpeg_error_mgr* quietErrors(JpegError& error) {
+    jpeg_error_mgr* manager = jpeg_std_error(&error.manager);
+    manager->error_exit = jumpOnError;
+    manager->output_message = ignoreMessage;
+    return manager;
+}
+
 // The export re-encodes tens of thousands of pictures: one decoder and one encoder per thread,
 // kept for the next picture, and pixels handed from one to the other as plain RGB rows.
 class Recoder {
 public:
     Recoder() {
-        in_.err = jpeg_std_error(&inError_.manager);
-        inError_.manager.error_exit = jumpOnError;
-        inError_.manager.output_message = ignoreMessage;
+        in_.err = quietErrors(inError_);
         startDecompressor();
-        out_.err = jpeg_std_error(&outError_.manager);
-        outError_.manager.error_exit = jumpOnError;
-        outError_.manager.output_message = ignoreMessage;
+        out_.err = quietErrors(outError_);
         jpeg_create_compress(&out_);
     }
     ~Recoder() {
@@ -189,9 +193,7 @@ namespace {
 class JpegChecker {
 public:
     JpegChecker() {
-        in_.err = jpeg_std_error(&error_.manager);
-        error_.manager.error_exit = jumpOnError;
-        error_.manager.output_message = ignoreMessage;
+        in_.err = quietErrors(error_);
         jpeg_create_decompress(&in_);
     }
     ~JpegChecker() { jpeg_destroy_decompress(&in_); }
