@@ -34,8 +34,8 @@ Result<qint64> write(const QString& storePath, const QString& target, const Prog
         return failure(SQLITE_CANTOPEN,
                        QStringLiteral("Cannot write %1: the folder cannot be written").arg(target));
     auto fail = [&](const StoreError& e) {
-        QFile::remove(temporary);
-        QFile::remove(temporary + QStringLiteral("-journal"));
+        for (const char* part : {"", "-journal", "-wal", "-shm"})
+            QFile::remove(temporary + QLatin1String(part));
         return e;
     };
     if (auto error = copyStore(storePath, temporary, progress))

@@ -134,6 +134,19 @@ bool copyFile(const QString& from, const QString& to, const Progress& progress) 
 // write to the source meanwhile, SQLite starts the copy again.
 std::optional<StoreError> copyStore(const QString& sourcePath, const QString& destination,
                                     const Progress& progress) {
+    // Nothing writes to a store whose folder cannot be written: its file and its log, as they
+    // are, are the store. They are copied, and the copy takes the log in when it is opened.
+    if (const QFileInfo info(sourcePath); !QFileInfo(info.absolutePath()).isWritable()) {
+        if (!copyFile(sourcePath, destination, progress))
+            return systemError(QStringLiteral("Cannot copy %1").arg(sourcePath));
+        if (const QFileInfo log(sourcePath + QStringLiteral("-wal"));
+            log.size() > 0 && !copyFile(log.filePath(), destination + QStringLiteral("-wal"), {}))
+            return systemError(QStringLiteral("Cannot copy %1").arg(log.filePath()));
+        Connection copy(destination, Connection::Create);
+        if (!copy.ok() || !copy.exec("PRAGMA journal_mode=DELETE"))
+            return copy.error();
+        return std::nullopt;
+    }
     Connection source(sourcePath, Connection::Read);
     if (!source.ok())
         return source.error();

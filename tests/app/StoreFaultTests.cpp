@@ -1,5 +1,6 @@
 #include "Program.h"
 #include "TestSupport.h"
+#include "model/Backup.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -110,6 +111,12 @@ TEST_P(StoreFaults, ExportSaysWhyAndTouchesNothing) {
     EXPECT_TRUE(run.errors.contains(QLatin1String(fault.message))) << qPrintable(run.errors);
     if (fault.exported) {
         EXPECT_EQ(readFile(backup).count('\n'), 41); // the marker and forty coins
+        // What can be exported can be backed up, whole.
+        const ProgramRun copy = runProgram(store, {"--backup", path("copy.sqlite")}, prefix);
+        EXPECT_EQ(copy.exitCode, 0) << qPrintable(copy.errors);
+        const Result<Backup::StoreInfo> info = Backup::inspect(path("copy.sqlite"));
+        ASSERT_TRUE(info.ok()) << qPrintable(info.error().message);
+        EXPECT_EQ(info.value().coins, 40);
     } else {
         EXPECT_EQ(readFile(backup), kEarlierBackup);
     }
