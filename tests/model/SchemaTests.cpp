@@ -1,5 +1,6 @@
 #include "StoreFixture.h"
 #include "model/PrintedFetch.h"
+#include "model/Snapshots.h"
 
 #include <QFile>
 #include <sqlite3.h>
@@ -124,6 +125,12 @@ TEST_F(StoreTest, StoreOfTheFirstSchemaIsBroughtForwardOnce) {
     EXPECT_EQ(rows(file, "Coins"), coinsAfter);
     EXPECT_EQ(OtherConnection(file).number("PRAGMA user_version"),
               PersistentContainer::SchemaVersion);
+
+    // The store as it was is kept before it changed, once.
+    const QList<Snapshots::Entry> kept = Snapshots::list(file);
+    ASSERT_EQ(kept.size(), 1);
+    EXPECT_TRUE(kept[0].path.contains("-before-upgrade-"));
+    EXPECT_EQ(rows(kept[0].path, "Coins"), coinsBefore);
 }
 
 // Screens carry on with nothing after a failed fetch, and say why on the console.
