@@ -6,6 +6,11 @@ cmake -S . -B build-bench -G Ninja -DCMAKE_BUILD_TYPE=Release -DPELVANE_TESTS=OF
 cmake --build build-bench --target store_bench exchange_bench list_bench groups_bench valuation_bench \
   reference_bench import_screen_bench report_bench backup_bench >/dev/null
 export QT_QPA_PLATFORM=offscreen
+# The benchmarks' collections, and anything a stopped one leaves, go into one folder that goes
+# with the run.
+scratch=$(mktemp -d "${TMPDIR:-/tmp}/pelvane-bench.XXXXXX")
+trap 'rm -rf "$scratch"' EXIT
+export TMPDIR="$scratch"
 ./build-bench/bench/store_bench
 ./build-bench/bench/exchange_bench
 ./build-bench/bench/list_bench

@@ -1,10 +1,26 @@
 // One test main for every test executable: a QApplication on the offscreen platform.
 #include <QApplication>
+#include <QDir>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+#include <optional>
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Everything a run writes to the temporary folder goes into one folder of its own, removed
+    // when the run ends: the tests' folders, Qt's runtime folder, and what the programs and
+    // death-test children it starts leave there, since they inherit TMPDIR and never clean up
+    // after a designed stop.
+    std::optional<QTemporaryDir> scratch;
+    if (qEnvironmentVariableIsEmpty("PELVANE_TEST_SCRATCH")) {
+        scratch.emplace(QDir::tempPath() + QStringLiteral("/pelvane-tests-XXXXXX"));
+        if (scratch->isValid()) {
+            qputenv("TMPDIR", QFile::encodeName(scratch->path()));
+            qputenv("PELVANE_TEST_SCRATCH", QFile::encodeName(scratch->path()));
+        }
+    }
     // Qt starts threads of its own; forked death tests must re-execute the binary.
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     ::testing::InitGoogleTest(&argc, argv);

@@ -22,6 +22,8 @@ void PelvaneTest::SetUp() {
 
 void PelvaneTest::TearDown() {
     Console::stopCapture();
+    // Written now, while the folder exists: a later write would make it again.
+    UserDefaults::standard().synchronize();
 }
 
 QByteArray readFile(const QString& file) {

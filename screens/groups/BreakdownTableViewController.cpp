@@ -223,7 +223,7 @@ void BreakdownTableViewController::load() {
     CoinList = context->fetch<Coins>(request);
     for (const CoinPtr& coin : std::as_const(CoinList)) {
         value += coin->value() * float(coin->quantity());
-        CoinCount += quint64(qint64(coin->quantity()));
+        CoinCount += coin->quantity();
     }
     tableView->reloadData();
     if (!navigationItem().rightItems.isEmpty())

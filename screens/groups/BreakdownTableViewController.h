@@ -99,7 +99,8 @@ public:
     QList<CoinPtr> CoinList;
     QList<CoinPtr> FilteredCoinList;
     float value = 0;
-    quint64 CoinCount = 0;
+    // Signed: a quantity read from an exchange file may be negative, and the sum says so.
+    qint64 CoinCount = 0;
     std::optional<bool> SortAsc;
     bool DarkMode = false;
     std::unique_ptr<QTextDocument> CoinString;

@@ -20,10 +20,11 @@ QString shortest(double number) {
 }
 } // namespace
 
-CoinDocument::CoinDocument(qreal pictureWidth)
+CoinDocument::CoinDocument(qreal pictureWidth, Medium medium)
     : document_(std::make_unique<QTextDocument>())
     , cursor_(document_.get())
-    , pictureWidth_(pictureWidth) {
+    , pictureWidth_(pictureWidth)
+    , medium_(medium) {
     document_->setDefaultFont(blockFont());
     document_->setUndoRedoEnabled(false);
     black_.setForeground(Qt::black);
@@ -84,8 +85,9 @@ void CoinDocument::appendPicture(const QByteArray& bytes) {
         return;
     QTextImageFormat image;
     image.setName(found->name);
-    image.setWidth(pictureWidth_ * kPixelsPerPoint);
-    image.setHeight(found->height * kPixelsPerPoint);
+    const qreal scale = medium_ == Medium::Paper ? kPixelsPerPoint : 1.0;
+    image.setWidth(pictureWidth_ * scale);
+    image.setHeight(found->height * scale);
     cursor_.insertImage(image);
     append(QStringLiteral("   "));
 }
@@ -103,7 +105,7 @@ std::unique_ptr<QTextDocument> CoinDocument::take() {
 
 std::unique_ptr<QTextDocument>
 CoinDocument::report(const QString& title, const QList<CoinPtr>& coins, qreal pictureWidth) {
-    CoinDocument d(pictureWidth);
+    CoinDocument d(pictureWidth, Medium::Paper);
     d.appendTitle(title, 21);
     using A = Coins::Attr;
     for (const CoinPtr& c : coins) {
@@ -147,7 +149,7 @@ QString CoinDocument::summaryLine(const Coins& coin) {
 std::unique_ptr<QTextDocument> CoinDocument::listing(const QString& title,
                                                      const QList<CoinPtr>& coins,
                                                      const Lines& lines, qreal pictureWidth) {
-    CoinDocument d(pictureWidth);
+    CoinDocument d(pictureWidth, Medium::Screen);
     d.appendTitle(title, 17);
     for (const CoinPtr& c : coins) {
         lines(d, *c);

@@ -16,8 +16,11 @@ class QTextDocument;
 
 class CoinDocument {
 public:
-    // `pictureWidth`: the displayed width of every picture, in points like the text.
-    explicit CoinDocument(qreal pictureWidth);
+    // Where the document is seen: a page laid out in points (the PDF report), or a view on the
+    // screen (the print listing), where a picture as wide as asked is that many pixels wide.
+    enum class Medium { Paper, Screen };
+    // `pictureWidth`: the displayed width of every picture, in the medium's unit.
+    CoinDocument(qreal pictureWidth, Medium medium);
     ~CoinDocument();
     CoinDocument(const CoinDocument&) = delete;
     CoinDocument& operator=(const CoinDocument&) = delete;
@@ -39,7 +42,7 @@ public:
     // The PDF report: the eighteen lines of every coin.
     static std::unique_ptr<QTextDocument> report(const QString& title, const QList<CoinPtr>& coins,
                                                  qreal pictureWidth);
-    // The print listing: each coin's `lines` and its summary line.
+    // The print listing, shown on the screen: each coin's `lines` and its summary line.
     using Lines = std::function<void(CoinDocument&, const Coins&)>;
     static std::unique_ptr<QTextDocument> listing(const QString& title, const QList<CoinPtr>& coins,
                                                   const Lines& lines, qreal pictureWidth);
@@ -63,6 +66,7 @@ private:
     QTextCursor cursor_;
     QTextCharFormat black_;
     qreal pictureWidth_;
+    Medium medium_;
     // The resource name of each distinct picture, empty for bytes that do not decode, and its
     // displayed height.
     struct Picture {

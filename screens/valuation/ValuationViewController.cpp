@@ -159,7 +159,9 @@ void ValuationViewController::didSelectRow(TableView* table, IndexPath path) {
     const Coins& coin = *CoinList.at(path.row);
     CoinYear = QString::number(coin.year());
     YearTextField->setText(CoinYear);
-    Denomination = coin.denomination();
+    // An absent denomination is kept as "", as every other screen keeps it: the revaluation then
+    // looks for "", never for the coins without one.
+    Denomination = coin.denomination().isNull() ? QStringLiteral("") : coin.denomination();
     DenominationTextField->setText(Denomination);
     SaveButton->setEnabled(true);
     Styling::round(SaveButton, 10, 2, Qt::black, Qt::cyan);

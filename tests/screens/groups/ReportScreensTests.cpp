@@ -21,6 +21,18 @@ int pictureCount(const QTextDocument& document) {
     return int(document.toPlainText().count(QChar::ObjectReplacementCharacter));
 }
 
+// The widest run of red pixels on a row: the width the red coin picture is drawn at.
+int redWidth(const QImage& image) {
+    int widest = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0, run = 0; x < image.width(); ++x) {
+            const QColor c = image.pixelColor(x, y);
+            run = c.red() > 180 && c.green() < 90 && c.blue() < 90 ? run + 1 : 0;
+            widest = std::max(widest, run);
+        }
+    return widest;
+}
+
 struct ReportCase {
     int tab;
     QString groupValue;
@@ -230,6 +242,9 @@ TEST_F(ReportTest, ThePrintScreenListsTheGroupInTheGroupScreensOrderAndPrintsIt)
                            "$6.00\n\uFFFC   \uFFFC   \n\nCountry: USA\nDenomination: Dime\n"))
         << listing.toStdString();
     EXPECT_EQ(pictureCount(*print->FileTextView->document()), 3);
+    // Each picture is a sixth of the view's width: in pixels on the screen, in points on paper.
+    const double sixth = print->width() / 6.0;
+    EXPECT_NEAR(redWidth(print->FileTextView->viewport()->grab().toImage()), sixth, 2);
 
     print->PrintButton->click();
     EXPECT_EQ(fakes.printController->presented, 1);
@@ -241,6 +256,8 @@ TEST_F(ReportTest, ThePrintScreenListsTheGroupInTheGroupScreensOrderAndPrintsIt)
         printed.inOrder({"Coins Filtered by Country: USA", "Denomination: Quarter",
                          "Year: 1964 - Qty: 3", "Denomination: Dime", "Denomination: Dime"}))
         << printed.all().toStdString();
+    const QImage page = printed.pdf->render(0, (printed.size(0) * 2).toSize());
+    EXPECT_NEAR(redWidth(page) / 2.0, sixth, 2);
     // Cancelled: nothing printed, nothing said.
     fakes.printController->outputFile.clear();
     Console::startCapture();

@@ -115,6 +115,29 @@ TEST_F(ValuationTest, RevaluesEveryCoinOfTheTappedDenominationAndYear) {
     EXPECT_EQ(values, QList<float>({7.5f, 7.5f, 7.5f, 4.0f, 5.0f}));
 }
 
+// A coin without a denomination is looked for as "", as everywhere else: the coins of that year
+// whose denomination is "" change, those without one (the tapped coin among them) do not.
+TEST_F(ValuationTest, AnAbsentDenominationIsRevaluedAsTheEmptyText) {
+    auto absent = addCoin("Lincoln Cent", 1909, 1, 1.0f);
+    absent->setValue(Coins::Attr::denomination, QVariant());
+    auto alsoAbsent = addCoin("Lincoln Cent", 1909, 1, 2.0f);
+    alsoAbsent->setValue(Coins::Attr::denomination, QVariant());
+    auto empty = addCoin("", 1909, 1, 3.0f);
+    auto otherYear = addCoin("", 1910, 1, 4.0f);
+    ASSERT_FALSE(ctx().save());
+    ASSERT_FALSE(absent->hasValue(Coins::Attr::denomination));
+    ASSERT_TRUE(empty->hasValue(Coins::Attr::denomination));
+    auto* screen = open();
+    screen->ValueTableView->selectRow({0, 0});
+    EXPECT_EQ(screen->DenominationTextField->text(), "");
+    QTest::keyClicks(screen->NewValueTextField, "9");
+    screen->SaveButton->click();
+    EXPECT_EQ(absent->value(), 1.0f);
+    EXPECT_EQ(alsoAbsent->value(), 2.0f);
+    EXPECT_EQ(empty->value(), 9.0f);
+    EXPECT_EQ(otherYear->value(), 4.0f);
+}
+
 TEST_F(ValuationTest, LooksPricesUpOnTheWebAndInThePriceGuides) {
     addCoin("Lincoln   Cent", 1909);
     auto* screen = open();
