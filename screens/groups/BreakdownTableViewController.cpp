@@ -1,5 +1,6 @@
 #include "screens/groups/BreakdownTableViewController.h"
 
+#include "model/PrintedFetch.h"
 #include "platform/Files.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/Views.h"
@@ -220,7 +221,7 @@ void BreakdownTableViewController::load() {
     searchKeysAt_.reset();
     const FetchRequest request = kind_.fetchRequest(kind_.groupValue(), SortAsc.value_or(true));
     // A failed fetch leaves the list empty.
-    CoinList = context->fetch<Coins>(request);
+    CoinList = fetchOrPrint<Coins>(*context, request);
     for (const CoinPtr& coin : std::as_const(CoinList)) {
         value += coin->value() * float(coin->quantity());
         CoinCount += coin->quantity();

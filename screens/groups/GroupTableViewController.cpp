@@ -1,5 +1,6 @@
 #include "screens/groups/GroupTableViewController.h"
 
+#include "platform/Console.h"
 #include "platform/Fatal.h"
 #include "platform/kit/Appearance.h"
 #include "screens/Application.h"
@@ -147,8 +148,11 @@ void GroupTableViewController::load() {
 void GroupTableViewController::refreshCounts() {
     if (countsAt_ == context->changeCount())
         return;
-    // A failed count goes on with nothing counted.
-    counts_ = context->countBy(FetchRequest(QStringLiteral("Coins")), countKey_);
+    // A failed count is printed as a failed fetch is, and goes on with nothing counted.
+    StoreError error;
+    counts_ = context->countBy(FetchRequest(QStringLiteral("Coins")), countKey_, &error);
+    if (error.code != 0)
+        Console::print(QStringLiteral("Could not fetch. %1").arg(error.description()));
     countsAt_ = context->changeCount();
 }
 

@@ -1,5 +1,6 @@
 #include "screens/groups/PrintCoinsViewController.h"
 
+#include "model/PrintedFetch.h"
 #include "platform/Console.h"
 #include "platform/Platform.h"
 #include "platform/kit/AlertController.h"
@@ -58,7 +59,7 @@ void PrintCoinsViewController::fetch() {
     request.predicate = Predicate::format(kind->predicate, kind->groupValue());
     // The direction last chosen on a group screen, not the breakdown list's own.
     request.sortDescriptors = {{QStringLiteral("denomination"), SortAscending}};
-    CoinList = managedObjectContext->fetch<Coins>(request);
+    CoinList = fetchOrPrint<Coins>(*managedObjectContext, request);
 }
 
 void PrintCoinsViewController::CreateFileClick() {

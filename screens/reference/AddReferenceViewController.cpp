@@ -1,5 +1,6 @@
 #include "screens/reference/AddReferenceViewController.h"
 
+#include "model/PrintedFetch.h"
 #include "model/ManagedObjectContext.h"
 #include "platform/Fatal.h"
 #include "platform/kit/AlertController.h"
@@ -14,7 +15,7 @@ void AddReferenceViewController::viewDidLoad() {
     setUpField(kind().addTitle);
     FetchRequest request(kind().list->entity);
     request.returnsObjectsAsFaults = false;
-    for (const ObjectPtr& record : Application::viewContext()->fetch(request)) {
+    for (const ObjectPtr& record : fetchOrPrint(*Application::viewContext(), request)) {
         if (!record->hasValue(attribute()))
             fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value"),
                        "Pelvane/AddReferenceViewController", __LINE__);

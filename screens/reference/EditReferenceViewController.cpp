@@ -1,5 +1,6 @@
 #include "screens/reference/EditReferenceViewController.h"
 
+#include "model/PrintedFetch.h"
 #include "model/ManagedObjectContext.h"
 #include "model/Predicate.h"
 #include "screens/Application.h"
@@ -20,7 +21,7 @@ void EditReferenceViewController::save() {
     // Looked up by the value chosen in the list, not by detailItem; the first match is renamed.
     FetchRequest request(kind().list->entity);
     request.predicate = Predicate::format(kind().lookupFormat, *kind().list->selection);
-    Results = managedObjectContext->fetch(request);
+    Results = fetchOrPrint(*managedObjectContext, request);
     ResultsCount = int(Results.size());
     if (ResultsCount >= 1) {
         const ObjectPtr& record = Results.first();

@@ -1,5 +1,6 @@
 #include "screens/reference/ReferenceTableViewController.h"
 
+#include "model/PrintedFetch.h"
 #include "model/ManagedObjectContext.h"
 #include "platform/Console.h"
 #include "platform/Fatal.h"
@@ -66,10 +67,7 @@ void ReferenceTableViewController::fetch() {
     FetchRequest request(kind_.entity);
     request.returnsObjectsAsFaults = false;
     request.sortDescriptors = {{kind_.attribute, SortAsc.value_or(true)}};
-    StoreError error;
-    const QList<ObjectPtr> fetched = context->fetch(request, &error);
-    if (fetched.isEmpty() && error.code != 0)
-        Console::print(QStringLiteral("Could not fetch. %1").arg(error.description()));
+    const QList<ObjectPtr> fetched = fetchOrPrint(*context, request);
     if (fetched.size() > 32767)
         fatalError(QStringLiteral("Not enough bits to represent the passed value"), kSource,
                    __LINE__);

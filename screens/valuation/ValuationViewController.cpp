@@ -1,5 +1,6 @@
 #include "screens/valuation/ValuationViewController.h"
 
+#include "model/PrintedFetch.h"
 #include "model/Numbers.h"
 #include "platform/Console.h"
 #include "platform/Platform.h"
@@ -121,10 +122,7 @@ void ValuationViewController::loadCoins() {
     context = managedObjectContext = Application::viewContext();
     FetchRequest request(QStringLiteral("Coins"));
     request.returnsObjectsAsFaults = false;
-    StoreError error;
-    const QList<CoinPtr> fetched = context->fetch<Coins>(request, &error);
-    if (fetched.isEmpty() && error.code != 0)
-        Console::print(QStringLiteral("Could not fetch. %1").arg(error.description()));
+    const QList<CoinPtr> fetched = fetchOrPrint<Coins>(*context, request);
     CoinList.reserve(fetched.size());
     // Quantities and values only: no picture is read or decoded for the totals.
     for (const CoinPtr& coin : fetched) {
@@ -221,10 +219,7 @@ void ValuationViewController::SaveNewCardButtonClicked() {
     request.predicate =
         Predicate::andPredicate({Predicate::format(QStringLiteral("denomination=%@"), Denomination),
                                  Predicate::format(QStringLiteral("year=%@"), CoinYear)});
-    StoreError error;
-    const QList<CoinPtr> matching = managedObjectContext->fetch<Coins>(request, &error);
-    if (matching.isEmpty() && error.code != 0)
-        Console::print(QStringLiteral("Could not fetch. %1").arg(error.description()));
+    const QList<CoinPtr> matching = fetchOrPrint<Coins>(*managedObjectContext, request);
     if (const std::optional<float> value = Numbers::parseFloat(NewValueTextField->text()))
         for (const CoinPtr& coin : matching) {
             coin->setValue(*value);

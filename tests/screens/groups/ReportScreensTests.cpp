@@ -265,6 +265,30 @@ TEST_F(ReportTest, ThePrintScreenListsTheGroupInTheGroupScreensOrderAndPrintsIt)
     EXPECT_TRUE(Console::captured().isEmpty());
 }
 
+// A store that cannot be read gives the breakdown and the print screen nothing to show; each
+// says why on the console, as every screen does.
+TEST_F(ReportTest, FailedFetchesArePrintedAndLeaveTheScreensEmpty) {
+    BreakdownTableViewController* b = openBreakdown(0, "Dime");
+    ASSERT_EQ(b->CoinList.size(), 3);
+    ASSERT_EQ(OtherConnection(dir() + "/Pelvane.sqlite").exec("DROP TABLE Coins"), 0);
+    QApplication::processEvents(); // the read begun before ends
+    Console::startCapture();
+    barButton(b, "SortButton")->click(); // fetches the group again
+    EXPECT_EQ(b->tableView->numberOfRows(0), 0);
+    EXPECT_EQ(b->tableView->headerTitle(0), "# of Coins: 0");
+    ASSERT_EQ(Console::captured().size(), 1);
+    EXPECT_TRUE(Console::captured().first().startsWith("Could not fetch. "));
+
+    barButton(b, "PrintButton")->click();
+    auto* print = dynamic_cast<PrintCoinsViewController*>(tabs->tab(0)->topViewController());
+    ASSERT_NE(print, nullptr);
+    EXPECT_TRUE(print->CoinList.isEmpty());
+    ASSERT_EQ(Console::captured().size(), 2);
+    EXPECT_TRUE(Console::captured().last().startsWith("Could not fetch. "));
+    print->CreateFileButton->click();
+    EXPECT_EQ(alertText(), "Empty Data Set! / No Coins to Print!");
+}
+
 TEST_F(ReportTest, TheYearListingNamesTheYearTwiceAndAnEmptyGroupHidesPrinting) {
     BreakdownTableViewController* b = openBreakdown(2, "1964");
     barButton(b, "PrintButton")->click();

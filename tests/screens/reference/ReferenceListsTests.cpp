@@ -1,6 +1,7 @@
 // The three reference lists through their table of differences: the same checks over the grade,
 // strike character and edge rows, with the texts as the lists are meant to show them.
 #include "../ScreenFixture.h"
+#include "platform/Console.h"
 #include "platform/kit/TextTableViewCell.h"
 #include "screens/entry/AddViewController.h"
 #include "screens/reference/ReferenceListScreens.h"
@@ -10,6 +11,7 @@
 
 #include <QAction>
 #include <QFocusEvent>
+#include <QRegularExpression>
 
 namespace {
 
@@ -172,6 +174,9 @@ TEST_P(ReferenceListTest, ListFetchesSearchesSortsAndDeletes) {
 
 TEST_P(ReferenceListTest, AddAndEditScreensCheckSaveAndReturn) {
     storeOnly({"VF", "AU-58", "Reeded"});
+    auto coin = addCoin("Cent", 1909);
+    coin->setValue(QString::fromLatin1(row().coinAttribute), QStringLiteral("Reeded"));
+    ASSERT_FALSE(ctx().save().has_value());
     auto* list = openList();
     ASSERT_NE(list, nullptr);
     QApplication::processEvents();
@@ -196,10 +201,18 @@ TEST_P(ReferenceListTest, AddAndEditScreensCheckSaveAndReturn) {
     EXPECT_EQ(alertText(), "Record not Saved! / Duplicates not allowed");
     AlertController::current()->triggerAction("OK");
     EXPECT_EQ(top(), add);
-    add->textField->setText("\tvf \n ");
+    // The text as typed is checked, the trimmed text stored: "VF " makes a second VF.
+    add->textField->setText("VF ");
     save->click();
     EXPECT_EQ(top(), list); // returned, and fetched again
-    EXPECT_EQ(values(list->List), QStringList({"AU-58", "Reeded", "VF", "vf \n"}));
+    EXPECT_EQ(values(list->List), QStringList({"AU-58", "Reeded", "VF", "VF"}));
+    // Only blanks are trimmed: the line break stays.
+    button("AddButton")->click();
+    add = topAs<AddReferenceViewController>();
+    add->textField->setText("\tvf \n ");
+    add->findChild<QPushButton*>(QString::fromLatin1(row().saveAction))->click();
+    EXPECT_EQ(top(), list);
+    EXPECT_EQ(values(list->List), QStringList({"AU-58", "Reeded", "VF", "VF", "vf \n"}));
 
     // The edit screen shows the row chosen, but renames the record its selection variable
     // names.
@@ -216,7 +229,9 @@ TEST_P(ReferenceListTest, AddAndEditScreensCheckSaveAndReturn) {
     edit->findChild<QPushButton*>(QString::fromLatin1(row().saveAction))->click();
     EXPECT_EQ(edit->ResultsCount, 1);
     EXPECT_EQ(top(), list);
-    EXPECT_EQ(values(list->List), QStringList({"AU-58", "VF", "VF", "vf \n"}));
+    EXPECT_EQ(values(list->List), QStringList({"AU-58", "VF", "VF", "VF", "vf \n"}));
+    // A renamed value is renamed in the list only: the coins keep the text they hold.
+    EXPECT_EQ(coin->value(QString::fromLatin1(row().coinAttribute)).toString(), "Reeded");
 
     // Cleared to empty: nothing found changes nothing, and the screen still returns; a value
     // found is kept, empty.
@@ -228,7 +243,7 @@ TEST_P(ReferenceListTest, AddAndEditScreensCheckSaveAndReturn) {
         edit->findChild<QPushButton*>(QString::fromLatin1(row().saveAction))->click();
         EXPECT_EQ(top(), list);
     }
-    EXPECT_EQ(stored(), QStringList({"", "AU-58", "VF", "VF"}));
+    EXPECT_EQ(stored(), QStringList({"", "AU-58", "VF", "VF", "VF"}));
 
     // The coin form's picker offers the list as it is now.
     window->navigationController()->popToRootViewController(false);
@@ -239,6 +254,31 @@ TEST_P(ReferenceListTest, AddAndEditScreensCheckSaveAndReturn) {
     QApplication::sendEvent(form->*row().pickerField, &focus);
     EXPECT_TRUE((form->*row().picker)->isOpen());
     EXPECT_EQ((form->*row().picker)->titles(), stored());
+}
+
+// A list that cannot be read: the list, its add screen and its edit screen each say why on the
+// console and carry on with nothing.
+TEST_P(ReferenceListTest, FailedFetchesArePrinted) {
+    auto* list = openList();
+    ASSERT_NE(list, nullptr);
+    QApplication::processEvents();
+    list->tableView->selectRow({0, 0});
+    auto* edit = topAs<EditReferenceViewController>();
+    ASSERT_NE(edit, nullptr);
+    ASSERT_EQ(OtherConnection(dir() + "/Pelvane.sqlite")
+                  .exec((QByteArray("DROP TABLE ") + row().entity).constData()),
+              0);
+    Console::startCapture();
+    edit->findChild<QPushButton*>(QString::fromLatin1(row().saveAction))->click();
+    EXPECT_EQ(edit->ResultsCount, 0);
+    EXPECT_EQ(top(), list);
+    button("AddButton")->click();
+    auto* add = topAs<AddReferenceViewController>();
+    ASSERT_NE(add, nullptr);
+    EXPECT_TRUE(add->StoredValues.isEmpty());
+    // The edit screen's lookup, the list's fetch on its return, the add screen's fetch.
+    EXPECT_EQ(Console::captured().filter(QRegularExpression("^Could not fetch. ")).size(), 3)
+        << Console::captured().join("\n").toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(Lists, ReferenceListTest, ::testing::ValuesIn(kRows),
