@@ -1,7 +1,7 @@
 #include "screens/reference/AddReferenceViewController.h"
 
-#include "model/PrintedFetch.h"
 #include "model/ManagedObjectContext.h"
+#include "model/PrintedFetch.h"
 #include "platform/Fatal.h"
 #include "platform/kit/AlertController.h"
 #include "screens/Application.h"

@@ -1,8 +1,8 @@
 #include "screens/reference/EditReferenceViewController.h"
 
-#include "model/PrintedFetch.h"
 #include "model/ManagedObjectContext.h"
 #include "model/Predicate.h"
+#include "model/PrintedFetch.h"
 #include "screens/Application.h"
 #include "screens/entry/CoinFormRules.h"
 

@@ -1,12 +1,13 @@
 #include "screens/reference/ReferenceTableViewController.h"
 
-#include "model/PrintedFetch.h"
 #include "model/ManagedObjectContext.h"
+#include "model/PrintedFetch.h"
 #include "platform/Console.h"
 #include "platform/Fatal.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/TextTableViewCell.h"
 #include "screens/Application.h"
+#include "screens/ProcessState.h"
 #include "screens/reference/EditReferenceViewController.h"
 
 #include <QScopeGuard>
@@ -165,6 +166,8 @@ void ReferenceTableViewController::didSelectRow(TableView* table, IndexPath path
 }
 
 void ReferenceTableViewController::prepareForSegue(StoryboardSegue& segue, QObject*) {
+    // The coin edit screen, opened later, returns nowhere when a reference list came last.
+    CalledFromList = QStringLiteral("Master");
     if (segue.identifier != kind_.editSegue)
         return;
     if (auto* edit = dynamic_cast<EditReferenceViewController*>(segue.destination))

@@ -1,7 +1,7 @@
 #include "screens/valuation/ValuationViewController.h"
 
-#include "model/PrintedFetch.h"
 #include "model/Numbers.h"
+#include "model/PrintedFetch.h"
 #include "platform/Console.h"
 #include "platform/Platform.h"
 #include "platform/kit/AlertController.h"

@@ -181,10 +181,12 @@ TEST_P(ReferenceListTest, AddAndEditScreensCheckSaveAndReturn) {
     ASSERT_NE(list, nullptr);
     QApplication::processEvents();
 
+    EXPECT_EQ(CalledFromList, "MAINMENU");
     button("AddButton")->click();
     auto* add = topAs<AddReferenceViewController>();
     ASSERT_NE(add, nullptr);
     EXPECT_TRUE(row().isAdd(add));
+    EXPECT_EQ(CalledFromList, "Master");
     EXPECT_EQ(add->title(), row().addTitle);
     EXPECT_EQ(add->StoredValues, QStringList({"VF", "AU-58", "Reeded"}));
     // The field has the keyboard; a tap elsewhere on the screen takes it away.
@@ -216,7 +218,9 @@ TEST_P(ReferenceListTest, AddAndEditScreensCheckSaveAndReturn) {
 
     // The edit screen shows the row chosen, but renames the record its selection variable
     // names.
+    CalledFromList = "MAINCOINLIST";
     list->tableView->selectRow({0, 0});
+    EXPECT_EQ(CalledFromList, "Master");
     EXPECT_EQ(*row().selection, "AU-58");
     auto* edit = topAs<EditReferenceViewController>();
     ASSERT_NE(edit, nullptr);
