@@ -106,7 +106,36 @@ QString launchHelpText() {
     return text;
 }
 
-LaunchOptions parseLaunchOptions(const QStringList& arguments) {
+namespace {
+// The group's value after --report KIND may begin with "-" (--report year -5), which the parser
+// would take for an option: it is taken out before parsing and put back after. Only "--" and
+// the program's own short options are options there.
+QString takeReportValue(QStringList& arguments) {
+    for (qsizetype i = 1; i < arguments.size(); ++i) {
+        qsizetype value = -1;
+        if (arguments[i] == QLatin1String("--report"))
+            value = i + 2;
+        else if (arguments[i].startsWith(QLatin1String("--report=")))
+            value = i + 1;
+        else if (arguments[i] == QLatin1String("--"))
+            return {};
+        if (value < 0)
+            continue;
+        if (value >= arguments.size())
+            return {};
+        const QString& v = arguments[value];
+        if (!v.startsWith(QLatin1Char('-')) || v.startsWith(QLatin1String("--")) || v.size() < 2 ||
+            v == QLatin1String("-h") || v == QLatin1String("-v"))
+            return {};
+        return arguments.takeAt(value);
+    }
+    return {};
+}
+} // namespace
+
+LaunchOptions parseLaunchOptions(const QStringList& given) {
+    QStringList arguments = given;
+    const QString negativeReportValue = takeReportValue(arguments);
     QCommandLineParser parser;
     QList<QCommandLineOption> parserOptions;
     for (const Option& o : options())
@@ -121,29 +150,34 @@ LaunchOptions parseLaunchOptions(const QStringList& arguments) {
         if (parser.isSet(parserOptions[i]))
             options()[i].apply(launch, parser.value(parserOptions[i]));
     // The only free argument is the group a report is for (--report year 1964).
-    if (!launch.report.isEmpty())
+    if (!launch.report.isEmpty()) {
+        if (!negativeReportValue.isEmpty())
+            launch.report += negativeReportValue;
         launch.report += parser.positionalArguments();
-    else if (!parser.positionalArguments().isEmpty()) {
+    } else if (!parser.positionalArguments().isEmpty()) {
         launch.error = usageError(
             QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().first()));
         return launch;
     }
     if (!launch.message.isEmpty())
         return launch;
+    if (!launch.pdfFile.isEmpty() && launch.report.isEmpty()) {
+        launch.error = usageError(QStringLiteral("--pdf names where a --report goes, and there "
+                                                 "is no --report."));
+        return launch;
+    }
     // One thing at a time: each of these does its work and exits.
     const QList<std::pair<const char*, bool>> commands = {
-        {"--export", !launch.exportFile.isEmpty()},
-        {"--import", !launch.importFile.isEmpty()},
-        {"--backup", !launch.backupFile.isEmpty()},
-        {"--restore", !launch.restoreFile.isEmpty()},
-        {"--backups", launch.listBackups}};
-    QStringList given;
+        {"--export", !launch.exportFile.isEmpty()}, {"--import", !launch.importFile.isEmpty()},
+        {"--backup", !launch.backupFile.isEmpty()}, {"--restore", !launch.restoreFile.isEmpty()},
+        {"--backups", launch.listBackups},          {"--report", !launch.report.isEmpty()}};
+    QStringList asked;
     for (const auto& [name, set] : commands)
         if (set)
-            given << QLatin1String(name);
-    if (given.size() > 1)
+            asked << QLatin1String(name);
+    if (asked.size() > 1)
         launch.error =
-            usageError(QStringLiteral("%1 cannot be combined.").arg(given.join(" and ")));
+            usageError(QStringLiteral("%1 cannot be combined.").arg(asked.join(" and ")));
     return launch;
 }
 

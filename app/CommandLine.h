@@ -19,7 +19,7 @@ struct LaunchOptions {
     QString error;            // set when the arguments make no sense: printed on stderr, exit 2
 };
 
-LaunchOptions parseLaunchOptions(const QStringList& arguments);
+LaunchOptions parseLaunchOptions(const QStringList& given);
 // The text --help prints: the usage line and one line per option.
 QString launchHelpText();
 // Points the store and the preferences at DIR (created if missing).

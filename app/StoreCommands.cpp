@@ -48,7 +48,8 @@ int backup(const QString& file) {
     }
     const Result<qint64> written = Backup::write(storePath(), file);
     if (!written.ok()) {
-        say(written.error().message);
+        say(QStringLiteral("The backup of %1 to %2 failed: %3")
+                .arg(storePath(), file, written.error().message));
         return 1;
     }
     std::printf("Backed up %s to %s\n", qPrintable(coins(written.value())), qPrintable(file));
@@ -59,7 +60,8 @@ int restore(const QString& file) {
     const Result<Backup::Restored> restored =
         Backup::restore(storePath(), file, &PersistentContainer::upgradeCopy);
     if (!restored.ok()) {
-        say(QStringLiteral("Cannot restore: %1").arg(restored.error().message));
+        say(QStringLiteral("The restore of %1 from %2 failed: %3")
+                .arg(storePath(), file, restored.error().message));
         return 1;
     }
     const Backup::Restored& r = restored.value();

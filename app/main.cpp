@@ -34,8 +34,9 @@ int runWithoutWindow(int argc, char** argv, const LaunchOptions& options) {
     delegate.didFinishLaunching();
     PersistentContainer& store = delegate.persistentContainer();
     ManagedObjectContext& context = *store.viewContext();
-    return !options.exportFile.isEmpty() ? Exchange::runExport(context, options.exportFile)
-                                         : Exchange::runImport(context, options.importFile, &store);
+    return !options.exportFile.isEmpty()
+               ? Exchange::runExport(context, options.exportFile, store.storePath())
+               : Exchange::runImport(context, options.importFile, &store);
 }
 // The report lays text out and draws it, so it needs fonts but never a display.
 int runReport(int argc, char** argv, const LaunchOptions& options) {
@@ -48,7 +49,8 @@ int runReport(int argc, char** argv, const LaunchOptions& options) {
     prepare(options);
     AppDelegate delegate;
     delegate.didFinishLaunching();
-    return ReportCommand::run(*delegate.persistentContainer().viewContext(), options.report,
+    return ReportCommand::run(*delegate.persistentContainer().viewContext(),
+                              delegate.persistentContainer().storePath(), options.report,
                               options.pdfFile);
 }
 } // namespace

@@ -42,7 +42,7 @@ qsizetype coinsInFile(const QString& file) {
 }
 } // namespace
 
-int runExport(ManagedObjectContext& context, const QString& file) {
+int runExport(ManagedObjectContext& context, const QString& file, const QString& collection) {
     if (QString why; !Files::isWritableTarget(file, &why)) {
         say(QStringLiteral("Cannot write %1: %2").arg(file, why));
         return 1;
@@ -51,7 +51,7 @@ int runExport(ManagedObjectContext& context, const QString& file) {
     const QByteArray bytes = exchangeText(context, {}, &readError);
     // A file from a store that could not be read whole would replace a good backup.
     if (readError.code != 0) {
-        say(QStringLiteral("Cannot read the collection: %1").arg(readError.message));
+        say(QStringLiteral("Cannot read the collection %1: %2").arg(collection, readError.message));
         return 1;
     }
     // An empty collection (a mistyped data folder) must not wipe out a backup.
@@ -107,7 +107,7 @@ int runImport(ManagedObjectContext& context, const QString& file, PersistentCont
             return 1;
     const ImportResult& result = merge.result();
     if (result.wrongFile) {
-        say(info.fileName() + QStringLiteral(" Is The Incorrect Import File"));
+        say(file + QStringLiteral(" Is The Incorrect Import File"));
         return 2;
     }
     if (storeGone())
@@ -121,9 +121,10 @@ int runImport(ManagedObjectContext& context, const QString& file, PersistentCont
                 result.updated - (error ? result.updatedSinceSave : 0), result.skipped);
     if (error) {
         // Every coin the merge left pending is lost with the process: say how many and why.
-        say(QStringLiteral("%1 coins not saved: %2")
+        say(QStringLiteral("%1 coins of %2 not saved in %3: %4")
                 .arg(result.notSaved + result.updatedSinceSave)
-                .arg(error->message));
+                .arg(file, store ? store->storePath() : QStringLiteral("the collection"),
+                     error->message));
         return 1;
     }
     return 0;

@@ -1,6 +1,7 @@
 // One test main for every test executable: a QApplication on the offscreen platform.
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -19,6 +20,12 @@ int main(int argc, char** argv) {
         if (scratch->isValid()) {
             qputenv("TMPDIR", QFile::encodeName(scratch->path()));
             qputenv("PELVANE_TEST_SCRATCH", QFile::encodeName(scratch->path()));
+            // Qt's runtime folder too, which it otherwise warns about on every program's stderr.
+            const QString runtime = scratch->filePath(QStringLiteral("runtime"));
+            if (QDir().mkdir(runtime) &&
+                QFile::setPermissions(runtime, QFile::ReadOwner | QFile::WriteOwner |
+                                                   QFile::ExeOwner))
+                qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime));
         }
     }
     // Qt starts threads of its own; forked death tests must re-execute the binary.

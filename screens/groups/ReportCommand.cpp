@@ -36,7 +36,8 @@ QString check(const QStringList& arguments) {
     return {};
 }
 
-int run(ManagedObjectContext& context, const QStringList& arguments, const QString& pdfFile) {
+int run(ManagedObjectContext& context, const QString& collection, const QStringList& arguments,
+        const QString& pdfFile) {
     if (const QString wrong = check(arguments); !wrong.isEmpty()) {
         std::fprintf(stderr, "%s\n", qPrintable(wrong));
         return 2;
@@ -53,8 +54,9 @@ int run(ManagedObjectContext& context, const QStringList& arguments, const QStri
     }
     // A store that cannot be read is not taken for a group without coins, nor a damaged
     // picture for a coin without one.
-    auto unreadable = [](const StoreError& error) {
-        std::fprintf(stderr, "Cannot read the collection: %s\n", qPrintable(error.message));
+    auto unreadable = [&collection](const StoreError& error) {
+        std::fprintf(stderr, "Cannot read the collection %s: %s\n", qPrintable(collection),
+                     qPrintable(error.message));
         return 1;
     };
     context.takeReadError();
@@ -63,14 +65,22 @@ int run(ManagedObjectContext& context, const QStringList& arguments, const QStri
     if (failure.code != 0)
         return unreadable(failure);
     if (coins.isEmpty()) {
-        std::fprintf(stderr, "No coins with the %s %s: nothing written.\n",
-                     qPrintable(arguments[0]), qPrintable(arguments[1]));
+        std::fprintf(stderr, "No coins with the %s %s in %s: nothing written to %s.\n",
+                     qPrintable(arguments[0]), qPrintable(arguments[1]), qPrintable(collection),
+                     qPrintable(path));
         return 1;
     }
     const auto document = CoinDocument::report(kind.reportTitle + kind.titleValue(*coins.first()),
                                                coins, kScreenWidth / 6);
     if (auto error = context.takeReadError())
         return unreadable(*error);
-    return CoinDocument::writePdfFile(path, CoinDocument::pdf(*document)) ? 0 : 1;
+    // Said as the breakdown's share button says it, but a failure goes to stderr.
+    QString error;
+    if (!Files::writeAtomically(path, CoinDocument::pdf(*document), &error)) {
+        std::fprintf(stderr, "Cannot write %s: %s\n", qPrintable(path), qPrintable(error));
+        return 1;
+    }
+    std::printf("wrote PDF file with multiple pages to: %s\n", qPrintable(path));
+    return 0;
 }
 } // namespace ReportCommand

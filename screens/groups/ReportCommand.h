@@ -13,5 +13,7 @@ QString check(const QStringList& arguments);
 // Writes the report of the group as its breakdown list shows it on opening to `pdfFile` (empty:
 // the list's file in the documents folder). 0; 1 when the group has no coins or the file cannot
 // be written; 2 for arguments that name no group. Needs a QGuiApplication.
-int run(ManagedObjectContext& context, const QStringList& arguments, const QString& pdfFile);
+// `collection`: the store's path, named in the messages, which go to stderr.
+int run(ManagedObjectContext& context, const QString& collection, const QStringList& arguments,
+        const QString& pdfFile);
 } // namespace ReportCommand

@@ -164,7 +164,8 @@ TEST_F(PelvaneTest, RestoreRefusesWhatIsNoWholeBackup) {
         c.make(file);
         const ProgramRun run = runProgram(path("a"), {"--restore", file});
         EXPECT_EQ(run.exitCode, 1);
-        EXPECT_TRUE(run.errors.startsWith("Cannot restore: " + file));
+        EXPECT_TRUE(run.errors.startsWith("The restore of " + store + " from " + file +
+                                          " failed: " + file));
         EXPECT_TRUE(run.errors.contains(c.reason)) << qPrintable(run.errors);
         EXPECT_EQ(readFile(store), before);
     }
@@ -176,8 +177,9 @@ TEST_F(PelvaneTest, RestoreRefusesWhatIsNoWholeBackup) {
         ASSERT_EQ(window.number("SELECT count(*) FROM Coins"), 41);
         const ProgramRun run = runProgram(path("a"), {"--restore", path("good.sqlite")});
         EXPECT_EQ(run.exitCode, 1);
-        EXPECT_EQ(run.errors, "Cannot restore: The collection is open in another Pelvane: close "
-                              "it and try again\n");
+        EXPECT_EQ(run.errors, "The restore of " + store + " from " + path("good.sqlite") +
+                                  " failed: The collection is open in another Pelvane: close "
+                                  "it and try again\n");
     }
     EXPECT_EQ(readFile(store), before);
     EXPECT_FALSE(QDir(path("a/Backups")).exists());
@@ -192,7 +194,9 @@ TEST_F(PelvaneTest, BackupKeepsWhatItMustNotReplace) {
     for (const QString& target : {path("fifo"), path("folder")}) {
         const ProgramRun run = runProgram(path("a"), {"--backup", target});
         EXPECT_EQ(run.exitCode, 1);
-        EXPECT_EQ(run.errors, "Cannot write " + target + ": it is not a regular file\n");
+        EXPECT_EQ(run.errors, "The backup of " + path("a/Pelvane.sqlite") + " to " + target +
+                                  " failed: Cannot write " + target +
+                                  ": it is not a regular file\n");
     }
     struct stat info {};
     ASSERT_EQ(::stat(qPrintable(path("fifo")), &info), 0);

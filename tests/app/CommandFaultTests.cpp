@@ -209,8 +209,8 @@ TEST_F(PelvaneTest, AReportFromADamagedStoreWritesNothing) {
         const ProgramRun run =
             runProgram(folder, {"--report", "country", "Canada", "--pdf", path("list.pdf")});
         EXPECT_EQ(run.exitCode, 1);
-        EXPECT_TRUE(
-            run.errors.endsWith("Cannot read the collection: database disk image is malformed\n"))
+        EXPECT_EQ(run.errors, "Cannot read the collection " + folder +
+                                  "/Pelvane.sqlite: database disk image is malformed\n")
             << qPrintable(run.errors);
         EXPECT_FALSE(QFile::exists(path("list.pdf")));
     }

@@ -6,42 +6,75 @@
 
 // Scripts write the report of a group with no display at all.
 TEST_F(PelvaneTest, TheReportRunsFromTheCommandLine) {
-    QString errors, output;
+    const QString store = dir() + "/store";
+    const QString collection = store + "/Pelvane.sqlite";
+    ProgramRun r;
     auto run = [&](const QStringList& arguments) {
-        const ProgramRun r = runProgram(dir() + "/store", arguments);
-        errors = r.errors;
-        output = r.output;
+        r = runProgram(store, arguments);
         return r.exitCode;
     };
     ASSERT_EQ(run({"--import", PELVANE_SOURCE_DIR "/samples/Pelvane-sample.csv"}), 0);
 
     const QString file = dir() + "/wheat.pdf";
     EXPECT_EQ(run({"--report", "denomination", "1 Cent Lincoln Wheat", "--pdf", file}), 0);
-    EXPECT_EQ(output.trimmed(), "wrote PDF file with multiple pages to: " + file);
+    EXPECT_EQ(r.output, "wrote PDF file with multiple pages to: " + file + "\n");
+    EXPECT_TRUE(r.errors.isEmpty()) << r.errors.toStdString();
     PdfPages wheat(file);
     ASSERT_EQ(wheat.count(), 2);
     EXPECT_TRUE(wheat.isA4(0));
-    EXPECT_TRUE(wheat.all().startsWith("Coins Filtered by Denomination: 1 Cent Lincoln Wheat"));
+    EXPECT_TRUE(wheat.all().startsWith("Coins Filtered by Denomination: 1 Cent Lincoln Wheat "
+                                       "Coin Denomination: 1 Cent Lincoln Wheat Coin Year: 1909"))
+        << wheat.all().toStdString();
     EXPECT_TRUE(wheat.inOrder({"Coin Year: 1909", "Coin Year: 1914"})) << wheat.all().toStdString();
 
     // The documents folder inside the data folder unless told otherwise.
     EXPECT_EQ(run({"--report", "year", "1909"}), 0);
-    PdfPages year(dir() + "/store/Documents/CoinListByYear.pdf");
+    PdfPages year(store + "/Documents/CoinListByYear.pdf");
     EXPECT_TRUE(year.all().startsWith("Coins Filtered by Year: 1909 Coin Denomination: "));
     EXPECT_EQ(run({"--report", "country", "Canada"}), 0);
-    EXPECT_GT(PdfPages(dir() + "/store/Documents/CoinListByCountry.pdf").count(), 0);
+    PdfPages canada(store + "/Documents/CoinListByCountry.pdf");
+    EXPECT_TRUE(canada.all().startsWith("Coins Filtered by Country: Canada Coin Denomination: "));
+    EXPECT_FALSE(canada.all().contains("Country: USA"));
+
+    // A year or a value below zero is a value, not an option; a negative quantity is reported
+    // as it stands.
+    writeFile(dir() + "/old.csv", "[PELVANE]\nRome^1 As^^^0.0^^^^^^^-1^^^0.0^0.0^0.5^0.0^-5^^\n");
+    ASSERT_EQ(run({"--import", dir() + "/old.csv"}), 0);
+    EXPECT_EQ(run({"--report", "year", "-5", "--pdf", dir() + "/rome.pdf"}), 0)
+        << r.errors.toStdString();
+    EXPECT_TRUE(PdfPages(dir() + "/rome.pdf")
+                    .inOrder({"Coins Filtered by Year: -5", "Coin Year: -5", "Quantity: -1"}));
+    EXPECT_EQ(run({"--pdf", dir() + "/as.pdf", "--report=denomination", "-1 As"}), 1);
+    EXPECT_EQ(r.errors, "No coins with the denomination -1 As in " + collection +
+                            ": nothing written to " + dir() + "/as.pdf.\n");
 
     EXPECT_EQ(run({"--report", "country", "Atlantis", "--pdf", dir() + "/none.pdf"}), 1);
-    EXPECT_FALSE(errors.isEmpty());
+    EXPECT_EQ(r.errors, "No coins with the country Atlantis in " + collection +
+                            ": nothing written to " + dir() + "/none.pdf.\n");
+    EXPECT_TRUE(r.output.isEmpty());
     EXPECT_FALSE(QFile::exists(dir() + "/none.pdf"));
     EXPECT_EQ(run({"--report", "colour", "red"}), 2);
-    EXPECT_TRUE(errors.startsWith("usage: pelvane"));
+    EXPECT_TRUE(r.errors.startsWith("usage: pelvane [--data-dir DIR] --report "
+                                    "denomination|country|year VALUE [--pdf FILE]"));
     EXPECT_EQ(run({"--report", "year", "40000"}), 2);
+    EXPECT_TRUE(r.errors.endsWith("the year must be a whole number from -32768 to 32767\n"));
     EXPECT_EQ(run({"--report", "year"}), 2);
 
-    // A file that cannot be written (its folder is a file): exit 1 and the reason. That an
-    // earlier file stays whole is the screen's test, through the same writer.
+    // --pdf belongs to a report, and a report is a command of its own.
+    EXPECT_EQ(run({"--pdf", dir() + "/lost.pdf"}), 2);
+    EXPECT_TRUE(r.errors.startsWith("pelvane: --pdf names where a --report goes, and there is no "
+                                    "--report.\nUsage: pelvane [options]"));
+    EXPECT_EQ(run({"--report", "year", "1909", "--export", dir() + "/x.csv"}), 2);
+    EXPECT_TRUE(r.errors.startsWith("pelvane: --export and --report cannot be combined."));
+    EXPECT_EQ(run({"--import", dir() + "/old.csv", "--report", "year", "1909"}), 2);
+    EXPECT_TRUE(r.errors.startsWith("pelvane: --import and --report cannot be combined."));
+    EXPECT_FALSE(QFile::exists(dir() + "/lost.pdf") || QFile::exists(dir() + "/x.csv"));
+
+    // A file that cannot be written (its folder is a file): exit 1 and the reason, naming the
+    // file. That an earlier file stays whole is the screen's test, through the same writer.
     EXPECT_EQ(run({"--report", "year", "1909", "--pdf", file + "/report.pdf"}), 1);
-    EXPECT_TRUE(output.startsWith("Could not create PDF file: ")) << output.toStdString();
+    EXPECT_TRUE(r.errors.startsWith("Cannot write " + file + "/report.pdf: "))
+        << r.errors.toStdString();
+    EXPECT_TRUE(r.output.isEmpty());
     EXPECT_EQ(PdfPages(file).texts, wheat.texts);
 }
