@@ -23,8 +23,8 @@ int main(int argc, char** argv) {
             // Qt's runtime folder too, which it otherwise warns about on every program's stderr.
             const QString runtime = scratch->filePath(QStringLiteral("runtime"));
             if (QDir().mkdir(runtime) &&
-                QFile::setPermissions(runtime, QFile::ReadOwner | QFile::WriteOwner |
-                                                   QFile::ExeOwner))
+                QFile::setPermissions(runtime,
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
                 qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime));
         }
     }

@@ -72,10 +72,15 @@ TEST_F(StoreTest, ExchangeFileCorpus) {
         }
     }
     // A line with more fields than attributes stops the import, whatever the line would do:
-    // here it matches two stored coins and would otherwise be skipped.
-    coin("Chile", "1 Peso", 1990, "So");
-    coin("Chile", "1 Peso", 1990, "So");
+    // create a coin (none matches), update one (one matches) or be skipped (two match).
+    for (const CoinPtr& c : fetch())
+        ctx().deleteObject(c);
     ASSERT_FALSE(ctx().save());
-    EXPECT_DEATH(mergeExchangeText(ctx(), corpusFile("twenty-three-fields.csv")),
-                 "ImportViewController:262: Fatal error");
+    for (int matching = 0; matching <= 2; ++matching) {
+        SCOPED_TRACE(matching);
+        EXPECT_DEATH(mergeExchangeText(ctx(), corpusFile("twenty-three-fields.csv")),
+                     "ImportViewController:262: Fatal error");
+        coin("Chile", "1 Peso", 1990, "So");
+        ASSERT_FALSE(ctx().save());
+    }
 }

@@ -25,6 +25,11 @@ TEST_F(DollarScreenTest, MainListSortsAlternatelySearchesAndCounts) {
     EXPECT_EQ(names(list->CoinList), QStringList({"Dime", "Cent", "Nickel", "Maple Leaf"}));
     EXPECT_EQ(list->CoinCount, 6);
     EXPECT_EQ(list->tableView->headerTitle(0), "# Coins = 4 of 4");
+    // Typed before any sort is chosen, a search has no key: every coin stays shown.
+    QTest::keyClicks(list->searchController, "Dime");
+    EXPECT_EQ(list->tableView->numberOfRows(0), 4);
+    EXPECT_EQ(list->tableView->headerTitle(0), "# Coins = 4 of 4");
+    list->searchController->clear();
 
     // Every fetch reads the direction and then flips it: after the load each sort shows the list
     // descending, then ascending when chosen again. Each key orders the coins differently.
