@@ -1,6 +1,6 @@
 #include "app/AppDelegate.h"
 
-#include "platform/Fatal.h"
+#include "platform/core/Fatal.h"
 
 AppDelegate::AppDelegate() {
     Application::setDelegate(this);

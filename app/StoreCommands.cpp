@@ -4,7 +4,7 @@
 #include "model/PersistentContainer.h"
 #include "model/Restore.h"
 #include "model/Snapshots.h"
-#include "platform/Console.h"
+#include "platform/core/Console.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/ViewController.h"

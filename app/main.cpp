@@ -1,12 +1,12 @@
 #include "app/AppDelegate.h"
-#include "app/CommandLine.h"
+#include "app/AppStoryboard.h"
+#include "app/LaunchOptions.h"
 #include "app/StoreCommands.h"
-#include "app/Storyboard.h"
-#include "exchange/CommandLine.h"
+#include "exchange/ExchangeCommands.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/FatalMessage.h"
 #include "platform/kit/Window.h"
-#include "screens/groups/ReportCommand.h"
+#include "reports/ReportCommand.h"
 #include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>

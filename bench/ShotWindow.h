@@ -3,8 +3,8 @@
 // fake platform services and the storyboard, the main menu at its root, shown at a width.
 #include "Settle.h"
 #include "app/AppDelegate.h"
-#include "app/CommandLine.h"
-#include "app/Storyboard.h"
+#include "app/AppStoryboard.h"
+#include "app/LaunchOptions.h"
 #include "platform/fakes/Fakes.h"
 #include "platform/kit/Window.h"
 #include "screens/menu/MainMenuViewController.h"

@@ -6,7 +6,7 @@
 #include "model/ManagedObjectContext.h"
 #include "model/PersistentContainer.h"
 #include "model/Records.h"
-#include "platform/ImageCoding.h"
+#include "platform/graphics/ImageCoding.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>

@@ -4,8 +4,8 @@
 // line.
 #include "BenchCollection.h"
 #include "app/AppDelegate.h"
-#include "app/CommandLine.h"
-#include "app/Storyboard.h"
+#include "app/AppStoryboard.h"
+#include "app/LaunchOptions.h"
 #include "platform/fakes/Fakes.h"
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/TabBarController.h"

@@ -4,11 +4,11 @@
 // Prints one figure per line.
 #include "BenchProgram.h"
 #include "ProcessMemory.h"
-#include "exchange/CommandLine.h"
+#include "exchange/ExchangeCommands.h"
 #include "exchange/ExchangeWriter.h"
-#include "exchange/ImportViewController.h"
 #include "model/ManagedObjectContext.h"
 #include "platform/kit/AlertController.h"
+#include "screens/exchange/ImportViewController.h"
 
 #include <QFile>
 #include <QProcess>

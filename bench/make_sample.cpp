@@ -4,7 +4,7 @@
 #include "model/ManagedObjectContext.h"
 #include "model/PersistentContainer.h"
 #include "model/Records.h"
-#include "platform/ImageCoding.h"
+#include "platform/graphics/ImageCoding.h"
 
 #include <QFile>
 #include <QGuiApplication>

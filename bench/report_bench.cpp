@@ -3,7 +3,6 @@
 // one, and the print screen's listing of 1,000 coins. One figure per line.
 #include "BenchProgram.h"
 #include "ProcessMemory.h"
-#include "screens/ProcessState.h"
 #include "screens/groups/DenominationBreakdownTableViewController.h"
 #include "screens/groups/PrintCoinsViewController.h"
 
@@ -31,8 +30,8 @@ void buildGroups(const QString& dir) {
 
 // Seconds from the share action to the file offered.
 double report(BenchProgram::Running& program, const char* denomination) {
-    SelectedDenomination = QString::fromLatin1(denomination);
     auto* screen = new DenominationBreakdownTableViewController;
+    screen->setGroup(QString::fromLatin1(denomination));
     program.nav()->pushViewController(screen, false);
     settle(100);
     program.fakes.shareSheet->presented.clear();
@@ -66,9 +65,8 @@ int main(int argc, char** argv) {
     print("report: pdf of 4,000 / pdf of 1,000", fourThousand / thousand, "x", "<= 4.5");
     print("report: peak memory of the 4,000-coin pdf", peakMb, "MB", "-");
 
-    SelectedDenomination = QStringLiteral("Dime");
-    CalledFromList = QStringLiteral("DenominationBreakdown");
     auto* listing = new PrintCoinsViewController;
+    listing->setGroup(CoinGroup{GroupKind::Denomination, QStringLiteral("Dime"), true});
     program.nav()->pushViewController(listing, false);
     settle(100);
     QElapsedTimer t;

@@ -6,9 +6,9 @@
 #include "model/Numbers.h"
 #include "model/PersistentContainer.h"
 #include "model/Records.h"
-#include "platform/Console.h"
-#include "platform/Fatal.h"
-#include "platform/ImageCoding.h"
+#include "platform/core/Console.h"
+#include "platform/core/Fatal.h"
+#include "platform/graphics/ImageCoding.h"
 
 #include <QStringDecoder>
 #include <QStringList>

@@ -4,9 +4,9 @@
 #include "model/ManagedObjectContext.h"
 #include "model/Numbers.h"
 #include "model/Records.h"
-#include "platform/Console.h"
-#include "platform/Fatal.h"
-#include "platform/ImageCoding.h"
+#include "platform/core/Console.h"
+#include "platform/core/Fatal.h"
+#include "platform/graphics/ImageCoding.h"
 
 #include <QHash>
 

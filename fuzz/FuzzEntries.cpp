@@ -4,8 +4,8 @@
 #include "exchange/ExchangeWriter.h"
 #include "model/Entity.h"
 #include "model/PersistentContainer.h"
-#include "platform/Fatal.h"
-#include "platform/ImageCoding.h"
+#include "platform/core/Fatal.h"
+#include "platform/graphics/ImageCoding.h"
 
 #include <QBuffer>
 #include <QByteArray>
@@ -13,10 +13,10 @@
 #include <QImageReader>
 
 #include <cstdio>
-#include <sqlite3.h>
-#include <vector>
 #include <cstdlib>
 #include <memory>
+#include <sqlite3.h>
+#include <vector>
 
 namespace FuzzEntries {
 

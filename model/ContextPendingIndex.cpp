@@ -3,7 +3,7 @@
 #include "model/ManagedObjectContext.h"
 #include "model/Records.h"
 #include "model/Sqlite.h"
-#include "platform/Fatal.h"
+#include "platform/core/Fatal.h"
 
 #include <sqlite3.h>
 

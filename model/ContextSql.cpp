@@ -1,6 +1,6 @@
 #include "model/ContextSql.h"
 
-#include "platform/Fatal.h"
+#include "platform/core/Fatal.h"
 
 #include <vector>
 

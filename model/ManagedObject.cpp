@@ -1,7 +1,7 @@
 #include "model/ManagedObject.h"
 
 #include "model/ManagedObjectContext.h"
-#include "platform/Fatal.h"
+#include "platform/core/Fatal.h"
 
 #include <QAnyStringView>
 

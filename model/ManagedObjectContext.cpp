@@ -6,7 +6,7 @@
 #include "model/ContextSql.h"
 #include "model/Records.h"
 #include "model/Sqlite.h"
-#include "platform/Fatal.h"
+#include "platform/core/Fatal.h"
 
 #include <sqlite3.h>
 

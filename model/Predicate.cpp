@@ -2,7 +2,7 @@
 
 #include "model/ManagedObject.h"
 #include "model/Numbers.h"
-#include "platform/Fatal.h"
+#include "platform/core/Fatal.h"
 
 #include <QHash>
 #include <QRegularExpression>

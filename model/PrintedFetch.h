@@ -2,7 +2,7 @@
 // How every screen fetches: a failure is printed to the console and the screen carries on with
 // what came back (nothing), never with an alert.
 #include "model/ManagedObjectContext.h"
-#include "platform/Console.h"
+#include "platform/core/Console.h"
 
 template <typename T = ManagedObject>
 QList<std::shared_ptr<T>> fetchOrPrint(ManagedObjectContext& context, const FetchRequest& request,

@@ -1,6 +1,6 @@
 #include "platform/DesktopServices.h"
 
-#include "platform/Files.h"
+#include "platform/core/Files.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Window.h"
 

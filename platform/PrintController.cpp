@@ -1,6 +1,6 @@
 #include "platform/PrintController.h"
 
-#include "platform/PageRenderer.h"
+#include "platform/graphics/PageRenderer.h"
 
 #include <QPainter>
 #include <QPrinter>

@@ -1,7 +1,7 @@
 #include "screens/Application.h"
 
-#include "platform/Console.h"
-#include "platform/Fatal.h"
+#include "platform/core/Console.h"
+#include "platform/core/Fatal.h"
 
 namespace {
 ApplicationDelegate* current = nullptr;

@@ -1,6 +1,6 @@
 #include "screens/CoinCount.h"
 
-#include "platform/Fatal.h"
+#include "platform/core/Fatal.h"
 
 namespace CoinCount {
 qint16 add(qint16 count, qint16 quantity, const char* source, int line) {

@@ -1,6 +1,6 @@
 #include "screens/CoinPictureCache.h"
 
-#include "platform/ImageCoding.h"
+#include "platform/graphics/ImageCoding.h"
 
 QImage CoinPictureCache::front(const Coins& coin) {
     if (!coin.hasValue(Coins::Attr::frontImage))

@@ -1,7 +1,7 @@
 #include "screens/ProcessState.h"
 
 #include "model/Records.h"
-#include "platform/ImageCoding.h"
+#include "platform/graphics/ImageCoding.h"
 
 QString SelectedCountry = QStringLiteral("");
 QString SelectedDenomination = QStringLiteral("");

@@ -3,7 +3,7 @@
 #include "TestSupport.h"
 #include "app/AppDelegate.h"
 #include "model/Records.h"
-#include "platform/Files.h"
+#include "platform/core/Files.h"
 #include "screens/ProcessState.h"
 
 class AppTest : public PelvaneTest {

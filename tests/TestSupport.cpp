@@ -3,8 +3,8 @@
 #include <csignal>
 #include <sys/resource.h>
 
-#include "platform/Console.h"
-#include "platform/UserDefaults.h"
+#include "platform/core/Console.h"
+#include "platform/core/UserDefaults.h"
 
 #include <QBuffer>
 #include <QCoreApplication>

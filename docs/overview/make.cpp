@@ -1,7 +1,7 @@
 // Lays the overview guide out on A4 pages:  overview_make SOURCE.md OUT.pdf
 // The source is Markdown; its pictures are PNG files named relative to it. Every picture must
 // load, or nothing is written, so a broken guide stops the build rather than shipping.
-#include "platform/PageRenderer.h"
+#include "platform/graphics/PageRenderer.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QDir>

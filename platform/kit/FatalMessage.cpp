@@ -1,6 +1,6 @@
 #include "platform/kit/FatalMessage.h"
 
-#include "platform/Fatal.h"
+#include "platform/core/Fatal.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -1,6 +1,6 @@
 #include "platform/kit/Storyboard.h"
 
-#include "platform/Fatal.h"
+#include "platform/core/Fatal.h"
 
 #include <QHash>
 

@@ -1,6 +1,6 @@
 #include "screens/entry/AddViewController.h"
 
-#include "platform/Console.h"
+#include "platform/core/Console.h"
 #include "platform/kit/AlertController.h"
 #include "screens/Application.h"
 #include "screens/ProcessState.h"

@@ -1,7 +1,7 @@
 #include "screens/entry/CoinFormRules.h"
 
 #include "model/Numbers.h"
-#include "platform/Fatal.h"
+#include "platform/core/Fatal.h"
 
 namespace CoinFormRules {
 

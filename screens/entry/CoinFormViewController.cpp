@@ -1,9 +1,9 @@
 #include "screens/entry/CoinFormViewController.h"
 #include "model/PrintedFetch.h"
 
-#include "platform/Console.h"
-#include "platform/ImageCoding.h"
 #include "platform/Platform.h"
+#include "platform/core/Console.h"
+#include "platform/graphics/ImageCoding.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/Symbols.h"

@@ -1,6 +1,6 @@
 #include "screens/feedback/ReviewService.h"
 
-#include "platform/UserDefaults.h"
+#include "platform/core/UserDefaults.h"
 
 namespace {
 const QString kLastRequest = QStringLiteral("ReviewService.lastRequest");

@@ -1,9 +1,10 @@
 // The breakdown's share and print actions: the PDF report of the coins shown, and the print
 // screen of the group.
 #include "platform/Platform.h"
+#include "reports/CoinDocument.h"
+#include "reports/GroupReport.h"
 #include "screens/TextMessageAlert.h"
 #include "screens/groups/BreakdownTableViewController.h"
-#include "screens/groups/CoinDocument.h"
 
 #include <QCoreApplication>
 #include <QFutureWatcher>
@@ -34,8 +35,7 @@ void BreakdownTableViewController::ShareCoinButtonClicked() {
     const QList<CoinPtr> coins = listInUse();
     if (coins.isEmpty() || reportRunning_)
         return;
-    CoinString = CoinDocument::report(kind_.reportTitle + kind_.titleValue(*coins.first()), coins,
-                                      width() / 6.0);
+    CoinString = GroupReport::report(*group_, coins, width() / 6.0);
     if (coins.size() < ReportInBackgroundFrom) {
         writePdf(CoinDocument::pdf(*CoinString));
         shareReport();

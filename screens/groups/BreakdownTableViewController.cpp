@@ -1,16 +1,17 @@
 #include "screens/groups/BreakdownTableViewController.h"
 
 #include "model/PrintedFetch.h"
-#include "platform/Files.h"
+#include "platform/core/Files.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/Views.h"
+#include "reports/Currency.h"
+#include "reports/GroupReport.h"
 #include "screens/Application.h"
-#include "screens/Currency.h"
 #include "screens/DetailReceiver.h"
 #include "screens/ProcessState.h"
-#include "screens/groups/CoinDocument.h"
 #include "screens/groups/CountryBreakdownTableViewController.h"
 #include "screens/groups/DenominationBreakdownTableViewController.h"
+#include "screens/groups/PrintCoinsViewController.h"
 #include "screens/groups/YearBreakdownTableViewController.h"
 
 #include <QScopeGuard>
@@ -37,37 +38,15 @@ QString money(const Coins& c) {
 QString total(const Coins& c) {
     return Currency::text(double(c.quantity()) * double(c.value()));
 }
-QString denominationText(const Coins& c) {
-    return c.denomination();
-}
-QString countryText(const Coins& c) {
-    return c.country();
-}
-using A = Coins::Attr;
-void denominationLine(CoinDocument& d, const Coins& c) {
-    d.appendLine(QStringLiteral("Denomination: "), c, A::denomination);
-}
-void descriptionLine(CoinDocument& d, const Coins& c) {
-    d.appendLine(QStringLiteral("Description: "), c, A::descrip);
-}
-void countryLine(CoinDocument& d, const Coins& c) {
-    d.appendLine(QStringLiteral("Country: "), c, A::country);
-}
-void gradeLine(CoinDocument& d, const Coins& c) {
-    d.appendLine(QStringLiteral("Grade #: "), c, A::gradeNumber);
-}
 } // namespace
 
 // The differences among the three breakdown screens, side by side.
 using Kind = BreakdownTableViewController::Kind;
 const Kind& Kind::denomination() {
     static const Kind k{
+        .group = GroupKind::Denomination,
         .title = "Denomination",
         .searchPlaceholder = "Sort and Search By Year",
-        .predicate = "denomination == %@",
-        .groupValue = [] { return SelectedDenomination; },
-        .firstSortKey = "denomination",
-        .secondSortKey = "year",
         .searchText = yearText,
         .searchIgnoresCase = false,
         .sortsBefore = byYear,
@@ -76,15 +55,6 @@ const Kind& Kind::denomination() {
         .label4 = [](const Coins& c) { return money(c) + " Total Value: " + total(c); },
         .calledFromList = "DenominationBreakdown",
         .unwind = "unwindToDenominationTableView",
-        .pdfFileName = "CoinListByDenomination.pdf",
-        .reportTitle = "Coins Filtered by Denomination: ",
-        .titleValue = denominationText,
-        .listingLines =
-            [](CoinDocument& d, const Coins& c) {
-                denominationLine(d, c);
-                descriptionLine(d, c);
-                countryLine(d, c);
-            },
         .makeCell = []() -> BreakdownTableViewCell* {
             return new DenominationBreakdownTableViewCell;
         }};
@@ -92,12 +62,9 @@ const Kind& Kind::denomination() {
 }
 const Kind& Kind::country() {
     static const Kind k{
+        .group = GroupKind::Country,
         .title = "Country",
         .searchPlaceholder = "Sort and Search By Denomination",
-        .predicate = "country == %@",
-        .groupValue = [] { return SelectedCountry; },
-        .firstSortKey = "denomination",
-        .secondSortKey = "year",
         .searchText = lowerDenomination,
         .searchIgnoresCase = true,
         .sortsBefore = byDenomination,
@@ -109,27 +76,14 @@ const Kind& Kind::country() {
         .label4 = [](const Coins& c) { return money(c) + " Total Value: " + total(c); },
         .calledFromList = "CountryBreakdown",
         .unwind = "unwindToCountryTableView",
-        .pdfFileName = "CoinListByCountry.pdf",
-        .reportTitle = "Coins Filtered by Country: ",
-        .titleValue = countryText,
-        .listingLines =
-            [](CoinDocument& d, const Coins& c) {
-                countryLine(d, c);
-                denominationLine(d, c);
-                descriptionLine(d, c);
-                gradeLine(d, c);
-            },
         .makeCell = []() -> BreakdownTableViewCell* { return new CountryBreakdownTableViewCell; }};
     return k;
 }
 const Kind& Kind::year() {
     static const Kind k{
+        .group = GroupKind::Year,
         .title = "Year",
         .searchPlaceholder = "Search By Denomination",
-        .predicate = "year == %@",
-        .groupValue = [] { return QString::number(SelectedYear); },
-        .firstSortKey = "year",
-        .secondSortKey = "denomination",
         .searchText = lowerDenomination,
         .searchIgnoresCase = true,
         .sortsBefore = byYear, // every row has the same year, so the rows keep their order
@@ -139,34 +93,8 @@ const Kind& Kind::year() {
         .label4 = [](const Coins& c) { return "Value: " + money(c) + " Total Value: " + total(c); },
         .calledFromList = "YearBreakdown",
         .unwind = "unwindToYearTableView",
-        .pdfFileName = "CoinListByYear.pdf",
-        .reportTitle = "Coins Filtered by Year: ",
-        .titleValue = yearText,
-        .listingLines =
-            [](CoinDocument& d, const Coins& c) {
-                d.appendLine(QStringLiteral("Year: "), yearText(c));
-                denominationLine(d, c);
-                descriptionLine(d, c);
-                countryLine(d, c);
-                gradeLine(d, c);
-            },
         .makeCell = []() -> BreakdownTableViewCell* { return new YearBreakdownTableViewCell; }};
     return k;
-}
-
-const Kind* Kind::forOrigin(const QString& calledFromList) {
-    for (const Kind* k : {&denomination(), &country(), &year()})
-        if (k->calledFromList == calledFromList)
-            return k;
-    return nullptr;
-}
-
-FetchRequest Kind::fetchRequest(const QString& groupValue, bool ascending) const {
-    FetchRequest request(QStringLiteral("Coins"));
-    request.returnsObjectsAsFaults = false;
-    request.predicate = Predicate::format(predicate, groupValue);
-    request.sortDescriptors = {{firstSortKey, ascending}, {secondSortKey, ascending}};
-    return request;
 }
 
 BreakdownTableViewCell::BreakdownTableViewCell(QWidget* parent)
@@ -181,7 +109,8 @@ BreakdownTableViewController::BreakdownTableViewController(const Kind& kind, QWi
     : ViewController(parent)
     , searchController(new SearchController(this))
     , tableView(new TableView(this))
-    , outputFileURL(QUrl::fromLocalFile(Files::documentsDirectory() + kind.pdfFileName))
+    , outputFileURL(QUrl::fromLocalFile(Files::documentsDirectory() +
+                                        GroupReport::of(kind.group).pdfFileName))
     , ProgressView_(new ProgressView(this))
     , kind_(kind) {
     auto* layout = new QVBoxLayout(this);
@@ -219,9 +148,11 @@ void BreakdownTableViewController::load() {
     value = 0;
     CoinCount = 0;
     searchKeysAt_.reset();
-    const FetchRequest request = kind_.fetchRequest(kind_.groupValue(), SortAsc.value_or(true));
-    // A failed fetch leaves the list empty.
-    CoinList = fetchOrPrint<Coins>(*context, request);
+    // A failed fetch leaves the list empty, as does a screen that was handed no group.
+    if (group_) {
+        group_->ascending = SortAsc.value_or(true);
+        CoinList = fetchOrPrint<Coins>(*context, GroupReport::listRequest(*group_));
+    }
     for (const CoinPtr& coin : std::as_const(CoinList)) {
         value += coin->value() * float(coin->quantity());
         CoinCount += coin->quantity();
@@ -338,8 +269,18 @@ void BreakdownTableViewController::didSelectRow(TableView* table, IndexPath path
         performSegue(QStringLiteral("Grouped"), this);
 }
 
+void BreakdownTableViewController::setGroup(const QString& value) {
+    group_ = CoinGroup{kind_.group, value, SortAsc.value_or(true)};
+}
+
 void BreakdownTableViewController::prepareForSegue(StoryboardSegue& segue, QObject*) {
     CalledFromList = kind_.calledFromList;
+    // The print screen lists the group in the direction last chosen on a group screen.
+    if (auto* print = dynamic_cast<PrintCoinsViewController*>(segue.destination)) {
+        if (group_)
+            print->setGroup(CoinGroup{group_->kind, group_->value, SortAscending});
+        return;
+    }
     if (segue.identifier != QLatin1String("Grouped") || !selectedRow_)
         return;
     const QList<CoinPtr>& list = listInUse();

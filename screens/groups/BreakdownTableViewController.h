@@ -3,11 +3,11 @@
 // number and total value, search, sort, swipe delete and the way into the edit screen. One
 // implementation; the three screens differ only by their Kind (BreakdownTableViewController.cpp
 // holds the three side by side).
-#include "model/Predicate.h"
 #include "model/Records.h"
 #include "platform/kit/SearchController.h"
 #include "platform/kit/TableView.h"
 #include "platform/kit/ViewController.h"
+#include "reports/CoinGroup.h"
 #include "screens/CoinPictureCache.h"
 #include "screens/CoinRowCell.h"
 
@@ -15,7 +15,6 @@
 #include <memory>
 #include <optional>
 
-class CoinDocument;
 class ProgressView;
 class QTextDocument;
 
@@ -30,13 +29,12 @@ public:
 class BreakdownTableViewController : public ViewController, public TableViewDataSource {
     Q_OBJECT
 public:
-    // What differs between the three breakdown screens.
+    // What differs between the three breakdown screens; what their reports hold is the
+    // GroupReport of their kind of group.
     struct Kind {
+        GroupKind group;
         QString title;
         QString searchPlaceholder;
-        QString predicate;       // the fetch's predicate format
-        QString (*groupValue)(); // its argument: the value chosen on the group screen
-        QString firstSortKey, secondSortKey;
         QString (*searchText)(const Coins&); // what a search looks in
         bool searchIgnoresCase;
         // The order of the filtered rows when the sort button is tapped during a search.
@@ -46,28 +44,21 @@ public:
         QString (*label4)(const Coins&);
         QString calledFromList; // the origin marker the edit screen returns by
         QString unwind;         // the unwind segue back here
-        QString pdfFileName;
-        // The title of the report and of the print listing: this text and the first coin's
-        // value.
-        QString reportTitle;
-        QString (*titleValue)(const Coins&);
-        // The lines of a coin in the print listing, before its summary line.
-        void (*listingLines)(CoinDocument&, const Coins&);
         BreakdownTableViewCell* (*makeCell)();
 
         static const Kind& denomination();
         static const Kind& country();
         static const Kind& year();
-        // The screen an origin marker names; none for another marker.
-        static const Kind* forOrigin(const QString& calledFromList);
-        // The screen's fetch of a group value, in its sort order.
-        FetchRequest fetchRequest(const QString& groupValue, bool ascending) const;
     };
     // From this many coins on, the report is drawn beside the screen, with its progress shown.
     static constexpr int ReportInBackgroundFrom = 300;
 
     explicit BreakdownTableViewController(const Kind& kind, QWidget* parent = nullptr);
     const Kind& kind() const { return kind_; }
+    // The group to list, handed over by the group screen before the list loads. Without one
+    // the list stays empty.
+    void setGroup(const QString& value);
+    const std::optional<CoinGroup>& group() const { return group_; }
 
     void viewDidLoad() override;
     void prepareForSegue(StoryboardSegue& segue, QObject* sender) override;
@@ -118,6 +109,7 @@ private:
     bool reportRunning_ = false;
 
     const Kind& kind_;
+    std::optional<CoinGroup> group_;
     std::optional<int> selectedRow_;
     CoinPictureCache pictures_;
     void prepareSearch();

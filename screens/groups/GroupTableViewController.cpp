@@ -1,10 +1,11 @@
 #include "screens/groups/GroupTableViewController.h"
 
-#include "platform/Console.h"
-#include "platform/Fatal.h"
+#include "platform/core/Console.h"
+#include "platform/core/Fatal.h"
 #include "platform/kit/Appearance.h"
 #include "screens/Application.h"
 #include "screens/ProcessState.h"
+#include "screens/groups/BreakdownTableViewController.h"
 #include "screens/groups/CountryGroupTableViewController.h"
 #include "screens/groups/DenominationGroupTableViewController.h"
 #include "screens/groups/YearGroupTableViewController.h"
@@ -24,6 +25,7 @@ const Kind& Kind::denomination() {
         .pluralHeader = " Denominations",
         .singularHeader = " Denomination",
         .select = [](const QString& v) { SelectedDenomination = v; },
+        .groupValue = [](const QString& v) { return v; },
         .breakdownSegue = "showDenominationBreakdown",
         .makeCell = []() -> GroupTableViewCell* { return new DenominationgroupTableViewCell; }};
     return k;
@@ -35,6 +37,7 @@ const Kind& Kind::country() {
         .pluralHeader = " Countries",
         .singularHeader = " Country",
         .select = [](const QString& v) { SelectedCountry = v; },
+        .groupValue = [](const QString& v) { return v; },
         .breakdownSegue = "showCountryBreakdown",
         .makeCell = []() -> GroupTableViewCell* { return new CountryGroupTableViewCell; }};
     return k;
@@ -45,6 +48,8 @@ const Kind& Kind::year() {
                         .pluralHeader = " Years",
                         .singularHeader = " Year",
                         .select = [](const QString& v) { SelectedYear = v.toShort(); },
+                        // as the 16-bit year stored above reads back
+                        .groupValue = [](const QString& v) { return QString::number(v.toShort()); },
                         .breakdownSegue = "showYearBreakdown",
                         .makeCell = []() -> GroupTableViewCell* { return new YearTableViewCell; }};
     return k;
@@ -224,9 +229,14 @@ TableViewCell* GroupTableViewController::cellForRow(TableView* table, IndexPath 
     return cell;
 }
 
+void GroupTableViewController::prepareForSegue(StoryboardSegue& segue, QObject*) {
+    if (auto* breakdown = dynamic_cast<BreakdownTableViewController*>(segue.destination))
+        breakdown->setGroup(kind_.groupValue(tapped_));
+}
+
 void GroupTableViewController::didSelectRow(TableView* table, IndexPath path) {
-    // Stored before the breakdown screen loads, which reads it.
-    kind_.select(listInUse().at(path.row));
+    tapped_ = listInUse().at(path.row);
+    kind_.select(tapped_);
     table->deselectRow(path);
     if (Storyboard::hasSegue(kind_.breakdownSegue))
         performSegue(kind_.breakdownSegue, this);

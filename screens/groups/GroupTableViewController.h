@@ -31,7 +31,9 @@ public:
         QString countPredicate;         // counts the records of one value; names the grouping
         QString pluralHeader;           // after n when n is not 0
         QString singularHeader;         // after 0
-        void (*select)(const QString&); // stores the tapped value for the breakdown screen
+        void (*select)(const QString&); // stores the tapped value where the screens read it
+        // The group value the breakdown screen is handed for a tapped value.
+        QString (*groupValue)(const QString& tapped);
         QString breakdownSegue;
         GroupTableViewCell* (*makeCell)();
 
@@ -44,6 +46,8 @@ public:
     const Kind& kind() const { return kind_; }
 
     void viewDidLoad() override;
+    // Hands the tapped value to the breakdown screen.
+    void prepareForSegue(StoryboardSegue& segue, QObject* sender) override;
 
     // Adds the values not yet listed (the list is never emptied here) and sorts the list in
     // the direction of SortAsc.
@@ -74,6 +78,7 @@ public:
     bool DarkMode = false;
 
 private:
+    QString tapped_;
     bool searching() const { return !searchController->text().isEmpty(); }
     const QStringList& listInUse() const { return searching() ? FilteredValueList : ValueList; }
     static void sortInDirection(QStringList& list, bool ascending);

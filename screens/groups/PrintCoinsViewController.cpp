@@ -1,19 +1,16 @@
 #include "screens/groups/PrintCoinsViewController.h"
 
 #include "model/PrintedFetch.h"
-#include "platform/Console.h"
 #include "platform/Platform.h"
+#include "platform/core/Console.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
+#include "reports/GroupReport.h"
 #include "screens/Application.h"
 #include "screens/ProcessState.h"
-#include "screens/groups/BreakdownTableViewController.h"
-#include "screens/groups/CoinDocument.h"
 
 #include <QTextDocument>
 #include <QVBoxLayout>
-
-using Kind = BreakdownTableViewController::Kind;
 
 PrintCoinsViewController::PrintCoinsViewController(QWidget* parent)
     : ViewController(parent)
@@ -50,29 +47,22 @@ void PrintCoinsViewController::fetch() {
     FileTextView->clear();
     CoinString = nullptr;
     CoinList.clear();
-    // Another origin fetches nothing.
-    const Kind* kind = Kind::forOrigin(CalledFromList);
-    if (!kind)
+    // Opened from anywhere but a breakdown list, it fetches nothing.
+    if (!group_)
         return;
-    FetchRequest request(QStringLiteral("Coins"));
-    request.returnsObjectsAsFaults = false;
-    request.predicate = Predicate::format(kind->predicate, kind->groupValue());
-    // The direction last chosen on a group screen, not the breakdown list's own.
-    request.sortDescriptors = {{QStringLiteral("denomination"), SortAscending}};
-    CoinList = fetchOrPrint<Coins>(*managedObjectContext, request);
+    // In the direction last chosen on a group screen, which the group carries, not the
+    // breakdown list's own.
+    CoinList = fetchOrPrint<Coins>(*managedObjectContext, GroupReport::listingRequest(*group_));
 }
 
 void PrintCoinsViewController::CreateFileClick() {
-    const Kind* kind = Kind::forOrigin(CalledFromList);
-    if (CoinList.isEmpty() || !kind) {
+    if (CoinList.isEmpty() || !group_) {
         PrintButton->hide();
         present(AlertController::okAlert(QStringLiteral("Empty Data Set!"),
                                          QStringLiteral("No Coins to Print!")));
         return;
     }
-    std::unique_ptr<QTextDocument> listing =
-        CoinDocument::listing(kind->reportTitle + kind->titleValue(*CoinList.first()), CoinList,
-                              kind->listingLines, width() / 6.0);
+    std::unique_ptr<QTextDocument> listing = GroupReport::listing(*group_, CoinList, width() / 6.0);
     CoinString = listing.get();
     FileTextView->setAttributedText(std::move(listing));
 }

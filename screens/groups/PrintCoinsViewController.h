@@ -4,9 +4,11 @@
 #include "model/Records.h"
 #include "platform/kit/StyledTextView.h"
 #include "platform/kit/ViewController.h"
+#include "reports/CoinGroup.h"
 
 #include <QPushButton>
 #include <memory>
+#include <optional>
 
 class PrintCoinsViewController : public ViewController {
     Q_OBJECT
@@ -14,6 +16,10 @@ public:
     explicit PrintCoinsViewController(QWidget* parent = nullptr);
     void viewDidLoad() override;
     void viewDidDisappear(bool animated) override;
+    // The group to list, handed over by the breakdown list before the screen loads. Without one
+    // nothing is fetched.
+    void setGroup(const CoinGroup& group) { group_ = group; }
+    const std::optional<CoinGroup>& group() const { return group_; }
 
     // Builds the listing into the text view.
     void CreateFileClick();
@@ -29,4 +35,5 @@ public:
 
 private:
     void fetch();
+    std::optional<CoinGroup> group_;
 };

@@ -1,8 +1,8 @@
 #include "screens/list/MainListSorting.h"
 
 #include "model/Numbers.h"
-#include "platform/Fatal.h"
-#include "screens/Currency.h"
+#include "platform/core/Fatal.h"
+#include "reports/Currency.h"
 
 namespace MainListSorting {
 

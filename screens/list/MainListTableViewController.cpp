@@ -1,9 +1,9 @@
 #include "screens/list/MainListTableViewController.h"
 #include "model/PrintedFetch.h"
 
-#include "platform/Console.h"
-#include "platform/Fatal.h"
-#include "platform/ImageCoding.h"
+#include "platform/core/Console.h"
+#include "platform/core/Fatal.h"
+#include "platform/graphics/ImageCoding.h"
 #include "platform/kit/Appearance.h"
 #include "screens/Application.h"
 #include "screens/CoinCount.h"

@@ -1,9 +1,9 @@
 #include "screens/menu/LaunchHousekeeping.h"
 #include "model/PrintedFetch.h"
 
-#include "platform/Console.h"
-#include "platform/Fatal.h"
-#include "platform/UserDefaults.h"
+#include "platform/core/Console.h"
+#include "platform/core/Fatal.h"
+#include "platform/core/UserDefaults.h"
 #include "screens/Application.h"
 
 // "RY" stands before "RFY" on purpose, as collectors list them.

@@ -1,6 +1,6 @@
 #include "screens/menu/MainMenuViewController.h"
 
-#include "platform/UserDefaults.h"
+#include "platform/core/UserDefaults.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/NavigationController.h"
 #include "screens/ProcessState.h"

@@ -2,7 +2,7 @@
 
 #include "model/ManagedObjectContext.h"
 #include "model/PrintedFetch.h"
-#include "platform/Fatal.h"
+#include "platform/core/Fatal.h"
 #include "platform/kit/AlertController.h"
 #include "screens/Application.h"
 #include "screens/entry/CoinFormRules.h"

@@ -2,8 +2,8 @@
 
 #include "model/ManagedObjectContext.h"
 #include "model/PrintedFetch.h"
-#include "platform/Console.h"
-#include "platform/Fatal.h"
+#include "platform/core/Console.h"
+#include "platform/core/Fatal.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/TextTableViewCell.h"
 #include "screens/Application.h"

@@ -1,7 +1,7 @@
 #include "screens/reference/ReferenceValueViewController.h"
 
 #include "model/ManagedObjectContext.h"
-#include "platform/Console.h"
+#include "platform/core/Console.h"
 #include "platform/kit/Appearance.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "AppFixture.h"
-#include "platform/Console.h"
-#include "platform/UserDefaults.h"
+#include "platform/core/Console.h"
+#include "platform/core/UserDefaults.h"
 #include "screens/menu/LaunchHousekeeping.h"
 
 #include <QDir>

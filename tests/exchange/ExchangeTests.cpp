@@ -1,8 +1,8 @@
 #include "StoreFixture.h"
-#include "exchange/CommandLine.h"
+#include "exchange/ExchangeCommands.h"
 #include "exchange/ExchangeReader.h"
 #include "exchange/ExchangeWriter.h"
-#include "platform/ImageCoding.h"
+#include "platform/graphics/ImageCoding.h"
 
 #include <QPainter>
 

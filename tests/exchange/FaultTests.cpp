@@ -1,8 +1,8 @@
 #include "StoreFixture.h"
 #include "exchange/ExchangeReader.h"
 #include "exchange/ExchangeWriter.h"
-#include "platform/Fatal.h"
-#include "platform/Files.h"
+#include "platform/core/Fatal.h"
+#include "platform/core/Files.h"
 
 #include <QDir>
 #include <QElapsedTimer>

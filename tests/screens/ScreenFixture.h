@@ -1,9 +1,9 @@
 #pragma once
 // A running program on the offscreen platform: delegate, storyboard, fakes, menu in a window.
 #include "AppFixture.h"
-#include "app/Storyboard.h"
-#include "platform/ImageCoding.h"
+#include "app/AppStoryboard.h"
 #include "platform/fakes/Fakes.h"
+#include "platform/graphics/ImageCoding.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/Window.h"

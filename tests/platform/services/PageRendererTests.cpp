@@ -1,6 +1,6 @@
 #include "PdfPages.h"
 #include "TestSupport.h"
-#include "platform/PageRenderer.h"
+#include "platform/graphics/PageRenderer.h"
 
 #include <QImage>
 #include <QPainter>

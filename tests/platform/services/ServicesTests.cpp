@@ -1,8 +1,8 @@
 #include "TestSupport.h"
 #include "platform/DesktopServices.h"
-#include "platform/Files.h"
-#include "platform/ImageCoding.h"
+#include "platform/core/Files.h"
 #include "platform/fakes/Fakes.h"
+#include "platform/graphics/ImageCoding.h"
 
 #include <QBuffer>
 #include <QColorSpace>

@@ -1,6 +1,6 @@
 #include "../ScreenFixture.h"
 #include "exchange/ExchangeReader.h"
-#include "platform/ImageCoding.h"
+#include "platform/graphics/ImageCoding.h"
 #include "screens/entry/AddViewController.h"
 #include "screens/entry/EditViewController.h"
 #include "screens/entry/NotesViewController.h"

@@ -1,11 +1,11 @@
 #include "../ScreenFixture.h"
 #include "exchange/ExchangeReader.h"
 #include "exchange/ExchangeWriter.h"
-#include "exchange/ExportViewController.h"
-#include "exchange/ImportExportViewController.h"
-#include "exchange/ImportViewController.h"
 #include "model/Backup.h"
 #include "platform/kit/Views.h"
+#include "screens/exchange/ExportViewController.h"
+#include "screens/exchange/ImportExportViewController.h"
+#include "screens/exchange/ImportViewController.h"
 
 #include <QDate>
 #include <QDir>

@@ -1,5 +1,5 @@
 #include "TestSupport.h"
-#include "platform/UserDefaults.h"
+#include "platform/core/UserDefaults.h"
 #include "screens/feedback/ReviewService.h"
 
 TEST_F(PelvaneTest, ReviewIsAskedAtMostOnceInSevenDays) {

@@ -126,6 +126,12 @@ TEST_P(BreakdownScreenTest, ShowsTotalsRowsSearchAndSort) {
     EXPECT_EQ(rowNames(b->CoinList), k.rows); // the whole group keeps its order
 
     b->searchController->clear();
+    // The group was handed over when the screen opened: the values the group screen also
+    // stores for others are not read again.
+    ASSERT_TRUE(b->group().has_value());
+    EXPECT_EQ(b->group()->value, k.groupValue);
+    SelectedDenomination = SelectedCountry = "elsewhere";
+    SelectedYear = 1066;
     barButton(b, "SortButton")->click(); // ascending again, by a new fetch
     EXPECT_EQ(shown(b), k.rows);
     barButton(b, "SortButton")->click();
@@ -137,6 +143,9 @@ TEST_P(BreakdownScreenTest, ShowsTotalsRowsSearchAndSort) {
     auto* print = dynamic_cast<PrintCoinsViewController*>(tabs->tab(k.tab)->topViewController());
     ASSERT_NE(print, nullptr);
     EXPECT_EQ(CalledFromList, k.origin);
+    ASSERT_TRUE(print->group().has_value());
+    EXPECT_EQ(print->group()->value, k.groupValue);
+    EXPECT_EQ(print->group()->ascending, SortAscending);
     QStringList printed = rowNames(print->CoinList);
     printed.sort();
     QStringList group = k.rows;

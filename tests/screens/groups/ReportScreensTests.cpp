@@ -2,11 +2,11 @@
 // they write.
 #include "GroupsFixture.h"
 #include "PdfPages.h"
-#include "platform/Console.h"
-#include "platform/ImageCoding.h"
+#include "platform/core/Console.h"
+#include "platform/graphics/ImageCoding.h"
 #include "platform/kit/Views.h"
+#include "reports/CoinDocument.h"
 #include "screens/ProcessState.h"
-#include "screens/groups/CoinDocument.h"
 #include "screens/groups/PrintCoinsViewController.h"
 
 #include <QDir>

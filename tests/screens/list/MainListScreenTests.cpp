@@ -1,5 +1,5 @@
 #include "../ScreenFixture.h"
-#include "platform/Console.h"
+#include "platform/core/Console.h"
 #include "screens/entry/EditViewController.h"
 #include "screens/list/MainListTableViewCell.h"
 #include "screens/list/MainListTableViewController.h"

@@ -1,6 +1,6 @@
 #include "AppFixture.h"
-#include "app/Storyboard.h"
-#include "platform/Console.h"
+#include "app/AppStoryboard.h"
+#include "platform/core/Console.h"
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/TabBarController.h"
 #include "platform/kit/Window.h"

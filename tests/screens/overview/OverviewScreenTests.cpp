@@ -1,7 +1,7 @@
 #include "../ScreenFixture.h"
 #include "PdfPages.h"
-#include "exchange/ImportExportViewController.h"
 #include "platform/PdfViewer.h"
+#include "screens/exchange/ImportExportViewController.h"
 #include "screens/overview/OverviewViewController.h"
 
 #include <QLabel>

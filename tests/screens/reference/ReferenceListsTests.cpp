@@ -1,7 +1,7 @@
 // The three reference lists through their table of differences: the same checks over the grade,
 // strike character and edge rows, with the texts as the lists are meant to show them.
 #include "../ScreenFixture.h"
-#include "platform/Console.h"
+#include "platform/core/Console.h"
 #include "platform/kit/TextTableViewCell.h"
 #include "screens/entry/AddViewController.h"
 #include "screens/reference/ReferenceListScreens.h"

@@ -1,9 +1,9 @@
-#include "exchange/ImportExportViewController.h"
+#include "screens/exchange/ImportExportViewController.h"
 
 #include "model/Backup.h"
 #include "model/PersistentContainer.h"
-#include "platform/Files.h"
 #include "platform/Platform.h"
+#include "platform/core/Files.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/NavigationController.h"

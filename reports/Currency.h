@@ -1,5 +1,5 @@
 #pragma once
-// Money on screen, in the currency style of the user's locale.
+// Money as the screens and the reports show it, in the currency style of the user's locale.
 #include <QString>
 
 namespace Currency {

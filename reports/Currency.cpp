@@ -1,4 +1,4 @@
-#include "screens/Currency.h"
+#include "reports/Currency.h"
 
 #include <QLocale>
 

@@ -1,4 +1,4 @@
-#include "platform/ImageCoding.h"
+#include "platform/graphics/ImageCoding.h"
 
 #include <QBuffer>
 #include <QImageReader>

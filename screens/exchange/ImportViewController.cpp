@@ -1,9 +1,9 @@
-#include "exchange/ImportViewController.h"
+#include "screens/exchange/ImportViewController.h"
 
 #include "exchange/ExchangeReader.h"
-#include "platform/Console.h"
-#include "platform/Files.h"
 #include "platform/Platform.h"
+#include "platform/core/Console.h"
+#include "platform/core/Files.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/Views.h"

@@ -1,4 +1,4 @@
-#include "platform/Fatal.h"
+#include "platform/core/Fatal.h"
 
 #include <cstdio>
 #include <cstdlib>

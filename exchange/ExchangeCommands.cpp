@@ -1,10 +1,10 @@
-#include "exchange/CommandLine.h"
+#include "exchange/ExchangeCommands.h"
 
 #include "exchange/ExchangeReader.h"
 #include "exchange/ExchangeWriter.h"
 #include "model/ManagedObjectContext.h"
 #include "model/PersistentContainer.h"
-#include "platform/Files.h"
+#include "platform/core/Files.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "platform/PageRenderer.h"
+#include "platform/graphics/PageRenderer.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>

@@ -1,35 +1,23 @@
-#include "screens/groups/ReportCommand.h"
+#include "reports/ReportCommand.h"
 
 #include "model/ManagedObjectContext.h"
 #include "model/Numbers.h"
-#include "platform/Files.h"
-#include "screens/groups/BreakdownTableViewController.h"
-#include "screens/groups/CoinDocument.h"
+#include "platform/core/Files.h"
+#include "reports/CoinDocument.h"
+#include "reports/GroupReport.h"
 
 #include <QTextDocument>
 
 #include <cstdio>
 
 namespace {
-using Kind = BreakdownTableViewController::Kind;
-
 // The breakdown list's width in the window as the program opens it.
 constexpr qreal kScreenWidth = 390;
-
-const Kind* kindNamed(const QString& name) {
-    if (name == QLatin1String("denomination"))
-        return &Kind::denomination();
-    if (name == QLatin1String("country"))
-        return &Kind::country();
-    if (name == QLatin1String("year"))
-        return &Kind::year();
-    return nullptr;
-}
 } // namespace
 
 namespace ReportCommand {
 QString check(const QStringList& arguments) {
-    if (arguments.size() != 2 || !kindNamed(arguments[0]))
+    if (arguments.size() != 2 || !GroupReport::named(arguments[0]))
         return Usage;
     if (arguments[0] == QLatin1String("year") && !Numbers::parseInt16(arguments[1]))
         return Usage + QStringLiteral("\nthe year must be a whole number from -32768 to 32767");
@@ -42,12 +30,13 @@ int run(ManagedObjectContext& context, const QString& collection, const QStringL
         std::fprintf(stderr, "%s\n", qPrintable(wrong));
         return 2;
     }
-    const Kind& kind = *kindNamed(arguments[0]);
-    QString value = arguments[1];
-    if (&kind == &Kind::year())
-        value = QString::number(*Numbers::parseInt16(value));
+    const GroupReport& report = *GroupReport::named(arguments[0]);
+    // As the breakdown list opens: ascending.
+    CoinGroup group{report.kind, arguments[1], true};
+    if (group.kind == GroupKind::Year)
+        group.value = QString::number(*Numbers::parseInt16(group.value));
     const QString path =
-        pdfFile.isEmpty() ? Files::documentsDirectory() + kind.pdfFileName : pdfFile;
+        pdfFile.isEmpty() ? Files::documentsDirectory() + report.pdfFileName : pdfFile;
     if (QString why; !Files::isWritableTarget(path, &why)) {
         std::fprintf(stderr, "Cannot write %s: %s\n", qPrintable(path), qPrintable(why));
         return 1;
@@ -61,7 +50,7 @@ int run(ManagedObjectContext& context, const QString& collection, const QStringL
     };
     context.takeReadError();
     StoreError failure;
-    const QList<CoinPtr> coins = context.fetch<Coins>(kind.fetchRequest(value, true), &failure);
+    const QList<CoinPtr> coins = context.fetch<Coins>(GroupReport::listRequest(group), &failure);
     if (failure.code != 0)
         return unreadable(failure);
     if (coins.isEmpty()) {
@@ -70,8 +59,7 @@ int run(ManagedObjectContext& context, const QString& collection, const QStringL
                      qPrintable(path));
         return 1;
     }
-    const auto document = CoinDocument::report(kind.reportTitle + kind.titleValue(*coins.first()),
-                                               coins, kScreenWidth / 6);
+    const auto document = GroupReport::report(group, coins, kScreenWidth / 6);
     if (auto error = context.takeReadError())
         return unreadable(*error);
     // Said as the breakdown's share button says it, but a failure goes to stderr.

@@ -1,8 +1,8 @@
-#include "app/CommandLine.h"
+#include "app/LaunchOptions.h"
 
 #include "model/PersistentContainer.h"
-#include "platform/Files.h"
-#include "platform/UserDefaults.h"
+#include "platform/core/Files.h"
+#include "platform/core/UserDefaults.h"
 
 #include <QCommandLineParser>
 #include <QDir>

@@ -1,11 +1,11 @@
-#include "screens/groups/CoinDocument.h"
+#include "reports/CoinDocument.h"
 
 #include "model/Numbers.h"
-#include "platform/Console.h"
-#include "platform/Files.h"
-#include "platform/ImageCoding.h"
-#include "platform/PageRenderer.h"
-#include "screens/Currency.h"
+#include "platform/core/Console.h"
+#include "platform/core/Files.h"
+#include "platform/graphics/ImageCoding.h"
+#include "platform/graphics/PageRenderer.h"
+#include "reports/Currency.h"
 
 #include <QTextBlockFormat>
 #include <QTextDocument>
