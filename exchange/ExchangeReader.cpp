@@ -14,18 +14,25 @@
 #include <QStringList>
 #include <QVarLengthArray>
 
+#include <array>
 #include <utility>
+#include <vector>
 
 namespace Exchange {
 
 namespace {
 
-// Field position -> attribute; position 21 never occurs in a file this program writes.
-const QStringList kAttributes = {
-    "country",      "denomination",    "descrip",   "designer",   "diameter", "edge",
-    "gradeNumber",  "mintLocation",    "mintMark",  "notes",      "period",   "quantity",
-    "serialNumber", "strikeCharacter", "thickness", "totalValue", "value",    "weight",
-    "year",         "frontImage",      "backImage", "id"};
+// The import's four key conditions ("country == %@", ...), in the order of their index.
+const std::array<QString, CoinAttributes::importKeyCount>& keyFormats() {
+    static const auto formats = [] {
+        std::array<QString, CoinAttributes::importKeyCount> f;
+        for (int k = 0; k < CoinAttributes::importKeyCount; ++k)
+            f[std::size_t(k)] =
+                QLatin1String(CoinAttributes::importKey(k).name) + QLatin1String(" == %@");
+        return f;
+    }();
+    return formats;
+}
 
 // The fields of one line as views of its bytes; "^" is ASCII, so no character is ever cut.
 using Fields = QVarLengthArray<QByteArrayView, 24>;
@@ -48,7 +55,7 @@ QString fieldText(const Fields& fields, qsizetype position) {
 // invalid QVariant with *parsed false when a number does not parse. Pictures that are no
 // valid base64 give no value. Double quotes are dropped first; a field left empty gives
 // nothing to set (*skip).
-QVariant convert(AttributeType type, const QString& attribute, QByteArrayView field, bool* parsed,
+QVariant convert(AttributeType type, ExchangeRule rule, QByteArrayView field, bool* parsed,
                  bool* skip, QString* shown) {
     *parsed = true;
     if (type == AttributeType::Data) {
@@ -67,7 +74,7 @@ QVariant convert(AttributeType type, const QString& attribute, QByteArrayView fi
     // would; the text is then held as those bytes (see ManagedObject::setText), a huge field
     // once rather than also as UTF-16.
     if (type == AttributeType::Text && QUtf8StringView(field).isValidUtf8()) {
-        const bool notes = attribute == QLatin1String("notes");
+        const bool notes = rule == ExchangeRule::Notes;
         QByteArray bytes(field.size(), Qt::Uninitialized);
         char* write = bytes.data();
         for (const char c : field)
@@ -83,7 +90,7 @@ QVariant convert(AttributeType type, const QString& attribute, QByteArrayView fi
     *shown = text;
     switch (type) {
     case AttributeType::Text:
-        return attribute == QLatin1String("notes") ? text.replace(u'~', u'\n') : text;
+        return rule == ExchangeRule::Notes ? text.replace(u'~', u'\n') : text;
     case AttributeType::Data:
         break;
     case AttributeType::Int16:
@@ -106,17 +113,18 @@ QVariant convert(AttributeType type, const QString& attribute, QByteArrayView fi
 void apply(Coins& coin, const Fields& fields, bool isNew) {
     const EntityDescription& entity = coin.entity();
     for (qsizetype p = 0; p < fields.size(); ++p) {
-        const int attribute = entity.indexOf(kAttributes[p]);
+        const CoinAttribute& field = CoinAttributes::atFilePosition(int(p));
+        const int attribute = field.index;
         const AttributeType type = entity.attributes[std::size_t(attribute)].type;
         bool parsed = true, skip = false;
         QString text;
-        const QVariant value = convert(type, kAttributes[p], fields[p], &parsed, &skip, &text);
+        const QVariant value = convert(type, field.rule, fields[p], &parsed, &skip, &text);
         if (skip)
             continue;
         if (!parsed && isNew)
             fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value "
                                       "(\"%1\" for %2)")
-                           .arg(text, kAttributes[p]),
+                           .arg(text, QLatin1String(field.name)),
                        "Pelvane/ImportViewController", 271);
         if (type == AttributeType::Data && !value.isValid() && isNew)
             continue; // not valid base64: the new coin simply has no such picture
@@ -125,7 +133,7 @@ void apply(Coins& coin, const Fields& fields, bool isNew) {
             // Kept, it would stop every later export: the coin goes on without it.
             Console::log(QStringLiteral("Warning: the %1 picture of %2 cannot be read; the coin "
                                         "is kept without it")
-                             .arg(kAttributes[p] == QLatin1String("frontImage") ? "front" : "back",
+                             .arg(attribute == Coins::Attr::frontImage ? "front" : "back",
                                   coinForMessage(coin)));
             if (isNew)
                 continue;
@@ -206,7 +214,7 @@ bool Merge::step(qsizetype count) {
         const Fields fields = splitFields(lines_[next_]);
         // A line with more fields than there are attributes is no line of ours, whether it
         // would create, update or be skipped.
-        if (fields.size() > kAttributes.size())
+        if (fields.size() > CoinAttributes::count)
             fatalError(QStringLiteral("Index out of range"), "Pelvane/ImportViewController", 262);
         // The lookup and the save that follows it hold the write lock together, so that two
         // imports of one file never both find a coin missing and both create it.
@@ -216,16 +224,14 @@ bool Merge::step(qsizetype count) {
         // held as text once, not three times.
         StoreError fetchFailure;
         const QList<CoinPtr> results = [&] {
-            const QString theCountry = fieldText(fields, 0);
-            const QString theDenomination = fieldText(fields, 1);
-            const QString theMintMark = fieldText(fields, 8);
-            const QString theYear = fieldText(fields, 18);
+            std::vector<Predicate> keys;
+            keys.reserve(CoinAttributes::importKeyCount);
+            for (int k = 0; k < CoinAttributes::importKeyCount; ++k)
+                keys.push_back(Predicate::format(
+                    keyFormats()[std::size_t(k)],
+                    fieldText(fields, CoinAttributes::importKey(k).filePosition)));
             FetchRequest request(QStringLiteral("Coins"));
-            request.predicate = Predicate::andPredicate(
-                {Predicate::format(QStringLiteral("country == %@"), theCountry),
-                 Predicate::format(QStringLiteral("denomination == %@"), theDenomination),
-                 Predicate::format(QStringLiteral("mintMark == %@"), theMintMark),
-                 Predicate::format(QStringLiteral("year == %@"), theYear)});
+            request.predicate = Predicate::andPredicate(keys);
             request.returnsObjectsAsFaults = false;
             return fetchOrPrint<Coins>(context, request, &fetchFailure);
         }();

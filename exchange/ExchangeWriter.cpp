@@ -64,6 +64,28 @@ void appendText(QByteArray& out, const QString& text) {
     out += text.toUtf8();
 }
 
+// A field's text: a number in its shortest exact form, a text by its attribute's rule.
+QString fieldText(const Coins& coin, const CoinAttribute& field) {
+    const QVariant value = coin.value(field.index);
+    switch (coin.entity().attributes[std::size_t(field.index)].type) {
+    case AttributeType::Int16:
+        return QString::number(value.toInt());
+    case AttributeType::Double:
+        return Numbers::formatDouble(value.toDouble());
+    case AttributeType::Float:
+        return Numbers::formatFloat(value.toFloat());
+    case AttributeType::Text:
+    case AttributeType::Data:
+        break;
+    }
+    QString text = value.toString();
+    if (field.rule == ExchangeRule::Description || field.rule == ExchangeRule::Notes)
+        text.remove(u'^');
+    if (field.rule == ExchangeRule::Notes)
+        text.replace(u'\n', u'~');
+    return text;
+}
+
 } // namespace
 
 QString coinForMessage(const Coins& coin) {
@@ -124,39 +146,24 @@ QByteArray exchangeText(const QList<CoinPtr>& coins, const Progress& progress, S
     const int total = int(coins.size());
     for (int i = 0; i < total; ++i) {
         const Coins& c = *coins[i];
-        QString descrip = c.descrip();
-        QString notes = c.notes();
-        descrip.remove(u'^');
-        notes.remove(u'^');
-        notes.replace(u'\n', u'~');
-        const QString fields[] = {c.country(),
-                                  c.denomination(),
-                                  descrip,
-                                  c.designer(),
-                                  Numbers::formatDouble(c.diameter()),
-                                  c.edge(),
-                                  c.gradeNumber(),
-                                  c.mintLocation(),
-                                  c.mintMark(),
-                                  notes,
-                                  c.period(),
-                                  QString::number(c.quantity()),
-                                  c.serialNumber(),
-                                  c.strikeCharacter(),
-                                  Numbers::formatDouble(c.thickness()),
-                                  Numbers::formatFloat(c.totalValue()),
-                                  Numbers::formatFloat(c.value()),
-                                  Numbers::formatDouble(c.weight()),
-                                  QString::number(c.year())};
-        for (const QString& f : fields) {
-            appendText(out, f);
-            out += '^';
+        // Every field in the table's file order, separated by carets; the record number follows
+        // the back picture directly, and the reader never splits it off.
+        for (int p = 0; p < CoinAttributes::count; ++p) {
+            const CoinAttribute& field = CoinAttributes::atFilePosition(p);
+            if (field.rule == ExchangeRule::RecordNumber) {
+                out += QByteArray::number(c.id());
+                continue;
+            }
+            if (p > 0)
+                out += '^';
+            if (field.rule == ExchangeRule::Picture) {
+                const bool front = field.index == Coins::Attr::frontImage;
+                appendPicture(out, encoded, pictures[2 * i + (front ? 0 : 1)], c,
+                              front ? "front" : "back");
+                continue;
+            }
+            appendText(out, fieldText(c, field));
         }
-        appendPicture(out, encoded, pictures[2 * i], c, "front");
-        out += '^';
-        appendPicture(out, encoded, pictures[2 * i + 1], c, "back");
-        // The record number follows the back picture directly: the reader never splits it off.
-        out += QByteArray::number(c.id());
         out += '\n';
         if (progress)
             progress(i + 1, total);

@@ -1,5 +1,7 @@
 #include "model/Entity.h"
 
+#include "model/CoinAttributes.h"
+
 int EntityDescription::indexOf(const QString& attributeName) const {
     return positions.value(attributeName, -1);
 }
@@ -38,15 +40,12 @@ EntityDescription make(const char* name, int index,
 
 using T = AttributeType;
 
-const EntityDescription kCoins = make(
-    "Coins", 0, {{"backImage", T::Data},    {"country", T::Text},         {"denomination", T::Text},
-                 {"descrip", T::Text},      {"designer", T::Text},        {"diameter", T::Double},
-                 {"edge", T::Text},         {"frontImage", T::Data},      {"gradeNumber", T::Text},
-                 {"id", T::Int16},          {"mintLocation", T::Text},    {"mintMark", T::Text},
-                 {"notes", T::Text},        {"period", T::Text},          {"quantity", T::Int16},
-                 {"serialNumber", T::Text}, {"strikeCharacter", T::Text}, {"thickness", T::Double},
-                 {"totalValue", T::Float},  {"value", T::Float},          {"weight", T::Double},
-                 {"year", T::Int16}});
+const EntityDescription kCoins = make("Coins", 0,
+                                      {
+#define PELVANE_ENTITY_ROW(name, Name, type, file, key, rule) {#name, T::type},
+                                          PELVANE_COIN_ATTRIBUTES(PELVANE_ENTITY_ROW)
+#undef PELVANE_ENTITY_ROW
+                                      });
 const EntityDescription kGrades = make("GradeNumbers", 1, {{"grade", T::Text}});
 const EntityDescription kStrikes = make("StrikeCharacters", 2, {{"strike", T::Text}});
 const EntityDescription kEdges = make("CoinEdge", 3, {{"edge", T::Text}});

@@ -1,6 +1,7 @@
 #include "model/PersistentContainer.h"
 
 #include "model/Backup.h"
+#include "model/CoinAttributes.h"
 #include "model/Snapshots.h"
 #include "model/Sqlite.h"
 
@@ -61,6 +62,14 @@ QStringList numbersNeverNull() {
 // Tables and the indexes behind every query the screens make. Serial number and mint mark are
 // only ever asked for together with denomination and year, which the first index finds; every
 // index more is written again by each single-coin save.
+// The columns of the index the import looks coins up by, in the order of its keys.
+QString importKeyColumns() {
+    QStringList columns;
+    for (int k = 0; k < CoinAttributes::importKeyCount; ++k)
+        columns << QLatin1String(CoinAttributes::importKey(k).name);
+    return columns.join(QLatin1String(", "));
+}
+
 QStringList schema() {
     QStringList sql;
     for (const EntityDescription* e : Model::entities()) {
@@ -79,8 +88,7 @@ QStringList schema() {
         << QStringLiteral("CREATE INDEX Coins_year ON Coins(year)")
 
         << QStringLiteral("CREATE INDEX Coins_id ON Coins(id)")
-        << QStringLiteral("CREATE INDEX Coins_import_keys ON Coins(country, denomination, "
-                          "mintMark, year)")
+        << QStringLiteral("CREATE INDEX Coins_import_keys ON Coins(%1)").arg(importKeyColumns())
         << QStringLiteral("CREATE INDEX GradeNumbers_grade ON GradeNumbers(grade)")
         << QStringLiteral("CREATE INDEX StrikeCharacters_strike ON StrikeCharacters(strike)")
         << QStringLiteral("CREATE INDEX CoinEdge_edge ON CoinEdge(edge)");

@@ -1,7 +1,41 @@
 #pragma once
 // The four record types: plain managed records with typed access to their attributes.
 // Absent texts and pictures read back as null QString / QByteArray.
+#include "model/CoinAttributes.h"
 #include "model/ManagedObject.h"
+
+// The C++ type of each kind of attribute, and how a record reads and writes it. An absent text
+// or picture reads as null and is written from null as no value.
+template <AttributeType> struct AttributeValue;
+template <> struct AttributeValue<AttributeType::Text> {
+    using Type = QString;
+    static QString get(const ManagedObject& o, int i) { return o.value(i).toString(); }
+    static void set(ManagedObject& o, int i, const QString& v) {
+        o.setValue(i, v.isNull() ? QVariant() : QVariant(v));
+    }
+};
+template <> struct AttributeValue<AttributeType::Data> {
+    using Type = QByteArray;
+    static QByteArray get(const ManagedObject& o, int i) { return o.value(i).toByteArray(); }
+    static void set(ManagedObject& o, int i, const QByteArray& v) {
+        o.setValue(i, v.isNull() ? QVariant() : QVariant(v));
+    }
+};
+template <> struct AttributeValue<AttributeType::Int16> {
+    using Type = qint16;
+    static qint16 get(const ManagedObject& o, int i) { return qint16(o.value(i).toInt()); }
+    static void set(ManagedObject& o, int i, qint16 v) { o.setValue(i, QVariant(int(v))); }
+};
+template <> struct AttributeValue<AttributeType::Double> {
+    using Type = double;
+    static double get(const ManagedObject& o, int i) { return o.value(i).toDouble(); }
+    static void set(ManagedObject& o, int i, double v) { o.setValue(i, QVariant(v)); }
+};
+template <> struct AttributeValue<AttributeType::Float> {
+    using Type = float;
+    static float get(const ManagedObject& o, int i) { return o.value(i).toFloat(); }
+    static void set(ManagedObject& o, int i, float v) { o.setValue(i, QVariant(v)); }
+};
 
 class Coins : public ManagedObject {
 public:
@@ -10,77 +44,24 @@ public:
     static QString entityName() { return QStringLiteral("Coins"); }
     // Attribute positions in the model.
     struct Attr {
-        static constexpr int backImage = 0;
-        static constexpr int country = 1;
-        static constexpr int denomination = 2;
-        static constexpr int descrip = 3;
-        static constexpr int designer = 4;
-        static constexpr int diameter = 5;
-        static constexpr int edge = 6;
-        static constexpr int frontImage = 7;
-        static constexpr int gradeNumber = 8;
-        static constexpr int id = 9;
-        static constexpr int mintLocation = 10;
-        static constexpr int mintMark = 11;
-        static constexpr int notes = 12;
-        static constexpr int period = 13;
-        static constexpr int quantity = 14;
-        static constexpr int serialNumber = 15;
-        static constexpr int strikeCharacter = 16;
-        static constexpr int thickness = 17;
-        static constexpr int totalValue = 18;
-        static constexpr int value = 19;
-        static constexpr int weight = 20;
-        static constexpr int year = 21;
+        enum : int {
+#define PELVANE_ATTR(name, Name, type, file, key, rule) name,
+            PELVANE_COIN_ATTRIBUTES(PELVANE_ATTR)
+#undef PELVANE_ATTR
+        };
     };
     using ManagedObject::setValue;
     using ManagedObject::value;
-    QByteArray backImage() const { return ManagedObject::value(0).toByteArray(); }
-    void setBackImage(const QByteArray& v) { setValue(0, v.isNull() ? QVariant() : QVariant(v)); }
-    QString country() const { return ManagedObject::value(1).toString(); }
-    void setCountry(const QString& v) { setValue(1, v.isNull() ? QVariant() : QVariant(v)); }
-    QString denomination() const { return ManagedObject::value(2).toString(); }
-    void setDenomination(const QString& v) { setValue(2, v.isNull() ? QVariant() : QVariant(v)); }
-    QString descrip() const { return ManagedObject::value(3).toString(); }
-    void setDescrip(const QString& v) { setValue(3, v.isNull() ? QVariant() : QVariant(v)); }
-    QString designer() const { return ManagedObject::value(4).toString(); }
-    void setDesigner(const QString& v) { setValue(4, v.isNull() ? QVariant() : QVariant(v)); }
-    double diameter() const { return double(ManagedObject::value(5).toDouble()); }
-    void setDiameter(double v) { setValue(5, QVariant(v)); }
-    QString edge() const { return ManagedObject::value(6).toString(); }
-    void setEdge(const QString& v) { setValue(6, v.isNull() ? QVariant() : QVariant(v)); }
-    QByteArray frontImage() const { return ManagedObject::value(7).toByteArray(); }
-    void setFrontImage(const QByteArray& v) { setValue(7, v.isNull() ? QVariant() : QVariant(v)); }
-    QString gradeNumber() const { return ManagedObject::value(8).toString(); }
-    void setGradeNumber(const QString& v) { setValue(8, v.isNull() ? QVariant() : QVariant(v)); }
-    qint16 id() const { return qint16(ManagedObject::value(9).toInt()); }
-    void setId(qint16 v) { setValue(9, QVariant(v)); }
-    QString mintLocation() const { return ManagedObject::value(10).toString(); }
-    void setMintLocation(const QString& v) { setValue(10, v.isNull() ? QVariant() : QVariant(v)); }
-    QString mintMark() const { return ManagedObject::value(11).toString(); }
-    void setMintMark(const QString& v) { setValue(11, v.isNull() ? QVariant() : QVariant(v)); }
-    QString notes() const { return ManagedObject::value(12).toString(); }
-    void setNotes(const QString& v) { setValue(12, v.isNull() ? QVariant() : QVariant(v)); }
-    QString period() const { return ManagedObject::value(13).toString(); }
-    void setPeriod(const QString& v) { setValue(13, v.isNull() ? QVariant() : QVariant(v)); }
-    qint16 quantity() const { return qint16(ManagedObject::value(14).toInt()); }
-    void setQuantity(qint16 v) { setValue(14, QVariant(v)); }
-    QString serialNumber() const { return ManagedObject::value(15).toString(); }
-    void setSerialNumber(const QString& v) { setValue(15, v.isNull() ? QVariant() : QVariant(v)); }
-    QString strikeCharacter() const { return ManagedObject::value(16).toString(); }
-    void setStrikeCharacter(const QString& v) {
-        setValue(16, v.isNull() ? QVariant() : QVariant(v));
+    // name() and setName(v) for every attribute, typed by the attribute's type.
+#define PELVANE_ACCESSORS(name, Name, type, file, key, rule)                                       \
+    AttributeValue<AttributeType::type>::Type name() const {                                       \
+        return AttributeValue<AttributeType::type>::get(*this, Attr::name);                        \
+    }                                                                                              \
+    void set##Name(const AttributeValue<AttributeType::type>::Type& v) {                           \
+        AttributeValue<AttributeType::type>::set(*this, Attr::name, v);                            \
     }
-    double thickness() const { return double(ManagedObject::value(17).toDouble()); }
-    void setThickness(double v) { setValue(17, QVariant(v)); }
-    float totalValue() const { return float(ManagedObject::value(18).toFloat()); }
-    void setTotalValue(float v) { setValue(18, QVariant(v)); }
-    float value() const { return ManagedObject::value(19).toFloat(); }
-    void setValue(float v) { setValue(19, QVariant(v)); }
-    double weight() const { return double(ManagedObject::value(20).toDouble()); }
-    void setWeight(double v) { setValue(20, QVariant(v)); }
-    qint16 year() const { return qint16(ManagedObject::value(21).toInt()); }
-    void setYear(qint16 v) { setValue(21, QVariant(v)); }
+    PELVANE_COIN_ATTRIBUTES(PELVANE_ACCESSORS)
+#undef PELVANE_ACCESSORS
 };
 
 class GradeNumbers : public ManagedObject {

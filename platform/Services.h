@@ -1,7 +1,8 @@
 #pragma once
 // The platform services that leave the machine or need a person: each is a small abstract
 // class with a desktop implementation, reached through Platform:: and replaced by recording
-// fakes in tests. One header per service includes this one.
+// fakes in tests. All of them are declared here, each beside the values it takes; the print
+// controller, whose desktop implementation is larger, has its own header.
 #include <QByteArray>
 #include <QImage>
 #include <QString>

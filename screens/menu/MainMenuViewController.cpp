@@ -74,7 +74,7 @@ void MainMenuViewController::viewDidLoad() {
     CalledFromList = QStringLiteral("MAINMENU");
     for (QPushButton* button : MainMenuButton) {
         Styling::round(button, 10, 2, Qt::black);
-        // Entries whose screens are not part of this build yet stay visible but disabled.
+        // An entry whose segue the storyboard lacks (a test's partial storyboard) is disabled.
         button->setEnabled(Storyboard::hasSegue(EntrySegues[MainMenuButton.indexOf(button)]));
     }
     Styling::round(ControlButton, 10, 2, Qt::red);
