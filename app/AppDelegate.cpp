@@ -14,11 +14,11 @@ PersistentContainer& AppDelegate::persistentContainer() {
     if (!container_) {
         container_ = std::make_unique<PersistentContainer>(QStringLiteral("Pelvane"));
         container_->loadPersistentStores(
-            [](const StoreDescription&, const std::optional<StoreError>& error) {
+            [](const StoreDescription&, const std::optional<Error>& error) {
                 if (error)
                     fatalError(QStringLiteral("Unresolved error %1, %2")
                                    .arg(error->description(), error->userInfoDescription()),
-                               "Pelvane/AppDelegate", 46);
+                               StopSites::StoreLoad);
             });
     }
     return *container_;
@@ -28,8 +28,8 @@ void AppDelegate::saveContext() {
     ManagedObjectContext* context = persistentContainer().viewContext();
     if (!context->hasChanges())
         return;
-    if (auto error = context->save())
+    if (const auto error = context->save(); !error.ok())
         fatalError(QStringLiteral("Unresolved error %1, %2")
-                       .arg(error->description(), error->userInfoDescription()),
-                   "Pelvane/AppDelegate", 63);
+                       .arg(error.error().description(), error.error().userInfoDescription()),
+                   StopSites::ContextSave);
 }

@@ -57,7 +57,7 @@ inline void fill(Coins& c, int i, const std::vector<QByteArray>& pics) {
 
 inline std::unique_ptr<PersistentContainer> open() {
     auto c = std::make_unique<PersistentContainer>(QStringLiteral("Pelvane"));
-    c->loadPersistentStores([](const StoreDescription&, const std::optional<StoreError>& e) {
+    c->loadPersistentStores([](const StoreDescription&, const std::optional<Error>& e) {
         if (e) {
             std::fprintf(stderr, "cannot open store: %s\n", qPrintable(e->description()));
             std::exit(1);
@@ -79,7 +79,7 @@ inline void build(const QString& dir, int n) {
     auto c = open();
     for (int i = 0; i < n; ++i)
         fill(*c->viewContext()->insert<Coins>(), i, pics);
-    if (c->viewContext()->save())
+    if (!c->viewContext()->save().ok())
         std::exit(1);
 }
 

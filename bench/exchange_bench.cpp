@@ -86,7 +86,7 @@ int main(int argc, char** argv) {
         c = open(root.filePath("source"));
         QElapsedTimer t;
         t.start();
-        file = Exchange::exchangeText(*c->viewContext());
+        file = Exchange::exchangeText(*c->viewContext()).value();
         print("export text of 32,000 coins", double(t.nsecsElapsed()) / 1e9, "s", "<= 3 s");
         std::printf("%-56s %10.1f MB\n", "exchange file size", double(file.size()) / 1e6);
     }

@@ -39,7 +39,7 @@ void buildVaried(const QString& dir, const std::function<void(Coins&, int)>& var
         fill(*coin, i, pics);
         vary(*coin, i);
     }
-    if (c->viewContext()->save())
+    if (!c->viewContext()->save().ok())
         std::exit(1);
 }
 

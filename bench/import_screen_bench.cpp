@@ -66,8 +66,9 @@ int screen(const QString& file, const QString& dir) {
     ticker.stop();
     const double peak = peakMbSince(base);
     FetchRequest request(QStringLiteral("Coins"));
-    std::printf("%.1f %lld %lld\n", peak, qlonglong(longestPause),
-                qlonglong(program.delegate.persistentContainer().viewContext()->count(request)));
+    std::printf(
+        "%.1f %lld %lld\n", peak, qlonglong(longestPause),
+        qlonglong(program.delegate.persistentContainer().viewContext()->count(request).value()));
     return 0;
 }
 
@@ -105,7 +106,7 @@ int main(int argc, char** argv) {
         file = root.filePath("Pelvane.csv");
         QFile out(file);
         if (!out.open(QIODevice::WriteOnly) ||
-            out.write(Exchange::exchangeText(*container->viewContext())) < 0)
+            out.write(Exchange::exchangeText(*container->viewContext()).value()) < 0)
             return 1;
         std::printf("%-52s %10.1f MB\n", "import bench: exchange file size",
                     double(out.size()) / 1e6);

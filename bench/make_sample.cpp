@@ -168,11 +168,11 @@ int main(int argc, char** argv) {
         c->setFrontImage(ImageCoding::coinPictureData(drawCoin(s, true)));
         c->setBackImage(ImageCoding::coinPictureData(drawCoin(s, false)));
     }
-    if (ctx.save())
+    if (!ctx.save().ok())
         return 1;
     QFile out(QString::fromLocal8Bit(argv[1]));
     if (!out.open(QIODevice::WriteOnly))
         return 1;
-    out.write(Exchange::exchangeText(ctx));
+    out.write(Exchange::exchangeText(ctx).value());
     return 0;
 }

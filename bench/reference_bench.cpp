@@ -19,7 +19,7 @@ void buildGrades(const QString& dir, int n) {
     for (int i = 0; i < n; ++i)
         c->viewContext()->insert<GradeNumbers>()->setGrade(
             QString::fromLatin1(prefixes[(i * 7) % 10]) + QString::number((i * 7919) % n));
-    if (c->viewContext()->save())
+    if (!c->viewContext()->save().ok())
         std::exit(1);
 }
 } // namespace

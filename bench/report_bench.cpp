@@ -24,7 +24,7 @@ void buildGroups(const QString& dir) {
             fill(*coin, i, pics);
             coin->setDenomination(QString::fromLatin1(denomination));
         }
-    if (c->viewContext()->save())
+    if (!c->viewContext()->save().ok())
         std::exit(1);
 }
 

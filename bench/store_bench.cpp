@@ -97,10 +97,10 @@ int main(int argc, char** argv) {
         timer.start();
         for (int i = 0; i < m; ++i) {
             fill(*c->viewContext()->insert<Coins>(), i, pics);
-            if (perCoin && c->viewContext()->save())
+            if (perCoin && !c->viewContext()->save().ok())
                 std::exit(1);
         }
-        if (!perCoin && c->viewContext()->save())
+        if (!perCoin && !c->viewContext()->save().ok())
             std::exit(1);
         return double(timer.nsecsElapsed()) / 1e6;
     };

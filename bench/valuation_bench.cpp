@@ -48,7 +48,7 @@ int main(int argc, char** argv) {
     request.predicate = Predicate::andPredicate(
         {Predicate::format(QStringLiteral("denomination=%@"), screen->Denomination),
          Predicate::format(QStringLiteral("year=%@"), screen->CoinYear)});
-    const int matching = screen->context->count(request);
+    const int matching = screen->context->count(request).value();
     screen->NewValueTextField->setText(QStringLiteral("12.5"));
     t.restart();
     screen->SaveNewCardButtonClicked();

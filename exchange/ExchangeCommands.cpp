@@ -43,17 +43,18 @@ qsizetype coinsInFile(const QString& file) {
 } // namespace
 
 int runExport(ManagedObjectContext& context, const QString& file, const QString& collection) {
-    if (QString why; !Files::isWritableTarget(file, &why)) {
-        say(QStringLiteral("Cannot write %1: %2").arg(file, why));
+    if (const Result<void> target = Files::isWritableTarget(file); !target.ok()) {
+        say(QStringLiteral("Cannot write %1: %2").arg(file, target.error().message));
         return 1;
     }
-    StoreError readError;
-    const QByteArray bytes = exchangeText(context, {}, &readError);
+    const Result<QByteArray> text = exchangeText(context);
     // A file from a store that could not be read whole would replace a good backup.
-    if (readError.code != 0) {
-        say(QStringLiteral("Cannot read the collection %1: %2").arg(collection, readError.message));
+    if (!text.ok()) {
+        say(QStringLiteral("Cannot read the collection %1: %2")
+                .arg(collection, text.error().message));
         return 1;
     }
+    const QByteArray& bytes = text.value();
     // An empty collection (a mistyped data folder) must not wipe out a backup.
     if (bytes == QByteArray(Marker) + '\n')
         if (const qsizetype held = coinsInFile(file); held > 0) {
@@ -63,9 +64,8 @@ int runExport(ManagedObjectContext& context, const QString& file, const QString&
                     .arg(held));
             return 1;
         }
-    QString error;
-    if (!Files::writeAtomically(file, bytes, &error)) {
-        say(QStringLiteral("Cannot write %1: %2").arg(file, error));
+    if (const Result<void> written = Files::writeAtomically(file, bytes); !written.ok()) {
+        say(QStringLiteral("Cannot write %1: %2").arg(file, written.error().message));
         return 1;
     }
     return 0;
@@ -112,19 +112,19 @@ int runImport(ManagedObjectContext& context, const QString& file, PersistentCont
     }
     if (storeGone())
         return 1;
-    const auto error = context.save();
+    const Result<void> saved = context.save();
     if (storeGone())
         return 1;
     // Only what is in the store is counted.
     std::printf("%d created, %d updated, %d skipped\n",
-                result.created - (error ? result.notSaved : 0),
-                result.updated - (error ? result.updatedSinceSave : 0), result.skipped);
-    if (error) {
+                result.created - (saved.ok() ? 0 : result.notSaved),
+                result.updated - (saved.ok() ? 0 : result.updatedSinceSave), result.skipped);
+    if (!saved.ok()) {
         // Every coin the merge left pending is lost with the process: say how many and why.
         say(QStringLiteral("%1 coins of %2 not saved in %3: %4")
                 .arg(result.notSaved + result.updatedSinceSave)
                 .arg(file, store ? store->storePath() : QStringLiteral("the collection"),
-                     error->message));
+                     saved.error().message));
         return 1;
     }
     return 0;

@@ -51,13 +51,18 @@ QString fieldText(const Fields& fields, qsizetype position) {
     return position < fields.size() ? QString::fromUtf8(fields[position]) : QStringLiteral("");
 }
 
-// The attribute value a field gives (a text as its UTF-8 bytes where it is valid UTF-8); an
-// invalid QVariant with *parsed false when a number does not parse. Pictures that are no
-// valid base64 give no value. Double quotes are dropped first; a field left empty gives
-// nothing to set (*skip).
-QVariant convert(AttributeType type, ExchangeRule rule, QByteArrayView field, bool* parsed,
-                 bool* skip, QString* shown) {
-    *parsed = true;
+// What a field gives its attribute.
+struct FieldValue {
+    QVariant value;     // a text as its UTF-8 bytes where it is valid UTF-8
+    bool parsed = true; // false for a number that does not parse (value invalid)
+    bool skip = false;  // the field is empty once its double quotes are dropped: nothing to set
+    QString shown;      // the field as the fatal stop of a number names it
+};
+
+// The attribute value a field gives. Pictures that are no valid base64 give no value. Double
+// quotes are dropped first.
+FieldValue convert(AttributeType type, ExchangeRule rule, QByteArrayView field) {
+    FieldValue out;
     if (type == AttributeType::Data) {
         // Pictures are read from the bytes: base64 is ASCII, so nothing else can be valid.
         QByteArray unquoted;
@@ -66,9 +71,10 @@ QVariant convert(AttributeType type, ExchangeRule rule, QByteArrayView field, bo
             unquoted.replace("\"", "");
             field = unquoted;
         }
-        *skip = field.isEmpty();
-        auto bytes = ImageCoding::strictBase64Decode(field);
-        return bytes ? QVariant(*bytes) : QVariant();
+        out.skip = field.isEmpty();
+        if (auto bytes = ImageCoding::strictBase64Decode(field))
+            out.value = *bytes;
+        return out;
     }
     // Quotes and tildes are ASCII, so valid UTF-8 loses and changes them in its bytes as text
     // would; the text is then held as those bytes (see ManagedObject::setText), a huge field
@@ -81,33 +87,41 @@ QVariant convert(AttributeType type, ExchangeRule rule, QByteArrayView field, bo
             if (c != '"')
                 *write++ = notes && c == '~' ? '\n' : c;
         bytes.truncate(write - bytes.constData());
-        *skip = bytes.isEmpty();
-        return bytes;
+        out.skip = bytes.isEmpty();
+        out.value = bytes;
+        return out;
     }
     QString text = QString::fromUtf8(field);
     text.remove(u'"');
-    *skip = text.isEmpty();
-    *shown = text;
+    out.skip = text.isEmpty();
+    out.shown = text;
     switch (type) {
     case AttributeType::Text:
-        return rule == ExchangeRule::Notes ? text.replace(u'~', u'\n') : text;
+        out.value = rule == ExchangeRule::Notes ? text.replace(u'~', u'\n') : text;
+        return out;
     case AttributeType::Data:
         break;
     case AttributeType::Int16:
-        if (auto v = Numbers::parseInt16(text))
-            return int(*v);
+        if (auto v = Numbers::parseInt16(text)) {
+            out.value = int(*v);
+            return out;
+        }
         break;
     case AttributeType::Double:
-        if (auto v = Numbers::parseDouble(text))
-            return *v;
+        if (auto v = Numbers::parseDouble(text)) {
+            out.value = *v;
+            return out;
+        }
         break;
     case AttributeType::Float:
-        if (auto v = Numbers::parseFloat(text))
-            return *v;
+        if (auto v = Numbers::parseFloat(text)) {
+            out.value = *v;
+            return out;
+        }
         break;
     }
-    *parsed = false;
-    return {};
+    out.parsed = false;
+    return out;
 }
 
 void apply(Coins& coin, const Fields& fields, bool isNew) {
@@ -116,16 +130,15 @@ void apply(Coins& coin, const Fields& fields, bool isNew) {
         const CoinAttribute& field = CoinAttributes::atFilePosition(int(p));
         const int attribute = field.index;
         const AttributeType type = entity.attributes[std::size_t(attribute)].type;
-        bool parsed = true, skip = false;
-        QString text;
-        const QVariant value = convert(type, field.rule, fields[p], &parsed, &skip, &text);
-        if (skip)
+        const FieldValue converted = convert(type, field.rule, fields[p]);
+        const QVariant& value = converted.value;
+        if (converted.skip)
             continue;
-        if (!parsed && isNew)
+        if (!converted.parsed && isNew)
             fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value "
                                       "(\"%1\" for %2)")
-                           .arg(text, QLatin1String(field.name)),
-                       "Pelvane/ImportViewController", 271);
+                           .arg(converted.shown, QLatin1String(field.name)),
+                       StopSites::ImportNumber);
         if (type == AttributeType::Data && !value.isValid() && isNew)
             continue; // not valid base64: the new coin simply has no such picture
         if (type == AttributeType::Data && value.isValid() &&
@@ -155,13 +168,12 @@ Merge::Merge(ManagedObjectContext& context, QByteArray utf8)
     // A second container for the same model: opened and released, as the import always did.
     {
         PersistentContainer second(QStringLiteral("Pelvane"));
-        second.loadPersistentStores(
-            [](const StoreDescription&, const std::optional<StoreError>& error) {
-                if (error)
-                    fatalError(QStringLiteral("Unresolved error %1, %2")
-                                   .arg(error->description(), error->userInfoDescription()),
-                               "Pelvane/ImportViewController", 217);
-            });
+        second.loadPersistentStores([](const StoreDescription&, const std::optional<Error>& error) {
+            if (error)
+                fatalError(QStringLiteral("Unresolved error %1, %2")
+                               .arg(error->description(), error->userInfoDescription()),
+                           StopSites::ImportStoreLoad);
+        });
     }
 
     // The three replacements (carriage returns to line feeds, apostrophes dropped, commas to
@@ -215,15 +227,15 @@ bool Merge::step(qsizetype count) {
         // A line with more fields than there are attributes is no line of ours, whether it
         // would create, update or be skipped.
         if (fields.size() > CoinAttributes::count)
-            fatalError(QStringLiteral("Index out of range"), "Pelvane/ImportViewController", 262);
+            fatalError(QStringLiteral("Index out of range"), StopSites::ImportFieldCount);
         // The lookup and the save that follows it hold the write lock together, so that two
         // imports of one file never both find a coin missing and both create it.
-        if (auto locked = context.beginWriteBatch(); locked && locked->isBusy())
+        if (const Result<void> locked = context.beginWriteBatch();
+            !locked.ok() && locked.error().isBusy())
             dontWaitWhenBusy();
         // The key texts and the request go before the coin is written: a huge field is then
         // held as text once, not three times.
-        StoreError fetchFailure;
-        const QList<CoinPtr> results = [&] {
+        const Result<QList<CoinPtr>> found = [&] {
             std::vector<Predicate> keys;
             keys.reserve(CoinAttributes::importKeyCount);
             for (int k = 0; k < CoinAttributes::importKeyCount; ++k)
@@ -233,18 +245,19 @@ bool Merge::step(qsizetype count) {
             FetchRequest request(QStringLiteral("Coins"));
             request.predicate = Predicate::andPredicate(keys);
             request.returnsObjectsAsFaults = false;
-            return fetchOrPrint<Coins>(context, request, &fetchFailure);
+            return fetchOrPrint<Coins>(context, request);
         }();
-        if (fetchFailure.isBusy())
+        if (!found.ok() && found.error().isBusy())
             dontWaitWhenBusy();
+        const QList<CoinPtr> results = found.valueOr({});
         if (results.isEmpty()) {
             auto coin = context.insert<Coins>();
             apply(*coin, fields, true);
-            if (auto failure = context.save()) {
-                Console::log(failure->description());
+            if (const auto failure = context.save(); !failure.ok()) {
+                Console::log(failure.error().description());
                 if (result.notSaved++ == 0)
-                    result.notSavedReason = failure->message;
-                if (failure->isBusy())
+                    result.notSavedReason = failure.error().message;
+                if (failure.error().isBusy())
                     dontWaitWhenBusy();
             } else {
                 // A save writes every coin left pending before it.

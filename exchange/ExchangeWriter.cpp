@@ -56,7 +56,7 @@ void appendPicture(QByteArray& out, const QHash<QByteArray, std::optional<QByteA
         fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value "
                                   "(the %1 picture of %2 cannot be decoded)")
                        .arg(QLatin1String(face), coinForMessage(coin)),
-                   "Pelvane/ExportViewController", 160);
+                   StopSites::ExportPicture);
     out += *text;
 }
 
@@ -95,32 +95,23 @@ QString coinForMessage(const Coins& coin) {
         .arg(coin.country());
 }
 
-QList<CoinPtr> coinsInFileOrder(ManagedObjectContext& context, StoreError* error) {
+Result<QList<CoinPtr>> coinsInFileOrder(ManagedObjectContext& context) {
     FetchRequest request(QStringLiteral("Coins"));
     request.sortDescriptors = {{QStringLiteral("denomination"), true},
                                {QStringLiteral("year"), true},
                                {QStringLiteral("mintMark"), true}};
     request.returnsObjectsAsFaults = false;
-    StoreError failure;
-    const QList<CoinPtr> coins = fetchOrPrint<Coins>(context, request, &failure);
-    if (error)
-        *error = failure;
-    return coins;
+    return fetchOrPrint<Coins>(context, request);
 }
 
-QByteArray exchangeText(ManagedObjectContext& context, const Progress& progress,
-                        StoreError* error) {
-    StoreError failure;
-    const QList<CoinPtr> coins = coinsInFileOrder(context, &failure);
-    if (failure.code != 0) {
-        if (error)
-            *error = failure;
-        return {};
-    }
-    return exchangeText(coins, progress, error);
+Result<QByteArray> exchangeText(ManagedObjectContext& context, const Progress& progress) {
+    const Result<QList<CoinPtr>> coins = coinsInFileOrder(context);
+    if (!coins.ok())
+        return coins.error();
+    return exchangeText(coins.value(), progress);
 }
 
-QByteArray exchangeText(const QList<CoinPtr>& coins, const Progress& progress, StoreError* error) {
+Result<QByteArray> exchangeText(const QList<CoinPtr>& coins, const Progress& progress) {
     // Picture bytes are read here, on the store's thread; only the coding runs elsewhere.
     if (!coins.isEmpty() && coins.first()->managedObjectContext())
         coins.first()->managedObjectContext()->takeReadError(); // an older one is not ours
@@ -133,9 +124,7 @@ QByteArray exchangeText(const QList<CoinPtr>& coins, const Progress& progress, S
     if (!coins.isEmpty() && coins.first()->managedObjectContext())
         if (auto failure = coins.first()->managedObjectContext()->takeReadError()) {
             Console::print(QStringLiteral("Could not fetch. %1").arg(failure->description()));
-            if (error)
-                *error = *failure;
-            return {};
+            return *failure;
         }
     const QHash<QByteArray, std::optional<QByteArray>> encoded = reencodeAll(pictures);
 

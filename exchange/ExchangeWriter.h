@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "model/Records.h"
-#include "model/StoreError.h"
+#include "platform/core/Error.h"
 
 #include <QList>
 
@@ -17,16 +17,13 @@ inline constexpr char Marker[] = "[PELVANE]";
 using Progress = std::function<void(int written, int total)>;
 // Every coin, by denomination, year and mint mark. Pictures are re-encoded as JPEG at quality
 // 0.6; a stored picture that does not decode is a fatal error that names its coin. A store
-// that cannot be read whole gives no file at all: an empty result and the reason in *error
-// (a damaged picture is not taken for a coin without one).
-QByteArray exchangeText(ManagedObjectContext& context, const Progress& progress = {},
-                        StoreError* error = nullptr);
-// The coins of the file, in file order, as the export fetches them; on a read error none,
-// with the reason in *error.
-QList<CoinPtr> coinsInFileOrder(ManagedObjectContext& context, StoreError* error = nullptr);
+// that cannot be read whole gives no file at all, but the error (a damaged picture is not taken
+// for a coin without one).
+Result<QByteArray> exchangeText(ManagedObjectContext& context, const Progress& progress = {});
+// The coins of the file, in file order, as the export fetches them, or the read error.
+Result<QList<CoinPtr>> coinsInFileOrder(ManagedObjectContext& context);
 // The file for these coins, in the order given (the same failures).
-QByteArray exchangeText(const QList<CoinPtr>& coins, const Progress& progress = {},
-                        StoreError* error = nullptr);
+Result<QByteArray> exchangeText(const QList<CoinPtr>& coins, const Progress& progress = {});
 // How the fatal stop of a picture that cannot be decoded names its coin.
 QString coinForMessage(const Coins& coin);
 } // namespace Exchange

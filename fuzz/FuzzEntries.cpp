@@ -40,7 +40,7 @@ std::unique_ptr<PersistentContainer>& store() {
 void openStore() {
     store().reset();
     store() = std::make_unique<PersistentContainer>(QStringLiteral("Pelvane"));
-    store()->loadPersistentStores([](const StoreDescription&, const std::optional<StoreError>& e) {
+    store()->loadPersistentStores([](const StoreDescription&, const std::optional<Error>& e) {
         if (e)
             qFatal("cannot make the store: %s", qPrintable(e->description()));
     });
@@ -128,9 +128,9 @@ Outcome mergeAndExport(const uint8_t* data, std::size_t size) {
         madeCoins = Exchange::mergeExchangeText(
                         context, QByteArray(reinterpret_cast<const char*>(data), qsizetype(size)))
                         .created > 0;
-        if (auto error = context.save())
-            qFatal("save failed: %s", qPrintable(error->description()));
-        (void)Exchange::exchangeText(context);
+        if (const auto error = context.save(); !error.ok())
+            qFatal("save failed: %s", qPrintable(error.error().description()));
+        (void)Exchange::exchangeText(context).value();
     });
     // Most inputs make no coin (no marker line, no line after it): the store is still
     // empty then. A stop may leave a new coin pending: the context forgets it with the rest.

@@ -33,14 +33,15 @@ Result<qint64> write(const QString& storePath, const QString& target, const Prog
     if (temporary.isEmpty())
         return failure(SQLITE_CANTOPEN,
                        QStringLiteral("Cannot write %1: the folder cannot be written").arg(target));
-    auto fail = [&](const StoreError& e) {
+    auto fail = [&](const Error& e) {
         for (const char* part : {"", "-journal", "-wal", "-shm"})
             QFile::remove(temporary + QLatin1String(part));
         return e;
     };
-    if (auto error = copyStore(storePath, temporary, progress))
-        return fail(failure(error->code,
-                            QStringLiteral("Cannot copy the collection: %1").arg(error->message)));
+    if (const auto error = copyStore(storePath, temporary, progress); !error.ok())
+        return fail(
+            failure(error.error().code,
+                    QStringLiteral("Cannot copy the collection: %1").arg(error.error().message)));
     qint64 coins = 0;
     {
         Connection copy(temporary, Connection::Inspect);
@@ -55,8 +56,8 @@ Result<qint64> write(const QString& storePath, const QString& target, const Prog
             return fail(counted.error());
         coins = counted.value();
     }
-    if (auto error = replace(temporary, target))
-        return fail(*error);
+    if (const auto error = replace(temporary, target); !error.ok())
+        return fail(error.error());
     return coins;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 // Exact copies of the store: a backup written while the program may be running, and the checks
 // that tell a whole Pelvane store from any other file (see Restore.h for putting one in place).
-#include "model/StoreError.h"
+#include "platform/core/Error.h"
 
 #include <QString>
 #include <functional>

@@ -42,22 +42,28 @@ std::optional<QString> groupOf(const SqliteStatement& st, int col, AttributeType
 
 } // namespace
 
-int ManagedObjectContext::count(const FetchRequest& request, StoreError* error) {
-    return int(countMatching(request, -1, nullptr, error));
+Result<int> ManagedObjectContext::count(const FetchRequest& request) {
+    const Result<qint64> n = countMatching(request, -1, nullptr);
+    if (!n.ok())
+        return n.error();
+    return int(n.value());
 }
 
-QHash<QString, qint64> ManagedObjectContext::countBy(const FetchRequest& request,
-                                                     const QString& key, StoreError* error) {
+Result<QHash<QString, qint64>> ManagedObjectContext::countBy(const FetchRequest& request,
+                                                             const QString& key) {
     QHash<QString, qint64> groups;
-    if (const EntityDescription* e = Model::entity(request.entityName))
-        countMatching(request, groupAttribute(*e, key), &groups, error);
-    else
+    const EntityDescription* e = Model::entity(request.entityName);
+    if (!e) {
         fetch(request); // which stops for an unknown entity
+        return groups;
+    }
+    if (const Result<qint64> n = countMatching(request, groupAttribute(*e, key), &groups); !n.ok())
+        return n.error();
     return groups;
 }
 
-qint64 ManagedObjectContext::countMatching(const FetchRequest& request, int groupBy,
-                                           QHash<QString, qint64>* groups, StoreError* error) {
+Result<qint64> ManagedObjectContext::countMatching(const FetchRequest& request, int groupBy,
+                                                   QHash<QString, qint64>* groups) {
     const EntityDescription* known = Model::entity(request.entityName);
     if (!known) {
         fetch(request); // which stops for an unknown entity
@@ -78,11 +84,8 @@ qint64 ManagedObjectContext::countMatching(const FetchRequest& request, int grou
                                   .arg(groupColumn, table, where)
                             : QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(table, where);
     SqliteStatement& st = db_->cached(sql);
-    if (!st.isValid()) {
-        if (error)
-            *error = lastError();
-        return 0;
-    }
+    if (!st.isValid())
+        return lastError();
     for (qsizetype i = 0; i < binds.size(); ++i)
         st.bind(int(i) + 1, binds[i]);
     qint64 total = 0;
@@ -99,11 +102,9 @@ qint64 ManagedObjectContext::countMatching(const FetchRequest& request, int grou
     }
     st.reset();
     if (rc != SQLITE_DONE) {
-        if (error)
-            *error = lastError();
         if (groups)
             groups->clear();
-        return 0;
+        return lastError();
     }
 
     auto add = [&](const std::optional<QString>& group, qint64 n) {

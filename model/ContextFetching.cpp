@@ -27,7 +27,7 @@ int compareBy(const ManagedObject& a, const ManagedObject& b, int attr, Attribut
 
 } // namespace
 
-QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreError* error) {
+Result<QList<ObjectPtr>> ManagedObjectContext::tryFetch(const FetchRequest& request) {
     const EntityDescription& e = checkedEntity(request.entityName);
     beginReadBatch();
     struct Key {
@@ -60,11 +60,8 @@ QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreE
     const WriteSql& w = writeSql(e);
     SqliteStatement& st = db_->cached((keysFirst ? w.selectKeys : w.select) + where +
                                       QLatin1String(" ORDER BY ") + order.join(u','));
-    if (!st.isValid()) {
-        if (error)
-            *error = lastError();
-        return {};
-    }
+    if (!st.isValid())
+        return lastError();
     for (qsizetype i = 0; i < binds.size(); ++i)
         st.bind(int(i) + 1, binds[i]);
 
@@ -89,11 +86,10 @@ QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreE
             if (rowRc == SQLITE_ROW)
                 o = objectForRow(e, rowId, row);
             else if (rowRc != SQLITE_DONE) {
-                if (error)
-                    *error = lastError();
+                const Error failure = lastError();
                 row.reset();
                 st.reset();
-                return {};
+                return failure;
             }
             row.reset();
             if (!o)
@@ -104,10 +100,9 @@ QList<ObjectPtr> ManagedObjectContext::fetch(const FetchRequest& request, StoreE
         result.append(std::move(o));
     }
     if (rc != SQLITE_DONE) {
-        if (error)
-            *error = lastError();
+        const Error failure = lastError();
         st.reset();
-        return {};
+        return failure;
     }
     st.reset();
 

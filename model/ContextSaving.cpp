@@ -80,9 +80,9 @@ bool ManagedObjectContext::writePending(std::vector<qint64>& newIds) {
     return true;
 }
 
-std::optional<StoreError> ManagedObjectContext::save() {
+Result<void> ManagedObjectContext::save() {
     if (!hasChanges())
-        return std::nullopt;
+        return {};
     // Pictures of changed records must be complete before they are rewritten.
     for (auto& o : updated_)
         if (o->entity_->hasData() && (o->dirty_ & dataMask(*o->entity_)))
@@ -92,13 +92,13 @@ std::optional<StoreError> ManagedObjectContext::save() {
     // transaction only to begin the next. Should another writer have changed the file since the
     // batch began, the batch cannot write: the changes are written again in a fresh one.
     // The error of a write transaction that could not begin, if any.
-    auto beginWrite = [this]() -> std::optional<StoreError> {
+    auto beginWrite = [this]() -> Result<void> {
         SqliteStatement& begin = db_->cached(QStringLiteral("BEGIN IMMEDIATE"));
-        std::optional<StoreError> error;
+        Result<void> began;
         if (begin.step() != SQLITE_DONE)
-            error = lastError();
+            began = lastError();
         begin.reset();
-        return error;
+        return began;
     };
     const bool upgrade = readBatch_;
     if (upgrade) {
@@ -106,22 +106,22 @@ std::optional<StoreError> ManagedObjectContext::save() {
         writeBatch_ = false;
         batchEnd_->stop();
         db_->resetAll();
-    } else if (auto error = beginWrite()) {
-        return error;
+    } else if (Result<void> began = beginWrite(); !began.ok()) {
+        return began;
     }
     auto fail = [this]() {
-        StoreError err = lastError();
+        Error err = lastError();
         db_->exec(QStringLiteral("ROLLBACK"));
         db_->resetAll();
         return err;
     };
     std::vector<qint64> newIds;
     bool written = writePending(newIds);
-    if (!written && upgrade && (sqlite3_errcode(db_->handle()) & 0xff) == SQLITE_BUSY) {
+    if (!written && upgrade && (sqlite3_errcode(db_->handle()) & 0xff) == ErrorCode::Busy) {
         db_->exec(QStringLiteral("ROLLBACK"));
         db_->resetAll();
-        if (auto error = beginWrite())
-            return error;
+        if (Result<void> began = beginWrite(); !began.ok())
+            return began;
         written = writePending(newIds);
     }
     if (!written)
@@ -156,5 +156,5 @@ std::optional<StoreError> ManagedObjectContext::save() {
     pendingIndexes_.clear();
     updated_.clear();
     deleted_.clear();
-    return std::nullopt;
+    return {};
 }

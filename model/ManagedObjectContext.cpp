@@ -123,8 +123,8 @@ bool ManagedObjectContext::hasChanges() const {
     return !inserted_.isEmpty() || !updated_.isEmpty() || !deleted_.isEmpty();
 }
 
-StoreError ManagedObjectContext::lastError() const {
-    StoreError e;
+Error ManagedObjectContext::lastError() const {
+    Error e;
     e.code = db_->errorCode();
     e.message = db_->errorMessage();
     e.userInfo.insert(QStringLiteral("NSSQLiteErrorDomain"), QString::number(e.code));
@@ -143,25 +143,24 @@ void ManagedObjectContext::beginReadBatch() {
         batchEnd_->start();
 }
 
-std::optional<StoreError> ManagedObjectContext::beginWriteBatch() {
+Result<void> ManagedObjectContext::beginWriteBatch() {
     if (writeBatch_)
-        return std::nullopt;
+        return {};
     // A batch begun for reading may see an older state than the lock will.
     endReadBatch();
     if (!sqlite3_get_autocommit(db_->handle()))
-        return std::nullopt;
+        return {};
     SqliteStatement& begin = db_->cached(QStringLiteral("BEGIN IMMEDIATE"));
-    const bool began = begin.step() == SQLITE_DONE;
-    std::optional<StoreError> error;
-    if (!began)
-        error = lastError();
+    if (begin.step() != SQLITE_DONE) {
+        const Error failure = lastError();
+        begin.reset();
+        return failure;
+    }
     begin.reset();
-    if (!began)
-        return error;
     readBatch_ = writeBatch_ = true;
     if (QCoreApplication::instance())
         batchEnd_->start();
-    return std::nullopt;
+    return {};
 }
 
 void ManagedObjectContext::endReadBatch() {
@@ -240,7 +239,7 @@ ObjectPtr ManagedObjectContext::objectForRow(const EntityDescription& e, qint64 
     return o;
 }
 
-std::optional<StoreError> ManagedObjectContext::takeReadError() {
+std::optional<Error> ManagedObjectContext::takeReadError() {
     return std::exchange(readError_, std::nullopt);
 }
 

@@ -4,7 +4,7 @@
 // transaction.
 #include "model/ManagedObject.h"
 #include "model/Predicate.h"
-#include "model/StoreError.h"
+#include "platform/core/Error.h"
 
 #include <QHash>
 #include <QList>
@@ -35,27 +35,32 @@ public:
     void reset();
     // Writes every pending change in one transaction. On failure nothing is written, the
     // changes stay pending and the error is returned.
-    std::optional<StoreError> save();
+    Result<void> save();
 
-    // Results in the request's order; on failure an empty list and the error in *error.
-    QList<ObjectPtr> fetch(const FetchRequest& request, StoreError* error = nullptr);
-    template <typename T>
-    QList<std::shared_ptr<T>> fetch(const FetchRequest& request, StoreError* error = nullptr) {
+    // Results in the request's order, or the error.
+    Result<QList<ObjectPtr>> tryFetch(const FetchRequest& request);
+    template <typename T> Result<QList<std::shared_ptr<T>>> tryFetch(const FetchRequest& request) {
+        const Result<QList<ObjectPtr>> all = tryFetch(request);
+        if (!all.ok())
+            return all.error();
         QList<std::shared_ptr<T>> out;
-        const QList<ObjectPtr> all = fetch(request, error);
-        out.reserve(all.size());
-        for (const auto& o : all)
+        out.reserve(all.value().size());
+        for (const auto& o : all.value())
             out.append(std::static_pointer_cast<T>(o));
         return out;
     }
+    // The same where a failure is to read as nothing: an empty list.
+    QList<ObjectPtr> fetch(const FetchRequest& request) { return tryFetch(request).valueOr({}); }
+    template <typename T> QList<std::shared_ptr<T>> fetch(const FetchRequest& request) {
+        return tryFetch<T>(request).valueOr({});
+    }
     // How many records the fetch would return: counted by the store on its indexes, then
     // corrected by the unsaved inserts, updates and deletes exactly as a fetch merges them.
-    int count(const FetchRequest& request, StoreError* error = nullptr);
+    Result<int> count(const FetchRequest& request);
     // The records the request matches, counted per value of `key` in one query (the value as
     // text; an integer as its decimal digits). Records without a value of `key` are in no
     // group. Unsaved changes count as they do for count().
-    QHash<QString, qint64> countBy(const FetchRequest& request, const QString& key,
-                                   StoreError* error = nullptr);
+    Result<QHash<QString, qint64>> countBy(const FetchRequest& request, const QString& key);
     // Moves with every insert, update, delete and save: figures derived from fetched records
     // are still good while it stands still.
     quint64 changeCount() const { return changeCount_; }
@@ -63,13 +68,13 @@ public:
     // Pictures are read on first access, where no error can be returned: the first read that
     // failed since the last call is kept here, so that a caller that must not take a damaged
     // store for an empty picture (the export) can ask.
-    std::optional<StoreError> takeReadError();
+    std::optional<Error> takeReadError();
 
     // Takes the store's write lock now and keeps it, with the reads made meanwhile, until the
     // next save or the next turn of the event loop: what a save then writes was decided on
     // what the store held, since no other program can write in between. The error when the
     // lock could not be had (the reads then go on without it).
-    std::optional<StoreError> beginWriteBatch();
+    Result<void> beginWriteBatch();
 
     // Whether a write waits for another program's lock to go (2 s) before it gives up.
     void setWaitWhenBusy(bool wait);
@@ -105,11 +110,11 @@ private:
                            QList<ManagedObject*>& candidates);
     void reindexPending(ManagedObject& object, int attribute);
     void unindexPending(ManagedObject& object);
-    StoreError lastError() const;
+    Error lastError() const;
     // The count behind count() and countBy(): the total, and per value of the attribute at
     // `groupBy` when it is not negative.
-    qint64 countMatching(const FetchRequest& request, int groupBy, QHash<QString, qint64>* groups,
-                         StoreError* error);
+    Result<qint64> countMatching(const FetchRequest& request, int groupBy,
+                                 QHash<QString, qint64>* groups);
 
     SqliteDatabase* db_;
     // Objects are shared by every array that holds them; the map does not keep them alive,
@@ -128,7 +133,7 @@ private:
     };
     QHash<quint32, PendingTextIndex> pendingIndexes_; // by entity << 16 | attribute
     static constexpr qsizetype kPendingIndexThreshold = 64;
-    std::optional<StoreError> readError_;
+    std::optional<Error> readError_;
     bool readBatch_ = false;
     bool writeBatch_ = false; // the batch holds the write lock
     quint64 changeCount_ = 0;

@@ -128,13 +128,12 @@ QString PersistentContainer::storePath() const {
 
 void PersistentContainer::loadPersistentStores(const Completion& completion) {
     StoreDescription description{storePath()};
-    const std::optional<StoreError> error = open(description.path, true);
+    const Result<void> opened = open(description.path, true);
     if (completion)
-        completion(description, error);
+        completion(description, opened.ok() ? std::nullopt : std::optional<Error>(opened.error()));
 }
 
-std::optional<StoreError> PersistentContainer::loadStoreAt(const QString& path,
-                                                           bool snapshotFirst) {
+Result<void> PersistentContainer::loadStoreAt(const QString& path, bool snapshotFirst) {
     return open(path, snapshotFirst);
 }
 
@@ -156,12 +155,12 @@ Result<Backup::Restored> PersistentContainer::restoreFrom(const QString& file) {
     db_->close();
     const Result<Backup::Restored> restored = Backup::restore(path_, file, &upgradeCopy);
     // Opened again whatever came of it: the restored store, or the one that stayed.
-    if (auto error = open(path_, false))
-        return *error;
+    if (const auto error = open(path_, false); !error.ok())
+        return error.error();
     return restored;
 }
 
-std::optional<StoreError> PersistentContainer::upgradeCopy(const QString& path) {
+Result<void> PersistentContainer::upgradeCopy(const QString& path) {
     PersistentContainer copy(QStringLiteral("Pelvane"));
     return copy.loadStoreAt(path, false);
 }
@@ -171,12 +170,12 @@ void PersistentContainer::readWithoutMemoryMap() {
         db_->exec(QStringLiteral("PRAGMA mmap_size=0"));
 }
 
-std::optional<StoreError> PersistentContainer::open(const QString& path, bool snapshotFirst) {
+Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) {
     path_ = path;
     if (isMemory(path)) {
         db_ = std::make_unique<SqliteDatabase>();
         if (!db_->open(path))
-            return StoreError::because(db_->errorCode(), db_->errorMessage());
+            return Error::because(db_->errorCode(), db_->errorMessage());
         db_->exec(QStringLiteral("PRAGMA journal_mode=MEMORY"));
         SqliteStatement version(db_->handle(), QStringLiteral("PRAGMA user_version"));
         const bool fresh = version.step() == SQLITE_ROW && version.columnInt(0) == 0;
@@ -188,10 +187,10 @@ std::optional<StoreError> PersistentContainer::open(const QString& path, bool sn
                 db_->exec(statement);
         }
         context_ = std::make_unique<ManagedObjectContext>(db_.get());
-        return std::nullopt;
+        return {};
     }
     auto failure = [&](int code, const QString& message) {
-        StoreError e;
+        Error e;
         e.code = code;
         e.message = message;
         e.userInfo.insert(QStringLiteral("NSSQLiteErrorDomain"), QString::number(code));
@@ -223,12 +222,13 @@ std::optional<StoreError> PersistentContainer::open(const QString& path, bool sn
     }
     // A table or column missing would make every later statement on it fail, or worse: SQLite
     // reads an unknown quoted column name as a text.
-    auto schemaProblem = [&]() -> std::optional<StoreError> {
+    auto schemaProblem = [&]() -> std::optional<Error> {
         if (const QString missing = StoreSchema::missing(db_->handle()); !missing.isEmpty())
-            return failure(134020, QStringLiteral("The store does not hold what this Pelvane "
-                                                  "needs: %1")
-                                       .arg(missing));
-        return std::nullopt;
+            return failure(ErrorCode::StoreIncomplete,
+                           QStringLiteral("The store does not hold what this Pelvane "
+                                          "needs: %1")
+                               .arg(missing));
+        return {};
     };
 
     SqliteStatement version(db_->handle(), QStringLiteral("PRAGMA user_version"));
@@ -237,7 +237,7 @@ std::optional<StoreError> PersistentContainer::open(const QString& path, bool sn
     const qint64 current = version.columnInt(0);
     version = SqliteStatement();
     if (current > SchemaVersion)
-        return failure(134100,
+        return failure(ErrorCode::StoreIncompatible,
                        QStringLiteral("The model used to open the store is incompatible with the "
                                       "one used to create the store: it was written by a newer "
                                       "Pelvane (store version %1; this one reads up to %2)")
@@ -249,11 +249,11 @@ std::optional<StoreError> PersistentContainer::open(const QString& path, bool sn
         if (current == 0)
             return failure(SQLITE_READONLY, QStringLiteral("attempt to write a readonly database"));
         if (auto problem = schemaProblem())
-            return problem;
+            return *problem;
         db_->exec(QStringLiteral("PRAGMA mmap_size=1073741824"));
         if (!context_)
             context_ = std::make_unique<ManagedObjectContext>(db_.get());
-        return std::nullopt;
+        return {};
     }
     // Small pages keep the bytes each single-coin commit writes low: a commit rewrites every
     // index page it touches.
@@ -269,7 +269,7 @@ std::optional<StoreError> PersistentContainer::open(const QString& path, bool sn
         return failure(db_->errorCode(), db_->errorMessage());
     if (current > 0)
         if (auto problem = schemaProblem())
-            return problem;
+            return *problem;
     if (current > 0 && current < SchemaVersion && snapshotFirst) {
         // Kept as it was before it changes; a snapshot that cannot be written stops nothing.
         const Result<QString> kept = Snapshots::take(path, QStringLiteral("before-upgrade"));
@@ -299,5 +299,5 @@ std::optional<StoreError> PersistentContainer::open(const QString& path, bool sn
     }
     if (!context_)
         context_ = std::make_unique<ManagedObjectContext>(db_.get());
-    return std::nullopt;
+    return {};
 }

@@ -3,8 +3,8 @@
 // the one main context over it.
 #include "model/ManagedObjectContext.h"
 #include "model/Restore.h"
-#include "model/StoreError.h"
 #include "model/StoreSchema.h"
+#include "platform/core/Error.h"
 
 #include <QString>
 #include <functional>
@@ -25,8 +25,7 @@ public:
     explicit PersistentContainer(QString name);
     ~PersistentContainer();
 
-    using Completion =
-        std::function<void(const StoreDescription&, const std::optional<StoreError>&)>;
+    using Completion = std::function<void(const StoreDescription&, const std::optional<Error>&)>;
     void loadPersistentStores(const Completion& completion);
     ManagedObjectContext* viewContext() const { return context_.get(); }
     QString name() const { return name_; }
@@ -42,10 +41,10 @@ public:
 
     // Opens (creates, migrates) the store at the path; a store of an older schema is kept as a
     // snapshot first when `snapshotFirst`.
-    std::optional<StoreError> loadStoreAt(const QString& path, bool snapshotFirst = true);
+    Result<void> loadStoreAt(const QString& path, bool snapshotFirst = true);
     // Brings a copy of a store up to this build's schema (for a restore): opened, migrated
     // without a snapshot of its own, closed.
-    static std::optional<StoreError> upgradeCopy(const QString& path);
+    static Result<void> upgradeCopy(const QString& path);
 
     // Replaces the store with a backup or snapshot (see Backup::restore) while the program runs:
     // the store is closed for it and opened again, and the context forgets what it held. A
@@ -61,7 +60,7 @@ public:
     void readWithoutMemoryMap();
 
 private:
-    std::optional<StoreError> open(const QString& path, bool snapshotFirst);
+    Result<void> open(const QString& path, bool snapshotFirst);
 
     QString name_;
     QString path_;

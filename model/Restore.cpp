@@ -34,19 +34,19 @@ Result<Restored> restore(const QString& storePath, const QString& file, const Up
         return failure(
             SQLITE_CANTOPEN,
             QStringLiteral("Cannot write into %1").arg(QFileInfo(storePath).absolutePath()));
-    auto fail = [&](const StoreError& e) {
+    auto fail = [&](const Error& e) {
         for (const char* part : {"", "-journal", "-wal", "-shm"})
             QFile::remove(temporary + QLatin1String(part));
         return e;
     };
-    if (auto error = copyStore(file, temporary, {}))
-        return fail(
-            failure(error->code, QStringLiteral("Cannot copy %1: %2").arg(file, error->message)));
+    if (const auto error = copyStore(file, temporary, {}); !error.ok())
+        return fail(failure(error.error().code,
+                            QStringLiteral("Cannot copy %1: %2").arg(file, error.error().message)));
     // An older schema is brought up to date on the copy, never on the file given.
-    if (auto error = upgrade(temporary))
-        return fail(
-            failure(error->code,
-                    QStringLiteral("Cannot bring %1 up to date: %2").arg(file, error->message)));
+    if (const auto error = upgrade(temporary); !error.ok())
+        return fail(failure(
+            error.error().code,
+            QStringLiteral("Cannot bring %1 up to date: %2").arg(file, error.error().message)));
     // Everything in the log goes into the file, and the log goes with the last connection: a
     // log left behind means another program has the store open, and it would lay its pages
     // over the restored file. Asked before the snapshot, so that a refusal leaves nothing
@@ -59,7 +59,7 @@ Result<Restored> restore(const QString& storePath, const QString& file, const Up
         }
         return QFileInfo::exists(storePath + QStringLiteral("-wal"));
     };
-    const StoreError busy = failure(
+    const Error busy = failure(
         SQLITE_BUSY, QStringLiteral("The collection is open in another Pelvane: close it and try "
                                     "again"));
     if (QFileInfo(storePath).exists()) {
@@ -75,8 +75,8 @@ Result<Restored> restore(const QString& storePath, const QString& file, const Up
         if (inUse())
             return fail(busy);
     }
-    if (auto error = replace(temporary, storePath))
-        return fail(*error);
+    if (const auto error = replace(temporary, storePath); !error.ok())
+        return fail(error.error());
     QFile::remove(storePath + QStringLiteral("-shm"));
     return out;
 }

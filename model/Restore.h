@@ -13,7 +13,7 @@ struct Restored {
 };
 
 // Brings the store at the path to this build's schema (the container's migration).
-using Upgrade = std::function<std::optional<StoreError>(const QString& path)>;
+using Upgrade = std::function<Result<void>(const QString& path)>;
 
 // Replaces the store at `storePath` with the backup or snapshot `file`: checked, copied beside
 // the store and brought up to date there, the current store kept as a snapshot, then renamed

@@ -55,7 +55,7 @@ bool due(const QString& storePath, const QDateTime& now) {
 Result<QString> take(const QString& storePath, const QString& occasion, const QDate& today) {
     const QString dir = folder(storePath);
     if (!QDir().mkpath(dir))
-        return StoreError::because(14, QStringLiteral("Cannot make the folder %1").arg(dir));
+        return Error::because(14, QStringLiteral("Cannot make the folder %1").arg(dir));
     QString name = kPrefix + today.toString(QStringLiteral("yyyy-MM-dd"));
     // A snapshot taken for an occasion never replaces one taken earlier that day.
     if (!occasion.isEmpty())

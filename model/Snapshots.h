@@ -2,7 +2,7 @@
 // Snapshots: backups the program takes by itself into "Backups/" beside the store, once a day
 // when the store has changed, before a restore and before a schema migration. Kept by calendar:
 // the last 7 days, 4 weeks and 6 months that have one.
-#include "model/StoreError.h"
+#include "platform/core/Error.h"
 
 #include <QDate>
 #include <QDateTime>

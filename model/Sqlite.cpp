@@ -1,5 +1,7 @@
 #include "model/Sqlite.h"
 
+#include "platform/core/Error.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -8,6 +10,11 @@
 #include <sqlite3.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
+
+// The codes the rest of the program tells apart are SQLite's own.
+static_assert(ErrorCode::Busy == SQLITE_BUSY && ErrorCode::Locked == SQLITE_LOCKED &&
+              ErrorCode::CantOpen == SQLITE_CANTOPEN && ErrorCode::Corrupt == SQLITE_CORRUPT &&
+              ErrorCode::NotADb == SQLITE_NOTADB);
 
 namespace {
 // Root may write anywhere but on a medium mounted read-only.

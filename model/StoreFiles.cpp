@@ -14,8 +14,8 @@
 
 namespace StoreFiles {
 
-StoreError failure(int code, const QString& message) {
-    return StoreError::because(code, message);
+Error failure(int code, const QString& message) {
+    return Error::because(code, message);
 }
 
 Connection::Connection(const QString& path, Mode mode) {
@@ -36,7 +36,7 @@ Connection::~Connection() {
     sqlite3_close_v2(db_);
 }
 
-StoreError Connection::error() const {
+Error Connection::error() const {
     return failure(db_ ? sqlite3_extended_errcode(db_) : rc_,
                    db_ ? QString::fromUtf8(sqlite3_errmsg(db_))
                        : QStringLiteral("unable to open database file"));
@@ -73,19 +73,19 @@ bool syncFile(const QString& path) {
 }
 } // namespace
 
-StoreError systemError(const QString& doing) {
+Error systemError(const QString& doing) {
     return failure(SQLITE_IOERR, QStringLiteral("%1: %2").arg(
                                      doing, QString::fromLocal8Bit(std::strerror(errno))));
 }
 
 // Renames `from` over `to` for good: synced first, and the folder after.
-std::optional<StoreError> replace(const QString& from, const QString& to) {
+Result<void> replace(const QString& from, const QString& to) {
     if (!syncFile(from))
         return systemError(QStringLiteral("Cannot write %1").arg(to));
     if (::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
         return systemError(QStringLiteral("Cannot replace %1").arg(to));
     syncFile(QFileInfo(to).absolutePath());
-    return std::nullopt;
+    return {};
 }
 
 // A name beside the target for the copy being made; the file is created empty.
@@ -132,8 +132,8 @@ bool copyFile(const QString& from, const QString& to, const Progress& progress) 
 
 // Page by page from one database into another, as of one moment: should another connection
 // write to the source meanwhile, SQLite starts the copy again.
-std::optional<StoreError> copyStore(const QString& sourcePath, const QString& destination,
-                                    const Progress& progress) {
+Result<void> copyStore(const QString& sourcePath, const QString& destination,
+                       const Progress& progress) {
     // Nothing writes to a store whose folder cannot be written: its file and its log, as they
     // are, are the store. They are copied, and the copy takes the log in when it is opened.
     if (const QFileInfo info(sourcePath); !QFileInfo(info.absolutePath()).isWritable()) {
@@ -145,7 +145,7 @@ std::optional<StoreError> copyStore(const QString& sourcePath, const QString& de
         Connection copy(destination, Connection::Create);
         if (!copy.ok() || !copy.exec("PRAGMA journal_mode=DELETE"))
             return copy.error();
-        return std::nullopt;
+        return {};
     }
     Connection source(sourcePath, Connection::Read);
     if (!source.ok())
@@ -164,7 +164,7 @@ std::optional<StoreError> copyStore(const QString& sourcePath, const QString& de
         Connection copy(destination, Connection::Create);
         if (!copy.ok() || !copy.exec("PRAGMA journal_mode=DELETE"))
             return copy.error();
-        return std::nullopt;
+        return {};
     }
     source.exec("COMMIT");
     // Pages read where they lie; the copy written without a journal of its own, since it is
@@ -188,13 +188,13 @@ std::optional<StoreError> copyStore(const QString& sourcePath, const QString& de
     sqlite3_backup_finish(backup);
     if (rc != SQLITE_DONE) {
         // The reason is the source's when it could not be read (a damaged page).
-        const StoreError fromSource = source.error();
+        const Error fromSource = source.error();
         return fromSource.code != SQLITE_OK ? fromSource : copy.error();
     }
     // A copy stands alone: no write-ahead log beside it.
     if (!copy.exec("PRAGMA journal_mode=DELETE"))
         return copy.error();
-    return std::nullopt;
+    return {};
 }
 
 std::optional<QString> integrityProblem(const Connection& db) {
@@ -204,7 +204,7 @@ std::optional<QString> integrityProblem(const Connection& db) {
         return db.error().message;
     if (*verdict != QLatin1String("ok"))
         return *verdict;
-    return std::nullopt;
+    return {};
 }
 
 Result<qint64> countCoins(const Connection& db) {

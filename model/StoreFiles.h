@@ -1,7 +1,7 @@
 #pragma once
 // The file work behind backups and restores: connections opened for one job, copies of a store
 // as of one moment, and renames made for good.
-#include "model/StoreError.h"
+#include "platform/core/Error.h"
 
 #include <QString>
 #include <functional>
@@ -14,9 +14,9 @@ namespace StoreFiles {
 // Called now and then while a copy is made: how much is done of how much.
 using Progress = std::function<void(int done, int total)>;
 
-StoreError failure(int code, const QString& message);
+Error failure(int code, const QString& message);
 // The system's reason for the last failed call, after what was being done.
-StoreError systemError(const QString& doing);
+Error systemError(const QString& doing);
 
 // One connection, closed whatever way the function leaves.
 class Connection {
@@ -34,7 +34,7 @@ public:
 
     bool ok() const { return rc_ == 0; }
     sqlite3* handle() const { return db_; }
-    StoreError error() const;
+    Error error() const;
     // The first column of the first row as text; nothing when the statement fails.
     std::optional<QString> text(const char* sql) const;
     bool exec(const char* sql) const;
@@ -49,11 +49,11 @@ bool sameFile(const QString& a, const QString& b);
 // A new empty file beside the target for the copy being made; empty when none can be made.
 QString temporaryBeside(const QString& target);
 // Renames `from` over `to` for good: synced first, and the folder after.
-std::optional<StoreError> replace(const QString& from, const QString& to);
+Result<void> replace(const QString& from, const QString& to);
 // The store at `sourcePath` as of one moment, into the new file `destination`, standing alone
 // (no log beside it).
-std::optional<StoreError> copyStore(const QString& sourcePath, const QString& destination,
-                                    const Progress& progress);
+Result<void> copyStore(const QString& sourcePath, const QString& destination,
+                       const Progress& progress);
 // SQLite's verdict on the open database when it is not "ok".
 std::optional<QString> integrityProblem(const Connection& db);
 Result<qint64> countCoins(const Connection& db);

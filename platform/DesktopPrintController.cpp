@@ -27,10 +27,10 @@ void DesktopPrintController::present(
                                  completion(false, QString());
                              return;
                          }
-                         QString error;
-                         const bool printed = PrintController::print(*shown, *printer, &error);
+                         const Result<void> printed = PrintController::print(*shown, *printer);
                          if (completion)
-                             completion(printed, error);
+                             completion(printed.ok(),
+                                        printed.ok() ? QString() : printed.error().message);
                      });
     dialog->open();
 }

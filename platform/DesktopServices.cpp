@@ -112,20 +112,20 @@ void DesktopShareSheet::present(const QList<ShareItem>& items, const QStringList
                                                    QFileInfo(path).fileName());
                 dialog->setAcceptMode(QFileDialog::AcceptSave);
                 dialog->setAttribute(Qt::WA_DeleteOnClose);
-                QObject::connect(dialog, &QFileDialog::fileSelected,
-                                 [anchor, path](const QString& target) {
-                                     // Written beside the chosen file and renamed: a failed copy
-                                     // leaves it as it was.
-                                     QString error;
-                                     if (Files::copyAtomically(path, target, &error))
-                                         return;
-                                     auto* box = new QMessageBox(
-                                         QMessageBox::Warning, QStringLiteral("Save As"),
-                                         QStringLiteral("Cannot write %1: %2").arg(target, error),
-                                         QMessageBox::Ok, anchor);
-                                     box->setAttribute(Qt::WA_DeleteOnClose);
-                                     box->open();
-                                 });
+                QObject::connect(
+                    dialog, &QFileDialog::fileSelected, [anchor, path](const QString& target) {
+                        // Written beside the chosen file and renamed: a failed copy
+                        // leaves it as it was.
+                        const Result<void> copied = Files::copyAtomically(path, target);
+                        if (copied.ok())
+                            return;
+                        auto* box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Save As"),
+                                                    QStringLiteral("Cannot write %1: %2")
+                                                        .arg(target, copied.error().message),
+                                                    QMessageBox::Ok, anchor);
+                        box->setAttribute(Qt::WA_DeleteOnClose);
+                        box->open();
+                    });
                 dialog->open();
             });
             menu->addAction(QStringLiteral("Open"),

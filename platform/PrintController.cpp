@@ -36,7 +36,7 @@ void picturesInPoints(QTextDocument& document) {
 }
 } // namespace
 
-bool PrintController::print(const QTextDocument& document, QPrinter& printer, QString* error) {
+Result<void> PrintController::print(const QTextDocument& document, QPrinter& printer) {
     // A copy: the shown document keeps its own layout.
     std::unique_ptr<QTextDocument> copy(document.clone());
     picturesInPoints(*copy);
@@ -49,9 +49,8 @@ bool PrintController::print(const QTextDocument& document, QPrinter& printer, QS
     const int copies = printer.supportsMultipleCopies() ? 1 : printer.copyCount();
     QPainter painter;
     if (!painter.begin(&printer)) {
-        if (error)
-            *error = QStringLiteral("The printer cannot be opened.");
-        return false;
+        return Error::because(ErrorCode::CantOpen, QStringLiteral("The printer cannot be opened."),
+                              QStringLiteral("printing"));
     }
     const QRectF bounds(QPointF(0, 0), printer.paperRect(QPrinter::DevicePixel).size());
     for (int copy = 0; copy < copies; ++copy)
@@ -61,9 +60,8 @@ bool PrintController::print(const QTextDocument& document, QPrinter& printer, QS
             renderer.drawPage(painter, page, bounds);
         }
     if (!painter.end() || printer.printerState() == QPrinter::Error) {
-        if (error)
-            *error = QStringLiteral("The printer reported an error.");
-        return false;
+        return Error::because(ErrorCode::CantOpen, QStringLiteral("The printer reported an error."),
+                              QStringLiteral("printing"));
     }
-    return true;
+    return {};
 }

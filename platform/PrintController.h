@@ -1,6 +1,8 @@
 #pragma once
 // The print dialog: prints a styled document on the printer the user picks (or into a PDF
 // file), with the number of copies offered. Never blocks: the answer comes to `completion`.
+#include "platform/core/Error.h"
+
 #include <QString>
 #include <functional>
 
@@ -25,6 +27,6 @@ public:
 
     // Lays a copy of the document out on the printer's paper, inside its printable area, and
     // prints every page, as many times as the printer was asked for copies it cannot make
-    // itself. False with the reason when the printer fails.
-    static bool print(const QTextDocument& document, QPrinter& printer, QString* error = nullptr);
+    // itself; or why the printer failed.
+    static Result<void> print(const QTextDocument& document, QPrinter& printer);
 };

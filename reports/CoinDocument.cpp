@@ -166,12 +166,11 @@ QByteArray CoinDocument::pdf(QTextDocument& document,
     return renderer.pdf(progress);
 }
 
-bool CoinDocument::writePdfFile(const QString& path, const QByteArray& bytes) {
-    QString error;
-    if (Files::writeAtomically(path, bytes, &error)) {
+Result<void> CoinDocument::writePdfFile(const QString& path, const QByteArray& bytes) {
+    const Result<void> written = Files::writeAtomically(path, bytes);
+    if (written.ok())
         Console::print(QStringLiteral("wrote PDF file with multiple pages to: ") + path);
-        return true;
-    }
-    Console::print(QStringLiteral("Could not create PDF file: ") + error);
-    return false;
+    else
+        Console::print(QStringLiteral("Could not create PDF file: ") + written.error().message);
+    return written;
 }

@@ -3,6 +3,7 @@
 // print screen's listing. Both open with the same title and put each coin's pictures inline at
 // one width; they differ in the title's size and in the lines of each coin.
 #include "model/Records.h"
+#include "platform/core/Error.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -54,7 +55,7 @@ public:
                           const std::function<void(int, int)>& progress = {});
 
     // Replaces the file at `path` whole, or leaves the earlier one; says which on the console.
-    static bool writePdfFile(const QString& path, const QByteArray& bytes);
+    static Result<void> writePdfFile(const QString& path, const QByteArray& bytes);
 
     // The coin blocks' font: one fixed font for every screen.
     static QFont blockFont();

@@ -37,22 +37,23 @@ int run(ManagedObjectContext& context, const QString& collection, const QStringL
         group.value = QString::number(*Numbers::parseInt16(group.value));
     const QString path =
         pdfFile.isEmpty() ? Files::documentsDirectory() + report.pdfFileName : pdfFile;
-    if (QString why; !Files::isWritableTarget(path, &why)) {
-        std::fprintf(stderr, "Cannot write %s: %s\n", qPrintable(path), qPrintable(why));
+    if (const Result<void> target = Files::isWritableTarget(path); !target.ok()) {
+        std::fprintf(stderr, "Cannot write %s: %s\n", qPrintable(path),
+                     qPrintable(target.error().message));
         return 1;
     }
     // A store that cannot be read is not taken for a group without coins, nor a damaged
     // picture for a coin without one.
-    auto unreadable = [&collection](const StoreError& error) {
+    auto unreadable = [&collection](const Error& error) {
         std::fprintf(stderr, "Cannot read the collection %s: %s\n", qPrintable(collection),
                      qPrintable(error.message));
         return 1;
     };
     context.takeReadError();
-    StoreError failure;
-    const QList<CoinPtr> coins = context.fetch<Coins>(GroupReport::listRequest(group), &failure);
-    if (failure.code != 0)
-        return unreadable(failure);
+    const Result<QList<CoinPtr>> found = context.tryFetch<Coins>(GroupReport::listRequest(group));
+    if (!found.ok())
+        return unreadable(found.error());
+    const QList<CoinPtr>& coins = found.value();
     if (coins.isEmpty()) {
         std::fprintf(stderr, "No coins with the %s %s in %s: nothing written to %s.\n",
                      qPrintable(arguments[0]), qPrintable(arguments[1]), qPrintable(collection),
@@ -63,9 +64,10 @@ int run(ManagedObjectContext& context, const QString& collection, const QStringL
     if (auto error = context.takeReadError())
         return unreadable(*error);
     // Said as the breakdown's share button says it, but a failure goes to stderr.
-    QString error;
-    if (!Files::writeAtomically(path, CoinDocument::pdf(*document), &error)) {
-        std::fprintf(stderr, "Cannot write %s: %s\n", qPrintable(path), qPrintable(error));
+    if (const Result<void> written = Files::writeAtomically(path, CoinDocument::pdf(*document));
+        !written.ok()) {
+        std::fprintf(stderr, "Cannot write %s: %s\n", qPrintable(path),
+                     qPrintable(written.error().message));
         return 1;
     }
     std::printf("wrote PDF file with multiple pages to: %s\n", qPrintable(path));

@@ -28,9 +28,9 @@ void saveRecord(const ObjectPtr& record) {
     ManagedObjectContext* context = record ? record->managedObjectContext() : nullptr;
     if (!context)
         return;
-    if (auto error = context->save())
+    if (const auto error = context->save(); !error.ok())
         Console::print(QStringLiteral("Could not save. %1, %2")
-                           .arg(error->description(), error->userInfoDescription()));
+                           .arg(error.error().description(), error.error().userInfoDescription()));
 }
 
 } // namespace Application

@@ -18,9 +18,9 @@ protected:
     void reopen() {
         container.reset();
         container = std::make_unique<PersistentContainer>(QStringLiteral("Pelvane"));
-        std::optional<StoreError> failure;
+        std::optional<Error> failure;
         container->loadPersistentStores(
-            [&](const StoreDescription&, const std::optional<StoreError>& e) { failure = e; });
+            [&](const StoreDescription&, const std::optional<Error>& e) { failure = e; });
         ASSERT_FALSE(failure.has_value()) << failure->description().toStdString();
     }
     ManagedObjectContext& ctx() { return *container->viewContext(); }

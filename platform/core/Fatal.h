@@ -8,6 +8,24 @@
 // followed by that same abort, so no caller ever continues past a fatal stop.
 [[noreturn]] void fatalError(const QString& message, const char* source, int line);
 
+// The designed stops whose place is fixed, named once: the user reads the source and the line,
+// which stay as they are wherever the code that stops moves.
+struct StopSite {
+    const char* source;
+    int line;
+};
+namespace StopSites {
+inline constexpr StopSite StoreLoad{"Pelvane/AppDelegate", 46};
+inline constexpr StopSite ContextSave{"Pelvane/AppDelegate", 63};
+inline constexpr StopSite ExportPicture{"Pelvane/ExportViewController", 160};
+inline constexpr StopSite ImportStoreLoad{"Pelvane/ImportViewController", 217};
+inline constexpr StopSite ImportFieldCount{"Pelvane/ImportViewController", 262};
+inline constexpr StopSite ImportNumber{"Pelvane/ImportViewController", 271};
+} // namespace StopSites
+[[noreturn]] inline void fatalError(const QString& message, StopSite at) {
+    fatalError(message, at.source, at.line);
+}
+
 namespace Fatal {
 // What a designed stop does instead of the default: the window session shows the message
 // first, fuzz targets and tests tell it from a crash (a handler may throw to unwind).

@@ -32,100 +32,94 @@ void setDocumentsDirectory(const QString& dir) {
     documentsSetting() = dir;
 }
 
-bool writeAll(QIODevice& device, const QByteArray& bytes, QString* error) {
+namespace {
+Error writing(const QString& path, const QString& why) {
+    return Error::because(ErrorCode::CantOpen, why, QStringLiteral("writing ") + path);
+}
+} // namespace
+
+Result<void> writeAll(QIODevice& device, const QByteArray& bytes) {
     // A write cut short by a full disk or a size limit reports no reason; the next one fails
     // with the system's.
     qint64 n = 0;
     for (qint64 done = 0; done < bytes.size(); done += n)
-        if ((n = device.write(bytes.constData() + done, bytes.size() - done)) <= 0) {
-            if (error)
-                *error = device.errorString();
-            return false;
-        }
-    return true;
+        if ((n = device.write(bytes.constData() + done, bytes.size() - done)) <= 0)
+            return Error::because(ErrorCode::CantOpen, device.errorString());
+    return {};
 }
 
-bool isWritableTarget(const QString& path, QString* error) {
+Result<void> isWritableTarget(const QString& path) {
     // Renaming a new file over a device node or a pipe would replace it, even for root.
     const QFileInfo info(path);
     if (!info.exists() || info.isFile())
-        return true;
-    if (error)
-        *error = QStringLiteral("it is not a regular file");
-    return false;
+        return {};
+    return writing(path, QStringLiteral("it is not a regular file"));
 }
 
-bool copyAtomically(const QString& from, const QString& to, QString* error) {
-    if (!isWritableTarget(to, error))
-        return false;
+Result<void> copyAtomically(const QString& from, const QString& to) {
+    if (Result<void> target = isWritableTarget(to); !target.ok())
+        return target;
     QFile in(from);
-    if (!in.open(QIODevice::ReadOnly)) {
-        if (error)
-            *error = in.errorString();
-        return false;
-    }
+    if (!in.open(QIODevice::ReadOnly))
+        return Error::because(ErrorCode::CantOpen, in.errorString(),
+                              QStringLiteral("reading ") + from);
     QSaveFile out(to);
-    if (!out.open(QIODevice::WriteOnly)) {
-        if (error)
-            *error = out.errorString();
-        return false;
-    }
+    if (!out.open(QIODevice::WriteOnly))
+        return writing(to, out.errorString());
     while (!in.atEnd()) {
         const QByteArray chunk = in.read(1 << 20);
         if (chunk.isEmpty() && in.error() != QFileDevice::NoError) {
-            if (error)
-                *error = in.errorString();
             out.cancelWriting();
-            return false;
+            return Error::because(ErrorCode::CantOpen, in.errorString(),
+                                  QStringLiteral("reading ") + from);
         }
-        if (!writeAll(out, chunk, error)) {
+        if (const Result<void> written = writeAll(out, chunk); !written.ok()) {
             out.cancelWriting();
-            return false;
+            return writing(to, written.error().message);
         }
     }
-    if (!out.flush() || !out.commit()) {
-        if (error)
-            *error = out.errorString();
-        return false;
-    }
-    return true;
+    if (!out.flush() || !out.commit())
+        return writing(to, out.errorString());
+    return {};
 }
 
-bool writeAtomically(const QString& path, const QByteArray& bytes, QString* error) {
-    if (!isWritableTarget(path, error))
-        return false;
+Result<void> writeAtomically(const QString& path, const QByteArray& bytes) {
+    if (Result<void> target = isWritableTarget(path); !target.ok())
+        return target;
     QSaveFile file(path);
     // Unbuffered: a small file would otherwise sit in the buffer until commit(), which does
     // not notice that writing it out failed and puts the cut file in place of the earlier one.
-    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeAll(file, bytes, error) &&
-        file.commit())
-        return true;
-    if (error && (file.error() != QFileDevice::NoError || error->isEmpty()))
-        *error = file.errorString();
-    return false;
-}
-
-bool writeTextAtomically(const QString& path, const QString& text, QString* error) {
-    return writeAtomically(path, text.toUtf8(), error);
-}
-
-bool readText(const QString& path, QString& text, QString* error) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        if (error)
-            *error = file.errorString();
-        return false;
+    QString why;
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        const Result<void> written = writeAll(file, bytes);
+        if (written.ok() && file.commit())
+            return {};
+        if (!written.ok())
+            why = written.error().message;
     }
+    if (file.error() != QFileDevice::NoError || why.isEmpty())
+        why = file.errorString();
+    return writing(path, why);
+}
+
+Result<void> writeTextAtomically(const QString& path, const QString& text) {
+    return writeAtomically(path, text.toUtf8());
+}
+
+Result<QString> readText(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return Error::because(ErrorCode::CantOpen, file.errorString(),
+                              QStringLiteral("reading ") + path);
     const QByteArray bytes = file.readAll();
     auto encoding = QStringConverter::encodingForData(bytes);
     QStringDecoder decoder(encoding.value_or(QStringConverter::Utf8));
-    text = decoder(bytes);
-    if (decoder.hasError()) {
-        if (error)
-            *error = QStringLiteral("The file is not text in a known encoding.");
-        return false;
-    }
-    return true;
+    QString text = decoder(bytes);
+    if (decoder.hasError())
+        return Error::because(ErrorCode::CantOpen,
+                              QStringLiteral("The file is not text in a known encoding."),
+                              QStringLiteral("reading ") + path);
+    return text;
 }
 
 } // namespace Files

@@ -104,10 +104,9 @@ struct FakePrintController : PrintController {
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(outputFile);
         printer.setCopyCount(copies);
-        QString error;
-        const bool printed = PrintController::print(document, printer, &error);
+        const Result<void> printed = PrintController::print(document, printer);
         if (completion)
-            completion(printed, error);
+            completion(printed.ok(), printed.ok() ? QString() : printed.error().message);
     }
 };
 

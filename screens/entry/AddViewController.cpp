@@ -29,8 +29,8 @@ void AddViewController::SaveNewCardButtonClicked() {
     managedObjectContext = Application::viewContext();
     auto coin = managedObjectContext->insert<Coins>();
     CoinFormRules::applyAddForm(*coin, texts, CoinID);
-    if (auto error = managedObjectContext->save())
-        Console::log(error->description());
+    if (const auto error = managedObjectContext->save(); !error.ok())
+        Console::log(error.error().description());
     Console::log(QStringLiteral("Back button Clicked"));
     Console::log(CalledFromList);
     performUnwind(QStringLiteral("unwindToList"));

@@ -169,7 +169,7 @@ void CoinFormViewController::loadPickerLists() {
         FetchRequest request(QString::fromLatin1(entity));
         request.sortDescriptors = {{QString::fromLatin1(key), true}};
         request.returnsObjectsAsFaults = false;
-        for (const ObjectPtr& record : fetchOrPrint(*context, request))
+        for (const ObjectPtr& record : fetchOrPrint(*context, request).valueOr({}))
             into.append(record->value(0).toString());
     };
     load("StrikeCharacters", "strike", StrikeCharacterList);

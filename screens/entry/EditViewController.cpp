@@ -92,7 +92,7 @@ void EditViewController::SaveButtonClicked() {
     request.predicate = Predicate::andPredicate(
         {Predicate::format(QStringLiteral("id = %@"), QString::number(SelectedCoinID))});
     request.returnsObjectsAsFaults = false;
-    Results = fetchOrPrint<Coins>(*managedObjectContext, request);
+    Results = fetchOrPrint<Coins>(*managedObjectContext, request).valueOr({});
     ResultsCount = int(Results.size());
     if (ResultsCount > 0) {
         CoinFormRules::applyEditForm(*Results.first(), formTexts());
@@ -128,7 +128,8 @@ void EditViewController::removeImage(bool front) {
         FetchRequest request(QStringLiteral("Coins"));
         request.predicate = Predicate::andPredicate(terms);
         request.returnsObjectsAsFaults = false;
-        const QList<CoinPtr> found = fetchOrPrint<Coins>(*Application::viewContext(), request);
+        const QList<CoinPtr> found =
+            fetchOrPrint<Coins>(*Application::viewContext(), request).valueOr({});
         if (found.isEmpty())
             return;
         found.first()->setValue(front ? Coins::Attr::frontImage : Coins::Attr::backImage,

@@ -39,11 +39,10 @@ void NotesViewController::SaveButtonClicked() {
         {Predicate::format(QStringLiteral("denomination = %@"), SelectedDenomination),
          Predicate::format(QStringLiteral("year = %@"), QString::number(SelectedYear))});
     request.returnsObjectsAsFaults = false;
-    StoreError error;
-    const QList<CoinPtr> found = fetchOrPrint<Coins>(*managedObjectContext, request, &error);
-    if (error.code == 0) {
-        Results = found;
-        ResultsCount = int(found.size());
+    if (const Result<QList<CoinPtr>> found = fetchOrPrint<Coins>(*managedObjectContext, request);
+        found.ok()) {
+        Results = found.value();
+        ResultsCount = int(Results.size());
     }
     if (ResultsCount >= 1) {
         Results.first()->setNotes(NotesTextView->text());

@@ -78,10 +78,9 @@ void ExportViewController::CreateUpdateFile() {
     ExportButton->setEnabled(false);
     ExportTextView->setText(QString());
     managedObjectContext = Application::viewContext();
-    StoreError readError;
-    const QList<CoinPtr> fetched = Exchange::coinsInFileOrder(*managedObjectContext, &readError);
+    const Result<QList<CoinPtr>> fetched = Exchange::coinsInFileOrder(*managedObjectContext);
     theEntryList.clear();
-    for (const CoinPtr& coin : fetched)
+    for (const CoinPtr& coin : fetched.valueOr({}))
         theEntryList.append(coin);
     ExportTextView->setText(QString());
     ProgressView_->setProgress(0);
@@ -100,19 +99,18 @@ void ExportViewController::CreateUpdateFile() {
             },
             Qt::QueuedConnection);
     };
-    const QByteArray text = readError.code != 0
-                                ? QByteArray()
-                                : Exchange::exchangeText(theEntryList, progressStep, &readError);
-    if (readError.code != 0) {
+    const Result<QByteArray> text =
+        fetched.ok() ? Exchange::exchangeText(theEntryList, progressStep) : fetched.error();
+    if (!text.ok()) {
         // A file from a collection read in part would replace a good backup: nothing is
         // offered to save.
         after(1, [this] { activityIndicator->stopAnimating(); });
         present(AlertController::okAlert(
             QStringLiteral("Data Export File"),
-            QStringLiteral("The collection cannot be read: %1").arg(readError.message)));
+            QStringLiteral("The collection cannot be read: %1").arg(text.error().message)));
         return;
     }
-    DataString = QString::fromUtf8(text);
+    DataString = QString::fromUtf8(text.value());
     ExportTextView->setText(*DataString);
     EmailButton->setEnabled(true);
     SaveButton->setEnabled(true);
@@ -129,9 +127,10 @@ void ExportViewController::CreateUpdateFile() {
 void ExportViewController::SaveToFiles() {
     const QString path = Files::temporaryDirectory() + kFileName;
     Console::log(path);
-    QString error;
-    if (!Files::writeTextAtomically(path, DataString.value_or(QString()), &error)) {
-        Console::log(error);
+    if (const Result<void> written =
+            Files::writeTextAtomically(path, DataString.value_or(QString()));
+        !written.ok()) {
+        Console::log(written.error().message);
         return;
     }
     ShareItem file;
@@ -148,10 +147,12 @@ void ExportViewController::WriteTextFile() {
     const QString text = ExportTextView->text();
     // No such file ships with the program, so the temporary folder is always the place.
     const QString path = Files::temporaryDirectory() + kFileName;
-    Files::writeTextAtomically(path, text);
-    QString readBack;
-    if (Files::readText(path, readBack))
-        ExportTextView->setText(readBack);
+    // The text is shown as the file holds it; a file that could not be written is said, and
+    // the mail then carries the file as it was.
+    if (const Result<void> written = Files::writeTextAtomically(path, text); !written.ok())
+        Console::log(written.error().message);
+    if (const Result<QString> readBack = Files::readText(path); readBack.ok())
+        ExportTextView->setText(readBack.value());
     if (Platform::mail().canSendMail()) {
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly))

@@ -151,7 +151,7 @@ void BreakdownTableViewController::load() {
     // A failed fetch leaves the list empty, as does a screen that was handed no group.
     if (group_) {
         group_->ascending = SortAsc.value_or(true);
-        CoinList = fetchOrPrint<Coins>(*context, GroupReport::listRequest(*group_));
+        CoinList = fetchOrPrint<Coins>(*context, GroupReport::listRequest(*group_)).valueOr({});
     }
     for (const CoinPtr& coin : std::as_const(CoinList)) {
         value += coin->value() * float(coin->quantity());

@@ -154,10 +154,11 @@ void GroupTableViewController::refreshCounts() {
     if (countsAt_ == context->changeCount())
         return;
     // A failed count is printed as a failed fetch is, and goes on with nothing counted.
-    StoreError error;
-    counts_ = context->countBy(FetchRequest(QStringLiteral("Coins")), countKey_, &error);
-    if (error.code != 0)
-        Console::print(QStringLiteral("Could not fetch. %1").arg(error.description()));
+    const Result<QHash<QString, qint64>> counted =
+        context->countBy(FetchRequest(QStringLiteral("Coins")), countKey_);
+    if (!counted.ok())
+        Console::print(QStringLiteral("Could not fetch. %1").arg(counted.error().description()));
+    counts_ = counted.valueOr({});
     countsAt_ = context->changeCount();
 }
 

@@ -52,7 +52,8 @@ void PrintCoinsViewController::fetch() {
         return;
     // In the direction last chosen on a group screen, which the group carries, not the
     // breakdown list's own.
-    CoinList = fetchOrPrint<Coins>(*managedObjectContext, GroupReport::listingRequest(*group_));
+    CoinList = fetchOrPrint<Coins>(*managedObjectContext, GroupReport::listingRequest(*group_))
+                   .valueOr({});
 }
 
 void PrintCoinsViewController::CreateFileClick() {

@@ -94,7 +94,7 @@ void MainListTableViewController::fetchCoins() {
     request.returnsObjectsAsFaults = false;
     if (const SortChoice* choice = MainListSorting::choiceFor(SortName.value_or(QString())))
         request.sortDescriptors = {{choice->key, ascending}};
-    const QList<CoinPtr> fetched = fetchOrPrint<Coins>(*managedObjectContext, request);
+    const QList<CoinPtr> fetched = fetchOrPrint<Coins>(*managedObjectContext, request).valueOr({});
     CoinCount = 0;
     for (const CoinPtr& coin : fetched) {
         CoinList.append(coin);

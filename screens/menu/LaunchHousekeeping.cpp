@@ -74,7 +74,7 @@ void LaunchHousekeeping::fixIDs() {
     FetchRequest request(QStringLiteral("Coins"));
     request.returnsObjectsAsFaults = false;
     // Appended, not replaced: a second repair in the same life renumbers the earlier ones too.
-    CoinList.append(fetchOrPrint<Coins>(*context, request));
+    CoinList.append(fetchOrPrint<Coins>(*context, request).valueOr({}));
     qint16 counter = 0;
     for (const CoinPtr& coin : std::as_const(CoinList)) {
         if (counter == 32767)

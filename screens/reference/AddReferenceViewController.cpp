@@ -15,7 +15,7 @@ void AddReferenceViewController::viewDidLoad() {
     setUpField(kind().addTitle);
     FetchRequest request(kind().list->entity);
     request.returnsObjectsAsFaults = false;
-    for (const ObjectPtr& record : fetchOrPrint(*Application::viewContext(), request)) {
+    for (const ObjectPtr& record : fetchOrPrint(*Application::viewContext(), request).valueOr({})) {
         if (!record->hasValue(attribute()))
             fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value"),
                        "Pelvane/AddReferenceViewController", __LINE__);

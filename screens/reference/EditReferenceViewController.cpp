@@ -21,7 +21,7 @@ void EditReferenceViewController::save() {
     // Looked up by the value chosen in the list, not by detailItem; the first match is renamed.
     FetchRequest request(kind().list->entity);
     request.predicate = Predicate::format(kind().lookupFormat, *kind().list->selection);
-    Results = fetchOrPrint(*managedObjectContext, request);
+    Results = fetchOrPrint(*managedObjectContext, request).valueOr({});
     ResultsCount = int(Results.size());
     if (ResultsCount >= 1) {
         const ObjectPtr& record = Results.first();

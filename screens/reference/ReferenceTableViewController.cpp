@@ -68,7 +68,7 @@ void ReferenceTableViewController::fetch() {
     FetchRequest request(kind_.entity);
     request.returnsObjectsAsFaults = false;
     request.sortDescriptors = {{kind_.attribute, SortAsc.value_or(true)}};
-    const QList<ObjectPtr> fetched = fetchOrPrint(*context, request);
+    const QList<ObjectPtr> fetched = fetchOrPrint(*context, request).valueOr({});
     if (fetched.size() > 32767)
         fatalError(QStringLiteral("Not enough bits to represent the passed value"), kSource,
                    __LINE__);

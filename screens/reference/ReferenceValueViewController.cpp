@@ -58,8 +58,8 @@ void ReferenceValueViewController::saveLogged(const ObjectPtr& record) {
     ManagedObjectContext* context = record->managedObjectContext();
     if (!context)
         return;
-    if (auto error = context->save())
-        Console::log(error->description());
+    if (const auto error = context->save(); !error.ok())
+        Console::log(error.error().description());
 }
 
 void ReferenceValueViewController::returnToList() {

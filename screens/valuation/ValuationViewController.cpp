@@ -122,7 +122,7 @@ void ValuationViewController::loadCoins() {
     context = managedObjectContext = Application::viewContext();
     FetchRequest request(QStringLiteral("Coins"));
     request.returnsObjectsAsFaults = false;
-    const QList<CoinPtr> fetched = fetchOrPrint<Coins>(*context, request);
+    const QList<CoinPtr> fetched = fetchOrPrint<Coins>(*context, request).valueOr({});
     CoinList.reserve(fetched.size());
     // Quantities and values only: no picture is read or decoded for the totals.
     for (const CoinPtr& coin : fetched) {
@@ -219,7 +219,7 @@ void ValuationViewController::SaveNewCardButtonClicked() {
     request.predicate =
         Predicate::andPredicate({Predicate::format(QStringLiteral("denomination=%@"), Denomination),
                                  Predicate::format(QStringLiteral("year=%@"), CoinYear)});
-    const QList<CoinPtr> matching = fetchOrPrint<Coins>(*managedObjectContext, request);
+    const QList<CoinPtr> matching = fetchOrPrint<Coins>(*managedObjectContext, request).valueOr({});
     if (const std::optional<float> value = Numbers::parseFloat(NewValueTextField->text()))
         for (const CoinPtr& coin : matching) {
             coin->setValue(*value);

@@ -42,13 +42,14 @@ private:
 TEST_F(StoreTest, PictureThatCannotBeDecodedNamesItsCoin) {
     auto c = coin("Canada", "1 Cent", 1965);
     c->setBackImage("1234"); // record-number digits taken for a picture by an import
-    EXPECT_DEATH(exchangeText(ctx()), "ExportViewController:160: Fatal error: .*the back picture "
-                                      "of 1 Cent, 1965, Canada cannot be decoded");
+    EXPECT_DEATH(exchangeText(ctx()).value(),
+                 "ExportViewController:160: Fatal error: .*the back picture "
+                 "of 1 Cent, 1965, Canada cannot be decoded");
     c->setBackImage(QByteArray());
     c->setFrontImage(jpegClaiming(60000, 60000));
     QElapsedTimer timer;
     timer.start();
-    EXPECT_DEATH(exchangeText(ctx()), "the front picture of 1 Cent, 1965, Canada");
+    EXPECT_DEATH(exchangeText(ctx()).value(), "the front picture of 1 Cent, 1965, Canada");
     EXPECT_LT(timer.elapsed(), 10000);
 }
 
@@ -56,7 +57,7 @@ TEST_F(StoreTest, PictureThatCannotBeDecodedNamesItsCoin) {
 // once per line, and says how many coins were not saved and why.
 TEST_F(StoreTest, MergeIntoABusyStoreDoesNotWaitPerLine) {
     coin("Peru", "1 Sol", 1990, "L");
-    ASSERT_FALSE(ctx().save());
+    ASSERT_TRUE(ctx().save().ok());
     OtherConnection other(path("Pelvane.sqlite"));
     ASSERT_EQ(other.exec("BEGIN IMMEDIATE; INSERT INTO GradeNumbers(grade) VALUES ('MS-70')"), 0);
     QByteArray file = "[PELVANE]\n";
@@ -74,7 +75,7 @@ TEST_F(StoreTest, MergeIntoABusyStoreDoesNotWaitPerLine) {
     EXPECT_EQ(r.notSavedReason, "database is locked");
     // The lock gone, the coins left pending are saved, and waiting is back for later saves.
     ASSERT_EQ(other.exec("ROLLBACK"), 0);
-    EXPECT_FALSE(ctx().save());
+    EXPECT_TRUE(ctx().save().ok());
     EXPECT_EQ(fetch().size(), 9);
 }
 
@@ -90,32 +91,31 @@ TEST_F(StoreTest, LastLineWithoutLineEndIsMergedAndNoted) {
 // Writes that fail part-way leave the earlier file whole and give the system's reason.
 TEST_F(PelvaneTest, FailedWritesKeepTheEarlierFileAndTellWhy) {
     const QByteArray earlier = "[PELVANE]\nthe earlier backup\n";
-    ASSERT_TRUE(Files::writeAtomically(path("Pelvane.csv"), earlier));
+    ASSERT_TRUE(Files::writeAtomically(path("Pelvane.csv"), earlier).ok());
     const QByteArray bigger(200000, 'x');
 
     FailingDevice device(4096);
-    QString error;
-    EXPECT_FALSE(Files::writeAll(device, bigger, &error));
-    EXPECT_EQ(error, "Input/output error");
+    const Result<void> broken = Files::writeAll(device, bigger);
+    ASSERT_FALSE(broken.ok());
+    EXPECT_EQ(broken.error().message, "Input/output error");
     EXPECT_EQ(device.written.size(), 4096);
 
     // A full disk: every write to /dev/full fails as one to a full file system does.
     QFile full(QStringLiteral("/dev/full"));
     ASSERT_TRUE(full.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-    error.clear();
-    EXPECT_FALSE(Files::writeAll(full, bigger, &error));
-    EXPECT_EQ(error, "No space left on device");
+    const Result<void> fullDisk = Files::writeAll(full, bigger);
+    ASSERT_FALSE(fullDisk.ok());
+    EXPECT_EQ(fullDisk.error().message, "No space left on device");
 
     // A file-size limit, as a full or quota-bound disk gives.
-    error.clear();
-    bool written = true;
+    Result<void> written;
     {
         FileSizeLimit limit(4096);
         ASSERT_TRUE(limit.isSet());
-        written = Files::writeAtomically(path("Pelvane.csv"), bigger, &error);
+        written = Files::writeAtomically(path("Pelvane.csv"), bigger);
     }
-    EXPECT_FALSE(written);
-    EXPECT_EQ(error, "File too large");
+    ASSERT_FALSE(written.ok());
+    EXPECT_EQ(written.error().message, "File too large");
     EXPECT_EQ(readFile(path("Pelvane.csv")), earlier);
     EXPECT_EQ(QDir(dir()).entryList(QDir::Files), QStringList({"Pelvane.csv"}));
 }

@@ -49,7 +49,7 @@ TEST_F(StoreTest, NumbersNeverSetAreStoredAsZero) {
     cleared->setValue(QStringLiteral("value"), QVariant());
     EXPECT_TRUE(bare->hasValue(Coins::Attr::year));
     EXPECT_EQ(fetch(eq("year == %@", "0")).size(), 2); // unsaved, found in memory
-    ASSERT_FALSE(ctx().save());
+    ASSERT_TRUE(ctx().save().ok());
 
     OtherConnection raw(path("Pelvane.sqlite"));
     EXPECT_EQ(
@@ -137,10 +137,9 @@ TEST_F(StoreTest, StoreOfTheFirstSchemaIsBroughtForwardOnce) {
 TEST_F(StoreTest, AFailedFetchIsPrintedAndGivesNothing) {
     ASSERT_EQ(OtherConnection(path("Pelvane.sqlite")).exec("DROP TABLE GradeNumbers"), SQLITE_OK);
     Console::startCapture();
-    StoreError error;
-    EXPECT_TRUE(
-        fetchOrPrint(ctx(), FetchRequest(QStringLiteral("GradeNumbers")), &error).isEmpty());
-    EXPECT_NE(error.code, 0);
+    const auto found = fetchOrPrint(ctx(), FetchRequest(QStringLiteral("GradeNumbers")));
+    ASSERT_FALSE(found.ok());
+    EXPECT_NE(found.error().code, 0);
     ASSERT_EQ(Console::captured().size(), 1);
     EXPECT_TRUE(Console::captured().first().startsWith("Could not fetch. "));
 }

@@ -42,7 +42,7 @@ TEST(Snapshots, RetentionKeepsDaysWeeksAndMonths) {
 // older ones pruned by the calendar, and a snapshot that cannot be written said, not fatal.
 TEST_F(StoreTest, SnapshotsAreTakenWhenDueAndPruned) {
     coin("Chile", "1 Peso", 1990);
-    ASSERT_FALSE(ctx().save());
+    ASSERT_TRUE(ctx().save().ok());
     const QString store = container->storePath();
     const QDateTime now = QDateTime::currentDateTime();
     EXPECT_TRUE(Snapshots::due(store, now));

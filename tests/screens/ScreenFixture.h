@@ -69,7 +69,7 @@ protected:
         c->setValue(value);
         c->setCountry(country);
         c->setMintMark(mintMark);
-        EXPECT_FALSE(ctx().save().has_value());
+        EXPECT_TRUE(ctx().save().ok());
         return c;
     }
     Fakes fakes{};

@@ -55,20 +55,20 @@ TEST(ImageCoding, StrictBase64) {
 }
 
 TEST_F(PelvaneTest, FilesWriteAtomicallyAndReadAnyUnicode) {
-    QString text;
-    ASSERT_TRUE(Files::writeTextAtomically(path("a.csv"), "[PELVANE]\nPérou^1 Sol\n"));
-    ASSERT_TRUE(Files::readText(path("a.csv"), text));
-    EXPECT_EQ(text, "[PELVANE]\nPérou^1 Sol\n");
+    ASSERT_TRUE(Files::writeTextAtomically(path("a.csv"), "[PELVANE]\nPérou^1 Sol\n").ok());
+    EXPECT_EQ(Files::readText(path("a.csv")).value(), "[PELVANE]\nPérou^1 Sol\n");
     const QString sample = "[PELVANE]\r\nZ\u00fcrich";
     writeFile(path("b.csv"),
               QByteArray("\xFF\xFE", 2) +
                   QByteArray(reinterpret_cast<const char*>(sample.utf16()), sample.size() * 2));
-    ASSERT_TRUE(Files::readText(path("b.csv"), text));
-    EXPECT_EQ(text, sample);
-    QString error;
-    EXPECT_FALSE(Files::readText(path("missing.csv"), text, &error));
-    EXPECT_FALSE(error.isEmpty());
-    EXPECT_FALSE(Files::writeTextAtomically(path("no/such/dir/x"), "x", &error));
+    EXPECT_EQ(Files::readText(path("b.csv")).value(), sample);
+    const Result<QString> missing = Files::readText(path("missing.csv"));
+    ASSERT_FALSE(missing.ok());
+    EXPECT_FALSE(missing.error().message.isEmpty());
+    EXPECT_EQ(missing.error().doing, "reading " + path("missing.csv"));
+    const Result<void> nowhere = Files::writeTextAtomically(path("no/such/dir/x"), "x");
+    ASSERT_FALSE(nowhere.ok());
+    EXPECT_EQ(nowhere.error().doing, "writing " + path("no/such/dir/x"));
 }
 
 TEST(Platform, FakesReplaceTheDesktopAndGoBack) {

@@ -78,7 +78,7 @@ protected:
     // Every coin gets an id of its own, as the menu's repair gives them.
     void numbered(const CoinPtr& coin) {
         coin->setId(++lastId_);
-        ASSERT_FALSE(ctx().save());
+        ASSERT_TRUE(ctx().save().ok());
     }
     // Opens the breakdown of the case's value by a tap on its group row.
     BreakdownTableViewController* open() {

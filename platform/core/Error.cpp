@@ -1,12 +1,12 @@
-#include "model/StoreError.h"
+#include "platform/core/Error.h"
 
 #include <QStringList>
 
-QString StoreError::description() const {
+QString Error::description() const {
     return QStringLiteral("Error Domain=NSSQLiteErrorDomain Code=%1 \"%2\"").arg(code).arg(message);
 }
 
-QString StoreError::userInfoDescription() const {
+QString Error::userInfoDescription() const {
     QStringList parts;
     for (auto it = userInfo.begin(); it != userInfo.end(); ++it)
         parts << QStringLiteral("\"%1\": %2").arg(it.key(), it.value());
