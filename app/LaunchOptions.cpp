@@ -44,6 +44,10 @@ const QList<Option>& options() {
          {},
          "List the snapshots taken automatically and exit.",
          [](LaunchOptions& o, const QString&) { o.listBackups = true; }},
+        {{"stats"},
+         {},
+         "Print the number of coins, of pieces and the total value of the collection and exit.",
+         [](LaunchOptions& o, const QString&) { o.stats = true; }},
         {{"report"},
          "KIND",
          "Write the PDF report of a group and exit: KIND is denomination, country or year, "
@@ -170,7 +174,8 @@ LaunchOptions parseLaunchOptions(const QStringList& given) {
     const QList<std::pair<const char*, bool>> commands = {
         {"--export", !launch.exportFile.isEmpty()}, {"--import", !launch.importFile.isEmpty()},
         {"--backup", !launch.backupFile.isEmpty()}, {"--restore", !launch.restoreFile.isEmpty()},
-        {"--backups", launch.listBackups},          {"--report", !launch.report.isEmpty()}};
+        {"--backups", launch.listBackups},          {"--stats", launch.stats},
+        {"--report", !launch.report.isEmpty()}};
     QStringList asked;
     for (const auto& [name, set] : commands)
         if (set)

@@ -7,6 +7,7 @@
 #include "platform/kit/FatalMessage.h"
 #include "platform/kit/Window.h"
 #include "reports/ReportCommand.h"
+#include "reports/Statistics.h"
 #include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>
@@ -26,7 +27,8 @@ void prepare(const LaunchOptions& options) {
         useDataDirectory(options.dataDir);
 }
 
-// Export and import run without a window, so that scripts and backups work with no display.
+// Export, import and the totals run without a window, so that scripts and backups work with no
+// display.
 int runWithoutWindow(int argc, char** argv, const LaunchOptions& options) {
     QCoreApplication app(argc, argv);
     prepare(options);
@@ -34,6 +36,16 @@ int runWithoutWindow(int argc, char** argv, const LaunchOptions& options) {
     delegate.didFinishLaunching();
     PersistentContainer& store = delegate.persistentContainer();
     ManagedObjectContext& context = *store.viewContext();
+    if (options.stats) {
+        const Result<Statistics::Totals> totals = Statistics::totals(context);
+        if (!totals.ok()) {
+            std::fprintf(stderr, "Cannot read the collection %s: %s\n",
+                         qPrintable(store.storePath()), qPrintable(totals.error().message));
+            return 1;
+        }
+        std::fputs(qPrintable(Statistics::text(totals.value())), stdout);
+        return 0;
+    }
     return !options.exportFile.isEmpty()
                ? Exchange::runExport(context, options.exportFile, store.storePath())
                : Exchange::runImport(context, options.importFile, &store);
@@ -75,7 +87,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%s\n", qPrintable(options.error));
         return 2;
     }
-    if (!options.exportFile.isEmpty() || !options.importFile.isEmpty())
+    if (!options.exportFile.isEmpty() || !options.importFile.isEmpty() || options.stats)
         return runWithoutWindow(argc, argv, options);
     if (!options.backupFile.isEmpty() || !options.restoreFile.isEmpty() || options.listBackups) {
         QCoreApplication app(argc, argv);

@@ -1,0 +1,56 @@
+#include "Program.h"
+#include "TestSupport.h"
+
+namespace {
+// The three figures worked out from an exchange file itself: its lines, quantities (field 11)
+// and values (field 16, a 32-bit float as the store keeps it).
+QString expectedFrom(const QByteArray& file) {
+    qint64 coins = 0, pieces = 0;
+    double value = 0;
+    for (const QByteArray& line : file.split('\n')) {
+        const QList<QByteArray> fields = line.split('^');
+        if (fields.size() < 17)
+            continue;
+        ++coins;
+        const int quantity = fields[11].toInt();
+        pieces += quantity;
+        value += double(quantity) * double(fields[16].toFloat());
+    }
+    return QStringLiteral("Coins: %1\nPieces: %2\nTotal value: %3\n")
+        .arg(coins)
+        .arg(pieces)
+        .arg(QString::number(value, 'f', 2));
+}
+} // namespace
+
+// Scripts read the collection's totals in a fixed form, with no display.
+TEST_F(PelvaneTest, StatsPrintsTheCollectionsThreeFigures) {
+    const QString store = dir() + "/store";
+    ProgramRun r = runProgram(store, {"--stats"});
+    EXPECT_EQ(r.exitCode, 0);
+    EXPECT_EQ(r.output, "Coins: 0\nPieces: 0\nTotal value: 0.00\n");
+
+    const QString sample = PELVANE_SOURCE_DIR "/samples/Pelvane-sample.csv";
+    ASSERT_EQ(runProgram(store, {"--import", sample}).exitCode, 0);
+    // A negative quantity takes its pieces and its value away.
+    writeFile(dir() + "/more.csv", "[PELVANE]\nRome^1 As^^^0.0^^^^^^^-2^^^0.0^0.0^1.25^0.0^-5^^\n");
+    ASSERT_EQ(runProgram(store, {"--import", dir() + "/more.csv"}).exitCode, 0);
+    r = runProgram(store, {"--stats"});
+    EXPECT_EQ(r.exitCode, 0);
+    EXPECT_TRUE(r.errors.isEmpty()) << r.errors.toStdString();
+    EXPECT_EQ(r.output, expectedFrom(readFile(sample) + readFile(dir() + "/more.csv")));
+    EXPECT_TRUE(r.output.startsWith("Coins: 41\n")) << r.output.toStdString();
+
+    // One command at a time.
+    r = runProgram(store, {"--stats", "--export", dir() + "/x.csv"});
+    EXPECT_EQ(r.exitCode, 2);
+    EXPECT_TRUE(r.errors.startsWith("pelvane: --export and --stats cannot be combined."));
+    EXPECT_TRUE(runProgram(QStringList{"--help"}).output.contains("--stats"));
+
+    // A collection that cannot be read is said to be so, never counted as empty.
+    writeFile(store + "/Pelvane.sqlite", QByteArray(8192, 'x'));
+    QFile::remove(store + "/Pelvane.sqlite-wal");
+    r = runProgram(store, {"--stats"});
+    EXPECT_NE(r.exitCode, 0);
+    EXPECT_TRUE(r.output.isEmpty()) << r.output.toStdString();
+}
