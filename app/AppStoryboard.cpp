@@ -22,6 +22,8 @@
 #include "screens/reference/ReferenceListScreens.h"
 #include "screens/reference/ReferenceListViewController.h"
 #include "screens/reference/ReferenceValueScreens.h"
+#include "screens/statistics/CoinHistoryViewController.h"
+#include "screens/statistics/StatisticsViewController.h"
 #include "screens/valuation/ValuationViewController.h"
 
 namespace AppStoryboard {
@@ -67,5 +69,7 @@ void install() {
     push("showYearBreakdown", [] { return new YearBreakdownTableViewController; });
     push("Grouped", [] { return new EditViewController; });
     push("PrintCoins", [] { return new PrintCoinsViewController; });
+    push("Statistics", [] { return new StatisticsViewController; });
+    push("History", [] { return new CoinHistoryViewController; });
 }
 } // namespace AppStoryboard

@@ -48,6 +48,11 @@ const QList<Option>& options() {
          {},
          "Print the number of coins, of pieces and the total value of the collection and exit.",
          [](LaunchOptions& o, const QString&) { o.stats = true; }},
+        {{"value-history"},
+         "FILE",
+         "Write the collection's pieces and total value at the end of every day on which they "
+         "changed to FILE, as CSV, and exit.",
+         [](LaunchOptions& o, const QString& v) { o.valueHistoryFile = v; }},
         {{"report"},
          "KIND",
          "Write the PDF report of a group and exit: KIND is denomination, country or year, "
@@ -172,9 +177,13 @@ LaunchOptions parseLaunchOptions(const QStringList& given) {
     }
     // One thing at a time: each of these does its work and exits.
     const QList<std::pair<const char*, bool>> commands = {
-        {"--export", !launch.exportFile.isEmpty()}, {"--import", !launch.importFile.isEmpty()},
-        {"--backup", !launch.backupFile.isEmpty()}, {"--restore", !launch.restoreFile.isEmpty()},
-        {"--backups", launch.listBackups},          {"--stats", launch.stats},
+        {"--export", !launch.exportFile.isEmpty()},
+        {"--import", !launch.importFile.isEmpty()},
+        {"--backup", !launch.backupFile.isEmpty()},
+        {"--restore", !launch.restoreFile.isEmpty()},
+        {"--backups", launch.listBackups},
+        {"--stats", launch.stats},
+        {"--value-history", !launch.valueHistoryFile.isEmpty()},
         {"--report", !launch.report.isEmpty()}};
     QStringList asked;
     for (const auto& [name, set] : commands)

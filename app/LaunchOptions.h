@@ -11,6 +11,7 @@ struct LaunchOptions {
     QString restoreFile;      // --restore FILE: replace the store with a backup and exit
     bool listBackups = false; // --backups: list the snapshots and exit
     bool stats = false;       // --stats: print the collection's totals and exit
+    QString valueHistoryFile; // --value-history FILE: write the value per day as CSV and exit
     QString grabFile;         // --grab PNG: save a picture of the window after start-up and exit
     bool dark = false;        // --dark: the dark appearance, whatever the desktop says
     bool openMenu = false;    // --open-menu: start with the menu opened (screenshots)

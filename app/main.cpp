@@ -3,6 +3,7 @@
 #include "app/LaunchOptions.h"
 #include "app/StoreCommands.h"
 #include "exchange/ExchangeCommands.h"
+#include "platform/core/Files.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/FatalMessage.h"
 #include "platform/kit/Window.h"
@@ -46,6 +47,21 @@ int runWithoutWindow(int argc, char** argv, const LaunchOptions& options) {
         std::fputs(qPrintable(Statistics::text(totals.value())), stdout);
         return 0;
     }
+    if (!options.valueHistoryFile.isEmpty()) {
+        const QString& file = options.valueHistoryFile;
+        const Result<QByteArray> csv = Statistics::valueHistoryCsv(context);
+        if (!csv.ok()) {
+            std::fprintf(stderr, "Cannot read the value history of %s: %s\n",
+                         qPrintable(store.storePath()), qPrintable(csv.error().message));
+            return 1;
+        }
+        if (const Result<void> written = Files::writeAtomically(file, csv.value()); !written.ok()) {
+            std::fprintf(stderr, "Cannot write %s: %s\n", qPrintable(file),
+                         qPrintable(written.error().message));
+            return 1;
+        }
+        return 0;
+    }
     return !options.exportFile.isEmpty()
                ? Exchange::runExport(context, options.exportFile, store.storePath())
                : Exchange::runImport(context, options.importFile, &store);
@@ -87,7 +103,8 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%s\n", qPrintable(options.error));
         return 2;
     }
-    if (!options.exportFile.isEmpty() || !options.importFile.isEmpty() || options.stats)
+    if (!options.exportFile.isEmpty() || !options.importFile.isEmpty() || options.stats ||
+        !options.valueHistoryFile.isEmpty())
         return runWithoutWindow(argc, argv, options);
     if (!options.backupFile.isEmpty() || !options.restoreFile.isEmpty() || options.listBackups) {
         QCoreApplication app(argc, argv);

@@ -164,6 +164,7 @@ void apply(Coins& coin, const Fields& fields, bool isNew) {
 
 Merge::Merge(ManagedObjectContext& context, QByteArray utf8)
     : context_(context)
+    , cause_(context, ValueHistory::Import)
     , text_(std::move(utf8)) {
     // A second container for the same model: opened and released, as the import always did.
     {

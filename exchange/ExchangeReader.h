@@ -3,6 +3,8 @@
 // denomination, mint mark and year match no stored coin becomes a new coin (saved at once),
 // a line that matches exactly one coin rewrites it (left unsaved), a line that matches more
 // is skipped.
+#include "model/ValueHistory.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QList>
@@ -47,6 +49,8 @@ public:
 private:
     void dontWaitWhenBusy();
     ManagedObjectContext& context_;
+    // Every coin the merge saves is recorded in the value history as imported.
+    ValueHistory::Cause cause_;
     QByteArray text_;
     QList<QByteArrayView> lines_;
     qsizetype next_ = 0;

@@ -141,3 +141,22 @@ Result<QList<ObjectPtr>> ManagedObjectContext::tryFetch(const FetchRequest& requ
         });
     return result;
 }
+
+Result<ObjectPtr> ManagedObjectContext::existingObject(const QString& entityName, qint64 rowId) {
+    const EntityDescription& e = checkedEntity(entityName);
+    if (ObjectPtr live = liveObject(e, rowId))
+        return live->isDeleted() ? ObjectPtr() : live;
+    beginReadBatch();
+    SqliteStatement& row = db_->cached(writeSql(e).selectRow);
+    row.bind(1, rowId);
+    const int rc = row.step();
+    ObjectPtr o;
+    if (rc == SQLITE_ROW)
+        o = objectForRow(e, rowId, row);
+    const std::optional<Error> failure =
+        rc == SQLITE_ROW || rc == SQLITE_DONE ? std::nullopt : std::optional<Error>(lastError());
+    row.reset();
+    if (failure)
+        return *failure;
+    return o;
+}

@@ -3,6 +3,7 @@
 #include "model/ManagedObjectContext.h"
 #include "model/Records.h"
 #include "model/Sqlite.h"
+#include "model/ValueHistory.h"
 #include "platform/core/Fatal.h"
 
 #include <QTimer>
@@ -30,11 +31,44 @@ static void bindDataValues(SqliteStatement& st, const ManagedObject& o, int firs
             st.bind(first++, o.hasValue(int(i)) ? o.value(int(i)) : QVariant());
 }
 
+bool ManagedObjectContext::stampChanges(const QDateTime& time, const QString& cause) {
+    SqliteStatement& st = db_->cached(
+        QStringLiteral("UPDATE ValueEventSource SET time = ?1, day = ?2, cause = ?3 WHERE pk = 1"));
+    if (time.isValid()) {
+        st.bindInt(1, time.toMSecsSinceEpoch());
+        st.bindText(2, time.toLocalTime().date().toString(Qt::ISODate));
+    } else {
+        st.bindNull(1);
+        st.bindNull(2);
+    }
+    if (cause.isEmpty())
+        st.bindNull(3);
+    else
+        st.bindText(3, cause);
+    const bool done = st.step() == SQLITE_DONE;
+    st.reset();
+    return done;
+}
+
 bool ManagedObjectContext::writePending(std::vector<qint64>& newIds) {
     newIds.clear();
+    // Every coin's event is dated by this save and named by what made its change: the source
+    // row is rewritten where the cause changes from one coin to the next.
+    const QDateTime now = ValueHistory::now();
+    QString stamped;
+    if (!stampChanges(now, stamped))
+        return false;
+    auto stamp = [&](const ManagedObject& o) {
+        if (o.changeCause_ == stamped)
+            return true;
+        stamped = o.changeCause_;
+        return stampChanges(now, stamped);
+    };
     newIds.reserve(std::size_t(inserted_.size()));
     for (const auto& o : inserted_) {
         const EntityDescription& e = *o->entity_;
+        if (!stamp(*o))
+            return false;
         SqliteStatement& st = db_->cached(writeSql(e).insert);
         bindMainValues(st, *o);
         if (st.step() != SQLITE_DONE)
@@ -51,6 +85,8 @@ bool ManagedObjectContext::writePending(std::vector<qint64>& newIds) {
     }
     for (const auto& o : std::as_const(updated_)) {
         const EntityDescription& e = *o->entity_;
+        if (!stamp(*o))
+            return false;
         SqliteStatement& st = db_->cached(writeSql(e).update);
         bindMainValues(st, *o);
         st.bindInt(int(mainColumns(e).size()) + 1, o->rowId_);
@@ -66,6 +102,8 @@ bool ManagedObjectContext::writePending(std::vector<qint64>& newIds) {
     }
     for (const auto& o : deleted_) {
         const EntityDescription& e = *o->entity_;
+        if (!stamp(*o))
+            return false;
         SqliteStatement& st = db_->cached(writeSql(e).remove);
         st.bindInt(1, o->rowId_);
         if (st.step() != SQLITE_DONE)
@@ -77,7 +115,8 @@ bool ManagedObjectContext::writePending(std::vector<qint64>& newIds) {
                 return false;
         }
     }
-    return true;
+    // Writes from outside the program are dated and named by the store itself.
+    return stampChanges({}, {});
 }
 
 Result<void> ManagedObjectContext::save() {
@@ -137,11 +176,13 @@ Result<void> ManagedObjectContext::save() {
         o->rowId_ = newIds[std::size_t(i)];
         o->state_ = ManagedObject::State::Clean;
         o->dataLoaded_ = dataMask(*o->entity_);
+        o->changeCause_.clear();
         identity_[std::size_t(o->entity_->index)].insert(o->rowId_, o);
     }
     for (const auto& o : std::as_const(updated_)) {
         o->state_ = ManagedObject::State::Clean;
         o->dirty_ = 0;
+        o->changeCause_.clear();
     }
     for (const auto& o : deleted_) {
         o->state_ = ManagedObject::State::Gone;

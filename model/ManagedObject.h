@@ -65,6 +65,9 @@ private:
     quint32 present_ = 0;            // bit per attribute: holds a value
     mutable quint32 dataLoaded_ = 0; // bit per attribute: picture read from the store
     quint32 dirty_ = 0;              // bit per attribute: changed since the last save
+    // What made the pending change of quantity or value (the context's cause at the time), for
+    // the value history: a change left pending is still named by what made it.
+    QString changeCause_;
     State state_ = State::Clean;
 };
 

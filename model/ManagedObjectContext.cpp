@@ -74,6 +74,7 @@ ObjectPtr ManagedObjectContext::insertNewObject(const QString& entityName) {
     o->context_ = this;
     o->state_ = ManagedObject::State::Inserted;
     o->insertSeq_ = nextInsertSeq_++;
+    o->changeCause_ = changeCause_;
     inserted_.append(o);
     ++changeCount_;
     return o;
@@ -81,6 +82,9 @@ ObjectPtr ManagedObjectContext::insertNewObject(const QString& entityName) {
 
 void ManagedObjectContext::noteChange(ManagedObject& o, int attribute) {
     ++changeCount_;
+    if (o.entity_ == &Model::coins() &&
+        (attribute == Coins::Attr::quantity || attribute == Coins::Attr::value))
+        o.changeCause_ = changeCause_;
     if (o.state_ == ManagedObject::State::Inserted) {
         reindexPending(o, attribute);
         return;
@@ -116,6 +120,7 @@ void ManagedObjectContext::deleteObject(const ObjectPtr& o) {
         o->dirty_ = 0;
     }
     o->state_ = ManagedObject::State::Deleted;
+    o->changeCause_ = changeCause_;
     deleted_.append(o);
 }
 

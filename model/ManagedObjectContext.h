@@ -54,6 +54,12 @@ public:
     template <typename T> QList<std::shared_ptr<T>> fetch(const FetchRequest& request) {
         return tryFetch<T>(request).valueOr({});
     }
+    // The stored record of the entity with that row id (ManagedObject::objectID), or null when
+    // there is none (any longer).
+    Result<ObjectPtr> existingObject(const QString& entityName, qint64 rowId);
+    template <typename T> std::shared_ptr<T> existing(qint64 rowId) {
+        return std::static_pointer_cast<T>(existingObject(T::entityName(), rowId).valueOr({}));
+    }
     // How many records the fetch would return: counted by the store on its indexes, then
     // corrected by the unsaved inserts, updates and deletes exactly as a fetch merges them.
     Result<int> count(const FetchRequest& request);
@@ -75,6 +81,14 @@ public:
     // what the store held, since no other program can write in between. The error when the
     // lock could not be had (the reads then go on without it).
     Result<void> beginWriteBatch();
+
+    // What the value history names as the cause of the changes of coins' quantities and values
+    // made from now on, saved now or later (see ValueHistory); empty: each change is named by
+    // its kind.
+    QString changeCause() const { return changeCause_; }
+    void setChangeCause(const QString& cause) { changeCause_ = cause; }
+    // The connection, for the model's own readers of what the store holds (ValueHistory).
+    SqliteDatabase* database() const { return db_; }
 
     // Whether a write waits for another program's lock to go (2 s) before it gives up.
     void setWaitWhenBusy(bool wait);
@@ -100,6 +114,9 @@ private:
     // The pending inserts, updates and deletes, in the open transaction; false at the first
     // statement that fails.
     bool writePending(std::vector<qint64>& newIds);
+    // Tells the store's history triggers when (`time`, invalid: the save is done) and why the
+    // coming writes are made.
+    bool stampChanges(const QDateTime& time, const QString& cause);
     void beginReadBatch();
     void endReadBatch();
     // Pending inserts whose text attribute holds one value, found through an index made the
@@ -137,5 +154,6 @@ private:
     bool readBatch_ = false;
     bool writeBatch_ = false; // the batch holds the write lock
     quint64 changeCount_ = 0;
+    QString changeCause_;
     std::unique_ptr<QTimer> batchEnd_;
 };

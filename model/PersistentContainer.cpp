@@ -4,6 +4,7 @@
 #include "model/CoinAttributes.h"
 #include "model/Snapshots.h"
 #include "model/Sqlite.h"
+#include "model/ValueHistory.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -92,7 +93,7 @@ QStringList schema() {
         << QStringLiteral("CREATE INDEX GradeNumbers_grade ON GradeNumbers(grade)")
         << QStringLiteral("CREATE INDEX StrikeCharacters_strike ON StrikeCharacters(strike)")
         << QStringLiteral("CREATE INDEX CoinEdge_edge ON CoinEdge(edge)");
-    return sql;
+    return sql + ValueHistory::schema();
 }
 } // namespace
 
@@ -283,6 +284,9 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
         QStringList steps = current == 0 ? schema() : QStringList();
         if (current == 1)
             steps << numbersNeverNull();
+        // The history begins with the collection as it is now.
+        if (current > 0 && current < 4)
+            steps << ValueHistory::schema() << ValueHistory::baseline(ValueHistory::now());
         steps << setApplicationId();
         if (!db_->exec(QStringLiteral("BEGIN IMMEDIATE")))
             return failure(db_->errorCode(), db_->errorMessage());

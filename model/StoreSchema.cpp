@@ -1,6 +1,7 @@
 #include "model/StoreSchema.h"
 
 #include "model/Entity.h"
+#include "model/ValueHistory.h"
 
 #include <QSet>
 
@@ -20,6 +21,18 @@ QString missing(sqlite3* db) {
         sqlite3_finalize(stmt);
         return columns;
     };
+    int version = 0;
+    {
+        sqlite3_stmt* stmt = nullptr;
+        if (sqlite3_prepare_v2(db, "PRAGMA user_version", -1, &stmt, nullptr) == SQLITE_OK &&
+            sqlite3_step(stmt) == SQLITE_ROW)
+            version = sqlite3_column_int(stmt, 0);
+        sqlite3_finalize(stmt);
+    }
+    if (version >= 4)
+        for (const QString& table : ValueHistory::tables())
+            if (columnsOf(table).isEmpty())
+                return QStringLiteral("there is no table %1").arg(table);
     for (const EntityDescription* e : Model::entities()) {
         const QSet<QString> main = columnsOf(e->name);
         const QSet<QString> data = e->hasData() ? columnsOf(e->dataTable()) : QSet<QString>();

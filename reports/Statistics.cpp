@@ -2,6 +2,7 @@
 
 #include "model/ManagedObjectContext.h"
 #include "model/Records.h"
+#include "model/ValueHistory.h"
 
 namespace Statistics {
 
@@ -33,6 +34,20 @@ QString text(const Totals& t) {
         .arg(t.coins)
         .arg(t.pieces)
         .arg(amount(t.value));
+}
+
+Result<QByteArray> valueHistoryCsv(ManagedObjectContext& context) {
+    const Result<QList<ValueHistory::DayTotal>> days = ValueHistory::series(context);
+    if (!days.ok())
+        return days.error();
+    QByteArray csv = "date,pieces,total_value\n";
+    for (const ValueHistory::DayTotal& d : days.value())
+        csv += QStringLiteral("%1,%2,%3\n")
+                   .arg(d.day.toString(Qt::ISODate))
+                   .arg(d.pieces)
+                   .arg(amount(d.value))
+                   .toUtf8();
+    return csv;
 }
 
 } // namespace Statistics

@@ -19,4 +19,8 @@ Result<Totals> totals(ManagedObjectContext& context);
 QString text(const Totals& totals);
 // A money figure in that form.
 QString amount(double value);
+// The value history as CSV: the header "date,pieces,total_value", then one row per calendar day
+// on which a change was saved (ISO date, the collection at the end of that day, numbers as
+// text() writes them).
+Result<QByteArray> valueHistoryCsv(ManagedObjectContext& context);
 } // namespace Statistics

@@ -8,7 +8,8 @@
 # sample among them, is imported into a store that already holds the sample and killed at a
 # random moment. Afterwards: PRAGMA integrity_check is "ok"; the program reopens and exports
 # the store; every earlier coin is as it was or as the file updates it; the new coins are
-# exactly a leading part of the file's, each complete.
+# exactly a leading part of the file's, each complete; the value history's last day is the
+# collection's pieces and value.
 # Export trials: an export over an earlier file, killed at a random moment; the file is then
 # the earlier one or the whole new one, never torn.
 # Exits 1 when any trial fails; the failed trial's files are kept and named.
@@ -89,6 +90,15 @@ check_import() {
   "$PELVANE" --data-dir "$dir" --export "$dir/out.csv" 2> "$dir/export.err" \
     || { echo "export after the kill failed: $(cat "$dir/export.err")"; return; }
   keyed "$dir/out.csv" > "$dir/out.keyed"
+  # The value history adds up to the coins: a coin is never saved without its event.
+  "$PELVANE" --data-dir "$dir" --stats > "$dir/stats" 2>&1 || { echo "--stats failed: $(cat "$dir/stats")"; return; }
+  "$PELVANE" --data-dir "$dir" --value-history "$dir/history.csv" > /dev/null 2>&1 \
+    || { echo "--value-history failed"; return; }
+  local figures
+  figures="$(sed -n 's/^Pieces: //p' "$dir/stats"),$(sed -n 's/^Total value: //p' "$dir/stats")"
+  if [ "$(tail -n 1 "$dir/history.csv" | cut -d, -f2-)" != "$figures" ]; then
+    echo "the value history ($(tail -n 1 "$dir/history.csv")) is not the collection ($figures)"; return
+  fi
   # Every earlier coin: as before, or as after the whole import.
   local key line
   while IFS=$'\t' read -r key line; do

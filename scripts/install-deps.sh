@@ -7,6 +7,7 @@ packages=(
   g++ cmake ninja-build pkg-config
   qt6-base-dev qt6-base-dev-tools libqt6opengl6-dev
   qt6-pdf-dev libqt6pdfwidgets6
+  qt6-charts-dev
   qt6-multimedia-dev libqt6multimediawidgets6
   qt6-image-formats-plugins qt6-svg-dev libqt6svg6
   libsqlite3-dev libjpeg-dev

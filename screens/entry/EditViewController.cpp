@@ -47,6 +47,10 @@ void EditViewController::viewDidLoad() {
     ValueTextField->installEventFilter(this);
     navigationItem().rightItems.prepend({QStringLiteral("Share"), [this] { shareButtonClicked(); },
                                          nullptr, QStringLiteral("ShareButton")});
+    // A desktop addition: the coin's saved changes of quantity and value.
+    navigationItem().rightItems.prepend({QStringLiteral("History"),
+                                         [this] { performSegue(QStringLiteral("History")); },
+                                         nullptr, QStringLiteral("HistoryButton")});
     ShareButton->hide();
     updateNavigationBar();
     // Asked five seconds after opening; nothing happens if the screen has gone by then.
@@ -83,6 +87,11 @@ void EditViewController::fillForm() {
     BackImage->setImage(detailItem->hasValue(Coins::Attr::backImage)
                             ? ImageCoding::decode(detailItem->backImage())
                             : QImage());
+}
+
+void EditViewController::prepareForSegue(StoryboardSegue& segue, QObject*) {
+    if (auto* receiver = dynamic_cast<DetailReceiver*>(segue.destination))
+        receiver->setDetailItem(detailItem);
 }
 
 void EditViewController::SaveButtonClicked() {

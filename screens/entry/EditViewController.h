@@ -11,6 +11,7 @@ public:
     explicit EditViewController(QWidget* parent = nullptr);
     void viewDidLoad() override;
     void setDetailItem(const CoinPtr& coin) override { detailItem = coin; }
+    void prepareForSegue(StoryboardSegue& segue, QObject* sender) override;
 
     void SaveButtonClicked();
     void RemoveFrontImage() { removeImage(true); }

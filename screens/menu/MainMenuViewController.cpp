@@ -11,8 +11,8 @@
 #include <QVBoxLayout>
 
 const QStringList MainMenuViewController::EntrySegues = {
-    "ListCoins",     "TabBarController", "AddCoin",      "RateShare",
-    "CoinValuation", "Overview",         "ImportExport", "ReferenceLists"};
+    "ListCoins", "TabBarController", "AddCoin",        "RateShare", "CoinValuation",
+    "Overview",  "ImportExport",     "ReferenceLists", "Statistics"};
 
 MainMenuViewController::MainMenuViewController(QWidget* parent)
     : ViewController(parent)
@@ -43,9 +43,9 @@ MainMenuViewController::MainMenuViewController(QWidget* parent)
     auto* entryLayout = new QVBoxLayout(entries_);
     entryLayout->setContentsMargins(0, 0, 0, 0);
     entryLayout->setSpacing(10);
-    const QStringList titles = {"List Coins",      "Group By",       "Add Coin",
-                                "Rate && Share",   "Coin Valuation", "Pelvane Overview",
-                                "Import / Export", "Reference Lists"};
+    const QStringList titles = {"List Coins",      "Group By",        "Add Coin",
+                                "Rate && Share",   "Coin Valuation",  "Pelvane Overview",
+                                "Import / Export", "Reference Lists", "Statistics"};
     for (int i = 0; i < titles.size(); ++i) {
         auto* button = new QPushButton(titles[i], entries_);
         button->setObjectName(QString(titles[i]).remove(' ').remove('/').remove('&'));
@@ -63,6 +63,8 @@ MainMenuViewController::MainMenuViewController(QWidget* parent)
     PelvaneOverviewButton = MainMenuButton[5];
     ImportExportButton = MainMenuButton[6];
     ReferenceListButton = MainMenuButton[7];
+    // A desktop addition: what the collection is worth over time.
+    StatisticsButton = MainMenuButton[8];
     entries_->setGraphicsEffect(fade_);
     layout->addWidget(entries_);
     layout->addStretch(2);

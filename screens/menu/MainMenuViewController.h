@@ -25,7 +25,8 @@ public:
     QList<QPushButton*> MainMenuButton;
     QPushButton* ControlButton;
     QPushButton *ListCoinsButton, *GroupByButton, *AddCoinButton, *RateShareButton,
-        *CoinValuationButton, *PelvaneOverviewButton, *ImportExportButton, *ReferenceListButton;
+        *CoinValuationButton, *PelvaneOverviewButton, *ImportExportButton, *ReferenceListButton,
+        *StatisticsButton;
     ManagedObjectContext* managedObjectContext = nullptr;
     ManagedObjectContext* context = nullptr;
     qint16 CoinID = 0;

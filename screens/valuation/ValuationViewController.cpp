@@ -2,6 +2,7 @@
 
 #include "model/Numbers.h"
 #include "model/PrintedFetch.h"
+#include "model/ValueHistory.h"
 #include "platform/Platform.h"
 #include "platform/core/Console.h"
 #include "platform/kit/AlertController.h"
@@ -220,6 +221,7 @@ void ValuationViewController::SaveNewCardButtonClicked() {
         Predicate::andPredicate({Predicate::format(QStringLiteral("denomination=%@"), Denomination),
                                  Predicate::format(QStringLiteral("year=%@"), CoinYear)});
     const QList<CoinPtr> matching = fetchOrPrint<Coins>(*managedObjectContext, request).valueOr({});
+    const ValueHistory::Cause cause(*managedObjectContext, ValueHistory::Revaluation);
     if (const std::optional<float> value = Numbers::parseFloat(NewValueTextField->text()))
         for (const CoinPtr& coin : matching) {
             coin->setValue(*value);

@@ -110,7 +110,7 @@ TEST_F(PelvaneTest, BackupAndRestoreAreExact) {
     run = runProgram(path("c"), {"--restore", old});
     EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
     EXPECT_EQ(readFile(old), oldBytes);
-    EXPECT_EQ(OtherConnection(path("c/Pelvane.sqlite")).number("PRAGMA user_version"), 3);
+    EXPECT_EQ(OtherConnection(path("c/Pelvane.sqlite")).number("PRAGMA user_version"), 4);
 }
 
 // What is no whole Pelvane store is refused with the reason, and the collection stays as it was.
@@ -142,7 +142,7 @@ TEST_F(PelvaneTest, RestoreRefusesWhatIsNoWholeBackup) {
              QFile::copy(path("good.sqlite"), f);
              OtherConnection(f).exec("PRAGMA user_version=9");
          },
-         "was written by a newer Pelvane (store version 9; this one reads up to 3)"},
+         "was written by a newer Pelvane (store version 9; this one reads up to 4)"},
         {"no-notes.sqlite",
          [this](const QString& f) {
              QFile::copy(path("good.sqlite"), f);

@@ -1,5 +1,11 @@
 #include "Program.h"
 #include "TestSupport.h"
+#include "model/PersistentContainer.h"
+#include "model/Records.h"
+#include "model/ValueHistory.h"
+
+#include <QDir>
+#include <QFileInfo>
 
 namespace {
 // The three figures worked out from an exchange file itself: its lines, quantities (field 11)
@@ -53,4 +59,49 @@ TEST_F(PelvaneTest, StatsPrintsTheCollectionsThreeFigures) {
     r = runProgram(store, {"--stats"});
     EXPECT_NE(r.exitCode, 0);
     EXPECT_TRUE(r.output.isEmpty()) << r.output.toStdString();
+}
+
+// The value per day, as scripts chart it: one row per day with a saved change, the state at
+// the end of that day, the last row the collection --stats sums.
+TEST_F(PelvaneTest, ValueHistoryWritesOneRowPerDayOfChanges) {
+    const QString store = dir() + "/store";
+    QDateTime now(QDate(2025, 12, 30), QTime(23, 0));
+    ValueHistory::setClock([&now] { return now; });
+    {
+        PersistentContainer::setDefaultDirectory(store);
+        PersistentContainer container(QStringLiteral("Pelvane"));
+        container.loadPersistentStores({});
+        ManagedObjectContext& ctx = *container.viewContext();
+        auto a = ctx.insert<Coins>();
+        a->setDenomination("1 Florin");
+        a->setQuantity(2);
+        a->setValue(1.1f);
+        ASSERT_TRUE(ctx.save().ok());
+        now = now.addSecs(7200); // past midnight: the next day
+        auto b = ctx.insert<Coins>();
+        b->setDenomination("Crown");
+        b->setQuantity(1);
+        b->setValue(20);
+        ASSERT_TRUE(ctx.save().ok());
+        now = now.addDays(3);
+        a->setQuantity(5);
+        ASSERT_TRUE(ctx.save().ok());
+    }
+    ValueHistory::setClock({});
+    const QString csv = dir() + "/history.csv";
+    ProgramRun r = runProgram(store, {"--value-history", csv});
+    ASSERT_EQ(r.exitCode, 0) << r.errors.toStdString();
+    EXPECT_EQ(readFile(csv), "date,pieces,total_value\n2025-12-30,2,2.20\n2025-12-31,3,22.20\n"
+                             "2026-01-03,6,25.50\n");
+    EXPECT_EQ(runProgram(store, {"--stats"}).output, "Coins: 2\nPieces: 6\nTotal value: 25.50\n");
+
+    // A folder is no file to write: refused, named, and left as it is.
+    QDir().mkpath(dir() + "/folder");
+    r = runProgram(store, {"--value-history", dir() + "/folder"});
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_TRUE(r.errors.contains(dir() + "/folder")) << r.errors.toStdString();
+    EXPECT_TRUE(QFileInfo(dir() + "/folder").isDir());
+    r = runProgram(store, {"--value-history", csv, "--stats"});
+    EXPECT_EQ(r.exitCode, 2);
+    EXPECT_TRUE(runProgram(QStringList{"--help"}).output.contains("--value-history FILE"));
 }

@@ -1,0 +1,138 @@
+#include "screens/statistics/StatisticsCharts.h"
+
+#include "reports/Currency.h"
+
+#include <QBarCategoryAxis>
+#include <QBarSet>
+#include <QChart>
+#include <QChartView>
+#include <QCursor>
+#include <QDateTimeAxis>
+#include <QHorizontalBarSeries>
+#include <QLineSeries>
+#include <QToolTip>
+#include <QValueAxis>
+
+namespace StatisticsCharts {
+
+QChartView* makeView(QWidget* parent) {
+    auto* view = new QChartView(new QChart, parent);
+    view->setRenderHint(QPainter::Antialiasing);
+    view->setMinimumHeight(220);
+    view->chart()->legend()->hide();
+    return view;
+}
+
+QList<ValueHistory::DayTotal> inRange(const QList<ValueHistory::DayTotal>& series,
+                                      std::optional<QDate> start, const QDate& today) {
+    QList<ValueHistory::DayTotal> out;
+    ValueHistory::DayTotal before;
+    bool hadBefore = false;
+    for (const ValueHistory::DayTotal& d : series) {
+        if (start && d.day < *start) {
+            before = d;
+            hadBefore = true;
+            continue;
+        }
+        if (out.isEmpty() && hadBefore && d.day > *start)
+            out.append({*start, before.pieces, before.value});
+        out.append(d);
+    }
+    if (out.isEmpty() && hadBefore)
+        out.append({*start, before.pieces, before.value});
+    if (!out.isEmpty() && out.last().day < today)
+        out.append({today, out.last().pieces, out.last().value});
+    return out;
+}
+
+void showSeries(QChartView* view, const QList<ValueHistory::DayTotal>& days) {
+    QChart* chart = view->chart();
+    chart->removeAllSeries();
+    for (QAbstractAxis* axis : chart->axes())
+        chart->removeAxis(axis);
+    auto* line = new QLineSeries;
+    line->setName(QStringLiteral("Value"));
+    QList<QPointF> points;
+    points.reserve(days.size());
+    double low = 0, high = 0;
+    for (const ValueHistory::DayTotal& d : days) {
+        points.append({double(d.day.startOfDay().toMSecsSinceEpoch()), d.value});
+        low = std::min(low, d.value);
+        high = std::max(high, d.value);
+    }
+    line->replace(points);
+    line->setPointsVisible(days.size() <= 40);
+    chart->addSeries(line);
+    auto* time = new QDateTimeAxis;
+    time->setFormat(QStringLiteral("yyyy-MM-dd"));
+    time->setTickCount(5);
+    if (!days.isEmpty())
+        time->setRange(days.first().day.startOfDay(),
+                       std::max(days.last().day, days.first().day.addDays(1)).startOfDay());
+    auto* value = new QValueAxis;
+    value->setRange(low, high > low ? high * 1.05 : low + 1);
+    value->setLabelFormat(QStringLiteral("%.0f"));
+    chart->addAxis(time, Qt::AlignBottom);
+    chart->addAxis(value, Qt::AlignLeft);
+    line->attachAxis(time);
+    line->attachAxis(value);
+    QObject::connect(line, &QLineSeries::hovered, view, [](const QPointF& p, bool on) {
+        if (on)
+            QToolTip::showText(
+                QCursor::pos(),
+                QStringLiteral("%1: %2").arg(
+                    QDateTime::fromMSecsSinceEpoch(qint64(p.x())).date().toString(Qt::ISODate),
+                    Currency::text(p.y())));
+    });
+}
+
+void showShares(QChartView* view, const QList<Holdings::Share>& shares, const QString& what,
+                bool byValue) {
+    QChart* chart = view->chart();
+    chart->removeAllSeries();
+    for (QAbstractAxis* axis : chart->axes())
+        chart->removeAxis(axis);
+    auto* set = new QBarSet(byValue ? QStringLiteral("Value") : QStringLiteral("Pieces"));
+    QStringList names;
+    double low = 0, high = 0;
+    // Largest at the top: a horizontal bar chart draws its first category at the bottom.
+    for (qsizetype i = shares.size() - 1; i >= 0; --i) {
+        const Holdings::Share& s = shares[i];
+        const double figure = byValue ? s.value : double(s.pieces);
+        *set << figure;
+        low = std::min(low, figure);
+        high = std::max(high, figure);
+        // Categories must differ: an empty name is shown as such.
+        names << (s.name.isEmpty() ? QStringLiteral("(none)") : s.name);
+    }
+    auto* series = new QHorizontalBarSeries;
+    series->append(set);
+    chart->addSeries(series);
+    auto* categories = new QBarCategoryAxis;
+    categories->append(names);
+    categories->setTitleText(what);
+    auto* figures = new QValueAxis;
+    figures->setRange(low, high > low ? high * 1.05 : low + 1);
+    figures->setLabelFormat(QStringLiteral("%.0f"));
+    chart->addAxis(categories, Qt::AlignLeft);
+    chart->addAxis(figures, Qt::AlignBottom);
+    series->attachAxis(categories);
+    series->attachAxis(figures);
+    QObject::connect(set, &QBarSet::hovered, view, [shares](bool on, int index) {
+        const qsizetype i = shares.size() - 1 - index;
+        if (on && i >= 0 && i < shares.size())
+            QToolTip::showText(QCursor::pos(), QStringLiteral("%1: %2 pieces, %3")
+                                                   .arg(shares[i].name)
+                                                   .arg(shares[i].pieces)
+                                                   .arg(Currency::text(shares[i].value)));
+    });
+}
+
+void applyTheme(QChartView* view, bool dark) {
+    QChart* chart = view->chart();
+    const auto theme = dark ? QChart::ChartThemeDark : QChart::ChartThemeLight;
+    if (chart->theme() != theme)
+        chart->setTheme(theme);
+}
+
+} // namespace StatisticsCharts

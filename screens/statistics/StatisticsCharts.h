@@ -1,0 +1,24 @@
+#pragma once
+// The charts of the statistics screen, drawn with Qt Charts from what the store summed.
+#include "model/Holdings.h"
+#include "model/ValueHistory.h"
+
+#include <optional>
+
+class QChartView;
+class QWidget;
+
+namespace StatisticsCharts {
+// An empty chart view, antialiased.
+QChartView* makeView(QWidget* parent);
+// The days of the series from `start` on (all without one), opened by the state the range
+// starts with and closed by the state of `today`, so that the line spans the whole range.
+QList<ValueHistory::DayTotal> inRange(const QList<ValueHistory::DayTotal>& series,
+                                      std::optional<QDate> start, const QDate& today);
+// The value of the collection as a line over time.
+void showSeries(QChartView* view, const QList<ValueHistory::DayTotal>& days);
+// One bar per share: its value, or its pieces; hovering a bar tells both.
+void showShares(QChartView* view, const QList<Holdings::Share>& shares, const QString& what,
+                bool byValue);
+void applyTheme(QChartView* view, bool dark);
+} // namespace StatisticsCharts

@@ -1,0 +1,376 @@
+#include "screens/statistics/StatisticsViewController.h"
+
+#include "model/PrintedFetch.h"
+#include "platform/Platform.h"
+#include "platform/core/Console.h"
+#include "platform/core/Files.h"
+#include "platform/kit/AlertController.h"
+#include "platform/kit/Appearance.h"
+#include "reports/Currency.h"
+#include "reports/Statistics.h"
+#include "screens/Application.h"
+#include "screens/DetailReceiver.h"
+#include "screens/ProcessState.h"
+#include "screens/statistics/StatisticsCharts.h"
+
+#include <QBoxLayout>
+#include <QBuffer>
+#include <QButtonGroup>
+#include <QChartView>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableWidget>
+
+namespace {
+// From this width on a chart and its table stand side by side.
+constexpr int kWideFrom = 900;
+// The largest countries and denominations shown one by one; the rest are summed as one.
+constexpr int kLargest = 10;
+// The largest changes listed.
+constexpr int kChanges = 50;
+
+const char* const kTabTitles[] = {"Value", "Countries", "Denominations", "Decades", "Changes"};
+const char* const kFileNames[] = {"Pelvane-value", "Pelvane-countries", "Pelvane-denominations",
+                                  "Pelvane-decades", "Pelvane-changes"};
+
+QString nameOrNone(const QString& name) {
+    return name.isEmpty() ? QStringLiteral("(none)") : name;
+}
+
+QString coinName(const ValueHistory::Event& e) {
+    return QStringLiteral("%1, %2 %3")
+        .arg(nameOrNone(e.denomination), nameOrNone(e.country))
+        .arg(e.year);
+}
+
+// A CSV field: quoted when it holds a separator, a quote or a line break.
+QString csvField(const QString& text) {
+    if (!text.contains(QLatin1Char(',')) && !text.contains(QLatin1Char('"')) &&
+        !text.contains(QLatin1Char('\n')))
+        return text;
+    return QLatin1Char('"') + QString(text).replace(QLatin1String("\""), QLatin1String("\"\"")) +
+           QLatin1Char('"');
+}
+
+void fillRow(QTableWidget* table, int row, const QStringList& cells) {
+    for (int c = 0; c < cells.size(); ++c) {
+        auto* item = new QTableWidgetItem(cells[c]);
+        if (c > 0)
+            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        table->setItem(row, c, item);
+    }
+}
+} // namespace
+
+StatisticsViewController::StatisticsViewController(QWidget* parent)
+    : ViewController(parent)
+    , MonthButton(new QPushButton(QStringLiteral("Month"), this))
+    , YearButton(new QPushButton(QStringLiteral("Year"), this))
+    , AllButton(new QPushButton(QStringLiteral("All"), this))
+    , SummaryLabel(new QLabel(this))
+    , ChartTabs(new QTabWidget(this)) {
+    setTitle(QStringLiteral("Statistics"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 8, 12, 12);
+    auto* top = new QHBoxLayout;
+    auto* ranges = new QButtonGroup(this);
+    const std::pair<QPushButton*, Range> buttons[] = {
+        {MonthButton, Range::Month}, {YearButton, Range::Year}, {AllButton, Range::All}};
+    for (const auto& [button, r] : buttons) {
+        button->setCheckable(true);
+        button->setObjectName(button->text() + QStringLiteral("Button"));
+        ranges->addButton(button);
+        top->addWidget(button);
+        connect(button, &QPushButton::clicked, this, [this, r = r] { setRange(r); });
+    }
+    AllButton->setChecked(true);
+    SummaryLabel->setObjectName(QStringLiteral("SummaryLabel"));
+    SummaryLabel->setWordWrap(true);
+    top->addSpacing(12);
+    top->addWidget(SummaryLabel, 1);
+    layout->addLayout(top);
+    ChartTabs->setObjectName(QStringLiteral("ChartTabs"));
+    ChartTabs->setUsesScrollButtons(true);
+    layout->addWidget(ChartTabs, 1);
+    for (int p = 0; p < PageCount; ++p)
+        ChartTabs->addTab(page(Page(p), QString::fromLatin1(kTabTitles[p])),
+                          QString::fromLatin1(kTabTitles[p]));
+    connect(ChartTabs, &QTabWidget::currentChanged, this, [this](int p) {
+        load(p);
+        navigationItem().rightItems[0].enabled = Charts[p] != nullptr;
+        updateNavigationBar();
+    });
+    connect(Tables[ChangesPage], &QTableWidget::cellActivated, this,
+            [this](int row, int) { OpenChange(row); });
+    navigationItem().rightItems = {{QStringLiteral("Save Chart…"), [this] { SaveChart(); }, nullptr,
+                                    QStringLiteral("SaveChartButton")},
+                                   {QStringLiteral("Export Data…"), [this] { ExportData(); },
+                                    nullptr, QStringLiteral("ExportDataButton")}};
+}
+
+QWidget* StatisticsViewController::page(Page p, const QString& title) {
+    auto* widget = new QWidget(ChartTabs);
+    widget->setObjectName(title + QStringLiteral("Page"));
+    auto* box = new QBoxLayout(QBoxLayout::TopToBottom, widget);
+    box->setContentsMargins(0, 8, 0, 0);
+    if (p != ChangesPage) {
+        Charts[p] = StatisticsCharts::makeView(widget);
+        Charts[p]->setObjectName(title + QStringLiteral("Chart"));
+        box->addWidget(Charts[p], 3);
+    }
+    auto* table = new QTableWidget(widget);
+    table->setObjectName(title + QStringLiteral("Table"));
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->verticalHeader()->hide();
+    table->horizontalHeader()->setStretchLastSection(true);
+    const QStringList headers[] = {{"Date", "Pieces", "Value"},
+                                   {"Country", "Pieces", "Value"},
+                                   {"Denomination", "Pieces", "Value"},
+                                   {"Decade", "Pieces", "Value"},
+                                   {"Coin", "Before", "After", "Date", "Cause"}};
+    table->setColumnCount(int(headers[p].size()));
+    table->setHorizontalHeaderLabels(headers[p]);
+    Tables[p] = table;
+    box->addWidget(table, 2);
+    pageLayouts_.append(box);
+    return widget;
+}
+
+void StatisticsViewController::viewDidLoad() {
+    DarkMode = Appearance::isDark();
+    updateNavigationBar();
+}
+
+void StatisticsViewController::viewWillAppear(bool) {
+    managedObjectContext = Application::viewContext();
+    // The collection may have changed while another screen was shown.
+    std::fill(std::begin(loaded_), std::end(loaded_), false);
+    applyTheme();
+    load(ChartTabs->currentIndex());
+}
+
+void StatisticsViewController::setRange(Range r) {
+    range = r;
+    (r == Range::Month ? MonthButton : r == Range::Year ? YearButton : AllButton)->setChecked(true);
+    loaded_[ValuePage] = loaded_[ChangesPage] = false;
+    load(ChartTabs->currentIndex());
+}
+
+std::optional<QDate> StatisticsViewController::rangeStart() const {
+    const QDate today = ValueHistory::now().date();
+    switch (range) {
+    case Range::Month:
+        return today.addMonths(-1);
+    case Range::Year:
+        return today.addYears(-1);
+    default:
+        return std::nullopt;
+    }
+}
+
+void StatisticsViewController::load(int p) {
+    if (p < 0 || p >= PageCount || loaded_[p] || !managedObjectContext)
+        return;
+    loaded_[p] = true;
+    auto read = [](auto result, auto& into) {
+        if (!result.ok())
+            Console::log(QStringLiteral("Could not read the statistics: %1")
+                             .arg(result.error().description()));
+        into = result.valueOr({});
+    };
+    // The summary and the countries come from one query.
+    if (p == CountryPage || !loaded_[CountryPage]) {
+        read(Holdings::by(*managedObjectContext, Holdings::By::Country), Countries);
+        qint64 pieces = 0;
+        double value = 0;
+        for (const Holdings::Share& s : std::as_const(Countries)) {
+            pieces += s.pieces;
+            value += s.value;
+        }
+        SummaryLabel->setText(
+            QStringLiteral("%1 pieces, worth %2").arg(pieces).arg(Currency::text(value)));
+    }
+    switch (Page(p)) {
+    case ValuePage:
+        read(ValueHistory::series(*managedObjectContext), Series);
+        fillValue();
+        break;
+    case CountryPage:
+        fillShares(CountryPage, Countries, QStringLiteral("Country"));
+        break;
+    case DenominationPage:
+        read(Holdings::by(*managedObjectContext, Holdings::By::Denomination), Denominations);
+        fillShares(DenominationPage, Denominations, QStringLiteral("Denomination"));
+        break;
+    case DecadePage:
+        read(Holdings::by(*managedObjectContext, Holdings::By::Decade), Decades);
+        fillDecades();
+        break;
+    default:
+        read(ValueHistory::largestChanges(*managedObjectContext, rangeStart(), kChanges), Changes);
+        fillChanges();
+        break;
+    }
+}
+
+void StatisticsViewController::fillValue() {
+    const QList<ValueHistory::DayTotal> shown =
+        StatisticsCharts::inRange(Series, rangeStart(), ValueHistory::now().date());
+    StatisticsCharts::showSeries(Charts[ValuePage], shown);
+    QTableWidget* table = Tables[ValuePage];
+    table->setRowCount(int(shown.size()));
+    for (int r = 0; r < shown.size(); ++r)
+        fillRow(table, r,
+                {shown[r].day.toString(Qt::ISODate), QString::number(shown[r].pieces),
+                 Currency::text(shown[r].value)});
+}
+
+void StatisticsViewController::fillShares(Page p, const QList<Holdings::Share>& all,
+                                          const QString& what) {
+    const QList<Holdings::Share> shown = Holdings::largest(all, kLargest, QStringLiteral("Other"));
+    StatisticsCharts::showShares(Charts[p], shown, what, /*byValue*/ true);
+    QTableWidget* table = Tables[p];
+    table->setRowCount(int(shown.size()));
+    for (int r = 0; r < shown.size(); ++r)
+        fillRow(table, r,
+                {nameOrNone(shown[r].name), QString::number(shown[r].pieces),
+                 Currency::text(shown[r].value)});
+}
+
+void StatisticsViewController::fillDecades() {
+    StatisticsCharts::showShares(Charts[DecadePage], Decades, QStringLiteral("Decade"),
+                                 /*byValue*/ false);
+    QTableWidget* table = Tables[DecadePage];
+    table->setRowCount(int(Decades.size()));
+    for (int r = 0; r < Decades.size(); ++r)
+        fillRow(table, r,
+                {Decades[r].name, QString::number(Decades[r].pieces),
+                 Currency::text(Decades[r].value)});
+}
+
+void StatisticsViewController::fillChanges() {
+    QTableWidget* table = Tables[ChangesPage];
+    table->setRowCount(int(Changes.size()));
+    for (int r = 0; r < Changes.size(); ++r) {
+        const ValueHistory::Event& e = Changes[r];
+        fillRow(table, r,
+                {coinName(e), Currency::text(e.totalBefore()), Currency::text(e.totalAfter()),
+                 e.day.toString(Qt::ISODate), e.cause});
+    }
+    table->resizeColumnsToContents();
+}
+
+void StatisticsViewController::applyTheme() {
+    DarkMode = Appearance::isDark();
+    for (QChartView* chart : Charts)
+        if (chart)
+            StatisticsCharts::applyTheme(chart, DarkMode);
+}
+
+QByteArray StatisticsViewController::csv(Page p) const {
+    QStringList lines;
+    auto shares = [&](const QString& what, const QList<Holdings::Share>& list) {
+        lines << what + QStringLiteral(",pieces,total_value");
+        for (const Holdings::Share& s : list)
+            lines << QStringLiteral("%1,%2,%3")
+                         .arg(csvField(s.name))
+                         .arg(s.pieces)
+                         .arg(Statistics::amount(s.value));
+    };
+    switch (p) {
+    case ValuePage:
+        lines << QStringLiteral("date,pieces,total_value");
+        for (const auto& d :
+             StatisticsCharts::inRange(Series, rangeStart(), ValueHistory::now().date()))
+            lines << QStringLiteral("%1,%2,%3")
+                         .arg(d.day.toString(Qt::ISODate))
+                         .arg(d.pieces)
+                         .arg(Statistics::amount(d.value));
+        break;
+    case CountryPage:
+        shares(QStringLiteral("country"), Holdings::largest(Countries, kLargest, "Other"));
+        break;
+    case DenominationPage:
+        shares(QStringLiteral("denomination"), Holdings::largest(Denominations, kLargest, "Other"));
+        break;
+    case DecadePage:
+        shares(QStringLiteral("decade"), Decades);
+        break;
+    default:
+        lines << QStringLiteral("denomination,country,year,total_before,total_after,date,cause");
+        for (const ValueHistory::Event& e : Changes)
+            lines << QStringList{csvField(e.denomination),
+                                 csvField(e.country),
+                                 QString::number(e.year),
+                                 Statistics::amount(e.totalBefore()),
+                                 Statistics::amount(e.totalAfter()),
+                                 e.day.toString(Qt::ISODate),
+                                 csvField(e.cause)}
+                         .join(QLatin1Char(','));
+        break;
+    }
+    return (lines.join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8();
+}
+
+void StatisticsViewController::SaveChart() {
+    const int p = ChartTabs->currentIndex();
+    if (!Charts[p])
+        return;
+    Platform::documentPicker().save(
+        this, Files::documentsDirectory() + QLatin1String(kFileNames[p]) + QStringLiteral(".png"),
+        {QStringLiteral("PNG pictures (*.png)")},
+        [this, p](const QString& path) {
+            QByteArray bytes;
+            QBuffer buffer(&bytes);
+            buffer.open(QIODevice::WriteOnly);
+            Charts[p]->grab().save(&buffer, "PNG");
+            if (const auto written = Files::writeAtomically(path, bytes); !written.ok())
+                present(AlertController::okAlert(QStringLiteral("Chart Not Saved"),
+                                                 written.error().message));
+        },
+        {});
+}
+
+void StatisticsViewController::ExportData() {
+    const int p = ChartTabs->currentIndex();
+    Platform::documentPicker().save(
+        this, Files::documentsDirectory() + QLatin1String(kFileNames[p]) + QStringLiteral(".csv"),
+        {QStringLiteral("CSV files (*.csv)")},
+        [this, p](const QString& path) {
+            if (const auto written = Files::writeAtomically(path, csv(Page(p))); !written.ok())
+                present(AlertController::okAlert(QStringLiteral("Data Not Exported"),
+                                                 written.error().message));
+        },
+        {});
+}
+
+void StatisticsViewController::OpenChange(int row) {
+    if (row < 0 || row >= Changes.size() || !managedObjectContext)
+        return;
+    opened_ = managedObjectContext->existing<Coins>(Changes[row].coin);
+    if (!opened_) {
+        present(AlertController::okAlert(QStringLiteral("Coin Deleted"),
+                                         QStringLiteral("This coin is no longer in the "
+                                                        "collection.")));
+        return;
+    }
+    // As a coin list does: the edit screen reads the coin from these.
+    copyIntoCurrentCoin(*opened_);
+    performSegue(QStringLiteral("showDetails"));
+}
+
+void StatisticsViewController::prepareForSegue(StoryboardSegue& segue, QObject*) {
+    if (auto* receiver = dynamic_cast<DetailReceiver*>(segue.destination))
+        receiver->setDetailItem(opened_);
+}
+
+void StatisticsViewController::resizeEvent(QResizeEvent* event) {
+    ViewController::resizeEvent(event);
+    const auto direction = width() >= kWideFrom ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom;
+    for (QBoxLayout* box : std::as_const(pageLayouts_))
+        if (box->direction() != direction)
+            box->setDirection(direction);
+}

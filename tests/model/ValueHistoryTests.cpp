@@ -1,0 +1,208 @@
+#include "StoreFixture.h"
+#include "model/Snapshots.h"
+#include "model/Sqlite.h"
+#include "model/ValueHistory.h"
+
+#include <QFile>
+#include <sqlite3.h>
+
+namespace {
+// A clock the test turns by hand.
+struct Clock {
+    QDateTime now = QDateTime(QDate(2026, 3, 1), QTime(10, 0));
+    Clock() {
+        ValueHistory::setClock([this] { return now; });
+    }
+    ~Clock() { ValueHistory::setClock({}); }
+    void nextDay() { now = now.addDays(1); }
+};
+
+struct Change {
+    QString cause;
+    qint64 quantityBefore, quantityAfter;
+    double valueBefore, valueAfter;
+    bool operator==(const Change&) const = default;
+};
+std::ostream& operator<<(std::ostream& out, const Change& c) {
+    return out << c.cause.toStdString() << " " << c.quantityBefore << "x" << c.valueBefore << " -> "
+               << c.quantityAfter << "x" << c.valueAfter;
+}
+
+class ValueHistoryTest : public StoreTest {
+protected:
+    QList<Change> changesOf(const CoinPtr& coin) {
+        QList<Change> out;
+        const auto events = ValueHistory::eventsOf(ctx(), coin->objectID());
+        EXPECT_TRUE(events.ok());
+        for (const ValueHistory::Event& e : events.valueOr({}))
+            out.append({e.cause, e.quantityBefore, e.quantityAfter, e.valueBefore, e.valueAfter});
+        return out;
+    }
+    // The collection summed over its coins, as --stats sums it.
+    std::pair<qint64, double> totals() {
+        qint64 pieces = 0;
+        double value = 0;
+        for (const CoinPtr& c : fetch()) {
+            pieces += c->quantity();
+            value += double(c->quantity()) * double(c->value());
+        }
+        return {pieces, value};
+    }
+    Clock clock;
+};
+} // namespace
+
+// Each way a coin's value or quantity changes is one event of that coin, saved with it; a
+// change of anything else, or one never saved, is none.
+TEST_F(ValueHistoryTest, EverySavedChangeOfValueOrQuantityIsOneEvent) {
+    CoinPtr penny = coin("UK", "1 Penny", 1967, "", 3, 0.5f);
+    CoinPtr crown = coin("UK", "Crown", 1965, "", 1, 4);
+    ASSERT_TRUE(ctx().save().ok());
+    EXPECT_EQ(changesOf(penny), (QList<Change>{{"Added", 0, 3, 0, 0.5}}));
+
+    penny->setValue(0.75f);
+    penny->setNotes("worn");
+    ASSERT_TRUE(ctx().save().ok());
+    penny->setNotes("very worn"); // no value change: no event
+    penny->setMintMark("L");
+    ASSERT_TRUE(ctx().save().ok());
+    {
+        const ValueHistory::Cause cause(ctx(), ValueHistory::Revaluation);
+        crown->setValue(6);
+        ASSERT_TRUE(ctx().save().ok());
+    }
+    penny->setQuantity(5);
+    penny->setQuantity(3); // set back before a save: nothing happened
+    ASSERT_TRUE(ctx().save().ok());
+    EXPECT_EQ(changesOf(penny),
+              (QList<Change>{{"Added", 0, 3, 0, 0.5}, {"Edited", 3, 3, 0.5, 0.75}}));
+    EXPECT_EQ(changesOf(crown),
+              (QList<Change>{{"Added", 0, 1, 0, 4}, {"Revaluation", 1, 1, 4, 6}}));
+
+    // A change left pending and then thrown away with the store records nothing.
+    crown->setQuantity(9);
+    const qint64 before = ValueHistory::count(ctx()).value();
+    reopen();
+    EXPECT_EQ(ValueHistory::count(ctx()).value(), before);
+
+    // A delete keeps the coin's history, with what it held and where it came from.
+    const CoinPtr gone = fetch(eq("denomination == %@", "Crown")).first();
+    const qint64 row = gone->objectID();
+    ctx().deleteObject(gone);
+    ASSERT_TRUE(ctx().save().ok());
+    const auto events = ValueHistory::eventsOf(ctx(), row).value();
+    ASSERT_EQ(events.size(), 3);
+    EXPECT_EQ(events.last().cause, "Deleted");
+    EXPECT_EQ(events.last().quantityBefore, 1);
+    EXPECT_EQ(events.last().valueBefore, 6);
+    EXPECT_EQ(events.last().quantityAfter, 0);
+    EXPECT_EQ(events.last().country, "UK");
+    EXPECT_EQ(events.last().year, 1965);
+
+    // A save whose event cannot be written writes neither the change nor the event: they are
+    // one transaction.
+    const CoinPtr kept = fetch().first();
+    kept->setValue(99);
+    ASSERT_EQ(sqlite3_exec(ctx().database()->handle(),
+                           "CREATE TEMP TRIGGER no_room BEFORE INSERT ON ValueEvents BEGIN "
+                           "SELECT RAISE(ABORT, 'no room'); END",
+                           nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    EXPECT_FALSE(ctx().save().ok());
+    OtherConnection other(path("Pelvane.sqlite"));
+    EXPECT_EQ(other.number("SELECT count(*) FROM Coins WHERE value = 99"), 0);
+    EXPECT_EQ(other.number("SELECT count(*) FROM ValueEvents WHERE valueAfter = 99"), 0);
+    ASSERT_EQ(sqlite3_exec(ctx().database()->handle(), "DROP TRIGGER IF EXISTS temp.no_room", nullptr,
+                           nullptr, nullptr),
+              SQLITE_OK)
+        << sqlite3_errmsg(ctx().database()->handle());
+    ASSERT_TRUE(ctx().save().ok());
+    EXPECT_EQ(other.number("SELECT count(*) FROM Coins WHERE value = 99"), 1);
+    EXPECT_EQ(other.number("SELECT count(*) FROM ValueEvents WHERE valueAfter = 99"), 1);
+
+    // Another program's write is recorded too, dated by the store and named by its kind.
+    ASSERT_EQ(other.exec("UPDATE Coins SET quantity = 7"), SQLITE_OK);
+    EXPECT_EQ(other.number("SELECT count(*) FROM ValueEvents WHERE cause = 'Edited' AND "
+                           "quantityAfter = 7 AND day = date('now', 'localtime')"),
+              1);
+}
+
+// The series is the collection at the end of each day with a change, and its last day is the
+// collection as it is; a range leaves the earlier days out but counts them.
+TEST_F(ValueHistoryTest, SeriesGivesEachDaysEndState) {
+    CoinPtr a = coin("France", "1 Franc", 1960, "", 2, 1.5f);
+    ASSERT_TRUE(ctx().save().ok());
+    a->setQuantity(4); // two changes on one day: one row, the later state
+    ASSERT_TRUE(ctx().save().ok());
+    clock.nextDay();
+    clock.nextDay();
+    CoinPtr b = coin("Italy", "100 Lire", 1980, "", -1, 0.1f); // a negative quantity takes away
+    ASSERT_TRUE(ctx().save().ok());
+    clock.nextDay();
+    ctx().deleteObject(a);
+    ASSERT_TRUE(ctx().save().ok());
+
+    const auto all = ValueHistory::series(ctx()).value();
+    ASSERT_EQ(all.size(), 3);
+    EXPECT_EQ(all[0].day, QDate(2026, 3, 1));
+    EXPECT_EQ(all[0].pieces, 4);
+    EXPECT_DOUBLE_EQ(all[0].value, 6.0);
+    EXPECT_EQ(all[1].day, QDate(2026, 3, 3));
+    EXPECT_EQ(all[1].pieces, 3);
+    EXPECT_DOUBLE_EQ(all[1].value, 6.0 - double(0.1f));
+    EXPECT_EQ(all[2].pieces, -1);
+    const auto [pieces, value] = totals();
+    EXPECT_EQ(all.last().pieces, pieces);
+    EXPECT_DOUBLE_EQ(all.last().value, value);
+
+    const auto fromSecond = ValueHistory::series(ctx(), QDate(2026, 3, 2)).value();
+    ASSERT_EQ(fromSecond.size(), 2);
+    EXPECT_EQ(fromSecond[0].pieces, 3);
+
+    // The largest changes of the range, largest first; an equal value is no change.
+    b->setSerialNumber("x");
+    ASSERT_TRUE(ctx().save().ok());
+    const auto largest = ValueHistory::largestChanges(ctx(), QDate(2026, 3, 1), 2).value();
+    ASSERT_EQ(largest.size(), 2);
+    EXPECT_EQ(largest[0].cause, "Deleted");
+    EXPECT_DOUBLE_EQ(largest[0].totalBefore(), 6.0);
+    EXPECT_EQ(largest[1].quantityAfter, 4);
+    EXPECT_TRUE(ValueHistory::largestChanges(ctx(), QDate(2026, 3, 5), 10).value().isEmpty());
+}
+
+// A store made before the history begins it when first opened: one baseline event a coin,
+// dated then, in the same step as the tables, and never again.
+TEST_F(ValueHistoryTest, AnOlderStoreGetsOneBaselineEventPerCoin) {
+    container.reset();
+    const QString file = path("Pelvane.sqlite");
+    for (const char* suffix : {"", "-wal", "-shm"})
+        QFile::remove(file + suffix);
+    ASSERT_TRUE(QFile::copy(PELVANE_TEST_DATA "/stores/written-by-schema-1.sqlite", file));
+    QFile(file).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    reopen();
+    const auto coins = fetch();
+    ASSERT_EQ(coins.size(), 5);
+    OtherConnection other(file);
+    EXPECT_EQ(other.number("SELECT count(*) FROM ValueEvents"), 5);
+    EXPECT_EQ(other.number("SELECT count(DISTINCT coin) FROM ValueEvents WHERE cause = "
+                           "'Baseline' AND quantityBefore = 0"),
+              5);
+    const auto series = ValueHistory::series(ctx()).value();
+    ASSERT_EQ(series.size(), 1);
+    EXPECT_EQ(series[0].day, QDate(2026, 3, 1));
+    const auto [pieces, value] = totals();
+    EXPECT_EQ(series[0].pieces, pieces);
+    EXPECT_DOUBLE_EQ(series[0].value, value);
+    // A baseline is where the history starts, not a change.
+    EXPECT_TRUE(ValueHistory::largestChanges(ctx(), std::nullopt, 10).value().isEmpty());
+
+    clock.nextDay();
+    reopen();
+    EXPECT_EQ(other.number("SELECT count(*) FROM ValueEvents"), 5);
+    // The snapshot kept before the change has no history; it is the store as it was.
+    const QList<Snapshots::Entry> kept = Snapshots::list(file);
+    ASSERT_EQ(kept.size(), 1);
+    EXPECT_EQ(OtherConnection(kept[0].path)
+                  .number("SELECT count(*) FROM sqlite_master WHERE name = 'ValueEvents'"),
+              0);
+}

@@ -1,0 +1,229 @@
+#include "../ScreenFixture.h"
+#include "exchange/ExchangeReader.h"
+#include "model/ValueHistory.h"
+#include "platform/kit/Appearance.h"
+#include "screens/entry/EditViewController.h"
+#include "screens/statistics/CoinHistoryViewController.h"
+#include "screens/statistics/StatisticsViewController.h"
+#include "screens/valuation/ValuationViewController.h"
+
+#include <QBarSet>
+#include <QChart>
+#include <QChartView>
+#include <QHorizontalBarSeries>
+#include <QLabel>
+#include <QLineSeries>
+#include <QTabWidget>
+#include <QTableWidget>
+
+namespace {
+struct Sums {
+    qint64 pieces = 0;
+    double value = 0;
+};
+// Pieces and value per country worked out from an exchange file itself: quantity in field 11,
+// value in field 16 (a 32-bit float, as the store keeps it), the country in field 0.
+QMap<QString, Sums> byCountryFrom(const QByteArray& file) {
+    QMap<QString, Sums> out;
+    for (const QByteArray& line : file.split('\n')) {
+        const QList<QByteArray> f = line.split('^');
+        if (f.size() < 17)
+            continue;
+        Sums& s = out[QString::fromUtf8(f[0])];
+        s.pieces += f[11].toInt();
+        s.value += double(f[11].toInt()) * double(f[16].toFloat());
+    }
+    return out;
+}
+
+QString cell(QTableWidget* table, int row, int column) {
+    auto* item = table->item(row, column);
+    return item ? item->text() : QString();
+}
+} // namespace
+
+class StatisticsTest : public DollarScreenTest {
+protected:
+    void SetUp() override {
+        DollarScreenTest::SetUp();
+        ValueHistory::setClock([this] { return now; });
+    }
+    void TearDown() override {
+        ValueHistory::setClock({});
+        DollarScreenTest::TearDown();
+    }
+    StatisticsViewController* open() {
+        menu->HandleButtonClick();
+        menu->StatisticsButton->click();
+        return topAs<StatisticsViewController>();
+    }
+    QDateTime now = QDateTime(QDate(2026, 1, 10), QTime(9, 0));
+};
+
+// The countries' numbers, in the table and in the bars, are the sums of the file imported;
+// the value line ends at the collection's total.
+TEST_F(StatisticsTest, ChartsAndTablesShowTheCollectionsOwnSums) {
+    const QByteArray sample = readFile(PELVANE_SOURCE_DIR "/samples/Pelvane-sample.csv");
+    Exchange::mergeExchangeText(ctx(), sample);
+    ASSERT_TRUE(ctx().save().ok());
+    const QMap<QString, Sums> expected = byCountryFrom(sample);
+    ASSERT_GT(expected.size(), 11); // enough countries for an "Other"
+
+    auto* screen = open();
+    ASSERT_NE(screen, nullptr);
+    EXPECT_EQ(screen->title(), "Statistics");
+    Sums whole;
+    for (const Sums& s : expected) {
+        whole.pieces += s.pieces;
+        whole.value += s.value;
+    }
+    EXPECT_EQ(screen->SummaryLabel->text(), QStringLiteral("%1 pieces, worth %2")
+                                                .arg(whole.pieces)
+                                                .arg(QLocale().toCurrencyString(whole.value)));
+
+    screen->ChartTabs->setCurrentIndex(StatisticsViewController::CountryPage);
+    QTableWidget* table = screen->Tables[StatisticsViewController::CountryPage];
+    ASSERT_EQ(table->rowCount(), 11);
+    EXPECT_EQ(cell(table, 10, 0), "Other");
+    Sums listed, other = whole;
+    double previous = 1e300;
+    for (int r = 0; r < 10; ++r) {
+        const QString country = cell(table, r, 0);
+        ASSERT_TRUE(expected.contains(country)) << country.toStdString();
+        const Sums& s = expected[country];
+        EXPECT_EQ(cell(table, r, 1), QString::number(s.pieces)) << country.toStdString();
+        EXPECT_EQ(cell(table, r, 2), QLocale().toCurrencyString(s.value));
+        EXPECT_LE(s.value, previous); // largest first
+        previous = s.value;
+        other.pieces -= s.pieces;
+        other.value -= s.value;
+    }
+    EXPECT_EQ(cell(table, 10, 1), QString::number(other.pieces));
+    EXPECT_EQ(cell(table, 10, 2), QLocale().toCurrencyString(other.value));
+    // The bars hold the same values, largest at the top (the last bar of the set).
+    const auto bars = screen->Charts[StatisticsViewController::CountryPage]->chart()->series();
+    ASSERT_EQ(bars.size(), 1);
+    const QBarSet* set = static_cast<QHorizontalBarSeries*>(bars[0])->barSets().value(0);
+    ASSERT_EQ(set->count(), 11);
+    EXPECT_NEAR(set->at(10), expected[cell(table, 0, 0)].value, 1e-6);
+    EXPECT_NEAR(set->at(0), other.value, 1e-6);
+
+    // One day of history: the line's last point is today's total.
+    screen->ChartTabs->setCurrentIndex(StatisticsViewController::ValuePage);
+    const auto line = static_cast<QLineSeries*>(
+        screen->Charts[StatisticsViewController::ValuePage]->chart()->series().value(0));
+    ASSERT_NE(line, nullptr);
+    ASSERT_GE(line->count(), 1);
+    EXPECT_NEAR(line->at(line->count() - 1).y(), whole.value, 1e-6);
+    EXPECT_EQ(screen->csv(StatisticsViewController::ValuePage),
+              QStringLiteral("date,pieces,total_value\n2026-01-10,%1,%2\n")
+                  .arg(whole.pieces)
+                  .arg(QString::number(whole.value, 'f', 2))
+                  .toUtf8());
+
+    // Decades: every piece is in one.
+    screen->ChartTabs->setCurrentIndex(StatisticsViewController::DecadePage);
+    qint64 decadePieces = 0;
+    for (const auto& d : screen->Decades)
+        decadePieces += d.pieces;
+    EXPECT_EQ(decadePieces, whole.pieces);
+}
+
+// A revaluation on the valuation screen and an import that updates a coin are each a change
+// the statistics list and the coin's history shows; a row opens the coin.
+TEST_F(StatisticsTest, RevaluationsAndImportsAreChangesThatOpenTheirCoin) {
+    addCoin("Lincoln Cent", 1909, 2, 1.0f, "USA", "S");
+    addCoin("Mercury Dime", 1944, 1, 2.0f, "USA", "D");
+    now = now.addDays(40);
+    menu->performSegue("CoinValuation");
+    auto* valuation = topAs<ValuationViewController>();
+    valuation->ValueTableView->selectRow({0, 0});
+    QTest::keyClicks(valuation->NewValueTextField, "30");
+    valuation->SaveButton->click();
+    window->navigationController()->popToRootViewController(false);
+    now = now.addDays(3);
+    Exchange::mergeExchangeText(
+        ctx(), QByteArray("[PELVANE]\nUSA^Mercury Dime^^^0.0^^^^D^^^4^^^0.0^0.0^2.5^0.0^1944^^\n"));
+    ASSERT_TRUE(ctx().save().ok());
+
+    auto* screen = open();
+    screen->ChartTabs->setCurrentIndex(StatisticsViewController::ChangesPage);
+    QTableWidget* changes = screen->Tables[StatisticsViewController::ChangesPage];
+    ASSERT_EQ(changes->rowCount(), 4); // two added, one revalued, one imported
+    EXPECT_EQ(cell(changes, 0, 0), "Lincoln Cent, USA 1909");
+    EXPECT_EQ(cell(changes, 0, 1), "$2.00");
+    EXPECT_EQ(cell(changes, 0, 2), "$60.00");
+    EXPECT_EQ(cell(changes, 0, 3), "2026-02-19");
+    EXPECT_EQ(cell(changes, 0, 4), "Revaluation");
+    EXPECT_EQ(cell(changes, 1, 0), "Mercury Dime, USA 1944");
+    EXPECT_EQ(cell(changes, 1, 2), "$10.00");
+    EXPECT_EQ(cell(changes, 1, 4), "Import");
+    // The last month holds the revaluation and the import, not the coins added before it.
+    screen->MonthButton->click();
+    EXPECT_EQ(changes->rowCount(), 2);
+    screen->AllButton->click();
+
+    // The value line: the day the coins were added, the revaluation, the import, today.
+    screen->ChartTabs->setCurrentIndex(StatisticsViewController::ValuePage);
+    EXPECT_EQ(screen->csv(StatisticsViewController::ValuePage),
+              "date,pieces,total_value\n2026-01-10,3,4.00\n2026-02-19,3,62.00\n"
+              "2026-02-22,6,70.00\n");
+    screen->YearButton->click();
+    EXPECT_EQ(screen->Tables[StatisticsViewController::ValuePage]->rowCount(), 3);
+
+    // A row opens its coin on the edit screen; its History lists the coin's changes.
+    screen->ChartTabs->setCurrentIndex(StatisticsViewController::ChangesPage);
+    screen->MonthButton->click();
+    changes->setCurrentCell(1, 0);
+    QTest::keyClick(changes, Qt::Key_Return);
+    auto* edit = topAs<EditViewController>();
+    ASSERT_NE(edit, nullptr);
+    EXPECT_EQ(edit->detailItem->denomination(), "Mercury Dime");
+    QPushButton* history = button("HistoryButton");
+    ASSERT_NE(history, nullptr);
+    history->click();
+    auto* coinHistory = topAs<CoinHistoryViewController>();
+    ASSERT_NE(coinHistory, nullptr);
+    QTableWidget* rows = coinHistory->HistoryTable;
+    ASSERT_EQ(rows->rowCount(), 2);
+    EXPECT_EQ(cell(rows, 0, 1), "Added");
+    EXPECT_EQ(cell(rows, 1, 1), "Import");
+    EXPECT_EQ(cell(rows, 1, 2), "1 → 4");
+    EXPECT_EQ(cell(rows, 1, 3), "$2.00 → $2.50");
+    EXPECT_EQ(cell(rows, 1, 4), "$2.00 → $10.00");
+}
+
+// The chart is saved as a PNG and the numbers as CSV where the user picks; a chart follows the
+// dark appearance.
+TEST_F(StatisticsTest, SavesTheChartAndItsDataAndFollowsTheAppearance) {
+    addCoin("Lincoln Cent", 1909, 2, 1.0f, "USA");
+    addCoin("Sol", 1950, 1, 3.0f, "Peru, Republic");
+    auto* screen = open();
+    screen->ChartTabs->setCurrentIndex(StatisticsViewController::CountryPage);
+    fakes.documentPicker->next = dir() + "/countries.png";
+    button("SaveChartButton")->click();
+    EXPECT_TRUE(fakes.documentPicker->suggested.endsWith("Documents/Pelvane-countries.png"));
+    const QImage saved(dir() + "/countries.png");
+    ASSERT_FALSE(saved.isNull());
+    EXPECT_EQ(saved.size(), screen->Charts[StatisticsViewController::CountryPage]->grab().size());
+    fakes.documentPicker->next = dir() + "/countries.csv";
+    button("ExportDataButton")->click();
+    EXPECT_EQ(readFile(dir() + "/countries.csv"),
+              "country,pieces,total_value\n\"Peru, Republic\",1,3.00\nUSA,2,2.00\n");
+    // The list of changes has no chart to save.
+    screen->ChartTabs->setCurrentIndex(StatisticsViewController::ChangesPage);
+    EXPECT_FALSE(button("SaveChartButton")->isEnabled());
+    // A folder is no file to write: said, nothing lost.
+    screen->ChartTabs->setCurrentIndex(StatisticsViewController::DecadePage);
+    fakes.documentPicker->next = dir();
+    button("ExportDataButton")->click();
+    EXPECT_TRUE(alertText().startsWith("Data Not Exported / ")) << alertText().toStdString();
+    dismissAlert();
+
+    EXPECT_EQ(screen->Charts[0]->chart()->theme(), QChart::ChartThemeLight);
+    Appearance::setDark(true);
+    window->navigationController()->popToRootViewController(false);
+    screen = open();
+    EXPECT_EQ(screen->Charts[0]->chart()->theme(), QChart::ChartThemeDark);
+    Appearance::setDark(false);
+}
