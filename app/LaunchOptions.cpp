@@ -201,4 +201,5 @@ void useDataDirectory(const QString& dir) {
     PersistentContainer::setDefaultDirectory(absolute);
     UserDefaults::useFile(QDir(absolute).filePath(QStringLiteral("Pelvane.ini")));
     Files::setDocumentsDirectory(QDir(absolute).filePath(QStringLiteral("Documents")));
+    Files::setPicturesDirectory(QDir(absolute).filePath(QStringLiteral("Pictures")));
 }

@@ -24,5 +24,6 @@ struct LaunchOptions {
 LaunchOptions parseLaunchOptions(const QStringList& given);
 // The text --help prints: the usage line and one line per option.
 QString launchHelpText();
-// Points the store and the preferences at DIR (created if missing).
+// Points the store, the preferences, the documents and the pictures the program keeps at DIR
+// (created if missing).
 void useDataDirectory(const QString& dir);

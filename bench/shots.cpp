@@ -12,11 +12,13 @@
 #include "screens/entry/EditViewController.h"
 #include "screens/entry/ZoomViewController.h"
 #include "screens/exchange/ExportViewController.h"
+#include "screens/exchange/ImportExportViewController.h"
 #include "screens/exchange/ImportViewController.h"
 #include "screens/list/MainListTableViewController.h"
 #include "screens/menu/MainMenuViewController.h"
 #include "screens/valuation/ValuationViewController.h"
 
+#include <QFile>
 #include <QFocusEvent>
 #include <QPainter>
 
@@ -68,6 +70,23 @@ int main(int argc, char** argv) {
     settle(100);
     window.grab().save(out + "/import-done" + suffix + ".png");
     AlertController::current()->triggerAction("OK");
+
+    // A backup of the imported collection, then the question a restore of it asks.
+    menu->performSegue("ImportExport");
+    auto* exchange = static_cast<ImportExportViewController*>(nav->topViewController());
+    const QString backup = out + "/shots-backup.sqlite";
+    fakes.documentPicker->next = backup;
+    exchange->BackUpCollection();
+    alertShown();
+    AlertController::current()->triggerAction("OK");
+    fakes.documentPicker->next = backup;
+    exchange->RestoreFromBackup();
+    alertShown();
+    settle(100);
+    window.grab().save(out + "/restore" + suffix + ".png");
+    AlertController::current()->triggerAction("Cancel");
+    QFile::remove(backup);
+    nav->popToRootViewController(false);
 
     menu->performSegue("ImportExport");
     nav->topViewController()->performSegue("ExportCoins");
@@ -125,16 +144,8 @@ int main(int argc, char** argv) {
     menu->performSegue("RateShare");
     shot("rate-share");
 
-    // Valuation, with two coins whose front picture is taken away (not saved) so that the plain
-    // coin shows, at phone and desktop widths.
+    // Valuation at phone and desktop widths, every coin with its own picture.
     nav->popToRootViewController(false);
-    {
-        FetchRequest request(QStringLiteral("Coins"));
-        const auto coins = delegate.persistentContainer().viewContext()->fetch<Coins>(request);
-        for (int i : {1, 3})
-            if (i < coins.size())
-                coins[i]->setFrontImage(QByteArray());
-    }
     menu->performSegue("CoinValuation");
     auto* valuation = static_cast<ValuationViewController*>(nav->topViewController());
     shot("valuation-open");

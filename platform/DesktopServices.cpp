@@ -1,6 +1,7 @@
 #include "platform/DesktopServices.h"
 
 #include "platform/core/Files.h"
+#include "platform/graphics/ImageCoding.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Window.h"
 
@@ -12,6 +13,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QImageCapture>
 #include <QLabel>
 #include <QMediaCaptureSession>
@@ -258,9 +260,14 @@ void DesktopReviewRequester::requestReview(QWidget* window) {
 }
 
 bool DesktopPhotoLibrary::save(const QImage& image) {
-    const QString dir = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    QDir().mkpath(dir);
-    return image.save(
-        dir + QStringLiteral("/Pelvane-%1.jpg")
-                  .arg(QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"))));
+    // Into the data folder's Pictures with --data-dir, like every other file the program writes.
+    const QString dir = Files::picturesDirectory();
+    const QString stem = dir + QStringLiteral("Pelvane-") +
+                         QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    // A second picture within the same second gets a name of its own, never the first's.
+    QString path = stem + QStringLiteral(".jpg");
+    for (int n = 2; QFileInfo::exists(path); ++n)
+        path = stem + QStringLiteral("-%1.jpg").arg(n);
+    const QByteArray bytes = ImageCoding::jpeg(image, 1.0);
+    return !bytes.isEmpty() && Files::writeAtomically(path, bytes).ok();
 }

@@ -33,6 +33,25 @@ void setDocumentsDirectory(const QString& dir) {
 }
 
 namespace {
+QString& picturesSetting() {
+    static QString dir;
+    return dir;
+}
+} // namespace
+
+QString picturesDirectory() {
+    QString dir = picturesSetting();
+    if (dir.isEmpty())
+        dir = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    QDir().mkpath(dir);
+    return dir.endsWith(QLatin1Char('/')) ? dir : dir + QLatin1Char('/');
+}
+
+void setPicturesDirectory(const QString& dir) {
+    picturesSetting() = dir;
+}
+
+namespace {
 Error writing(const QString& path, const QString& why) {
     return Error::because(ErrorCode::CantOpen, why, QStringLiteral("writing ") + path);
 }

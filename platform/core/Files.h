@@ -14,6 +14,10 @@ QString temporaryDirectory();
 // folder when one is given). Created when asked for.
 QString documentsDirectory();
 void setDocumentsDirectory(const QString& dir);
+// The folder pictures saved to the photo library go to, ending with "/": the user's pictures,
+// or the one set (inside the data folder when one is given). Created when asked for.
+QString picturesDirectory();
+void setPicturesDirectory(const QString& dir);
 // Replaces the file in one step (never half-written), or says why: the system's own reason
 // ("No space left on device", "File too large"), the earlier file whole. A target that exists
 // and is no regular file (a device, a pipe, a folder) is refused untouched.

@@ -227,15 +227,20 @@ void NavigationController::setRootViewController(ViewController* screen) {
     refreshBar();
 }
 
-bool NavigationController::goBack() {
+QAbstractButton* NavigationController::visibleBackButton() const {
     if (bar_->isHidden())
-        return false;
+        return nullptr;
     for (auto* button : bar_->findChildren<QAbstractButton*>(QStringLiteral("BackButton")))
-        if (button->isVisibleTo(bar_) && button->isEnabled()) {
-            button->click();
-            return true;
-        }
-    return false;
+        if (button->isVisibleTo(bar_) && button->isEnabled())
+            return button;
+    return nullptr;
+}
+
+bool NavigationController::goBack() {
+    QAbstractButton* button = visibleBackButton();
+    if (button)
+        button->click();
+    return button != nullptr;
 }
 
 void NavigationController::keyPressEvent(QKeyEvent* event) {

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "platform/kit/ViewController.h"
+class QAbstractButton;
 class QLabel;
 class QStackedWidget;
 class QToolButton;
@@ -45,12 +46,15 @@ public:
     // Clicks the back button the bar shows: the stack's own, or a screen's bar item named
     // "BackButton" in its place. False when the bar shows none.
     bool goBack();
+    // Whether the bar shows a back button goBack() would click.
+    bool canGoBack() const { return visibleBackButton() != nullptr; }
 
 protected:
     // Keys from the bar's buttons go to the screen on top.
     void keyPressEvent(class QKeyEvent* event) override;
 
 private:
+    QAbstractButton* visibleBackButton() const;
     // Bar and screen stand in a column no wider than the top screen's readable width.
     void fitReadableWidth();
     // Title and back button end with an ellipsis when the bar is too narrow for them.

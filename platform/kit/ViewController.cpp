@@ -202,7 +202,30 @@ bool ViewController::handleKeyCommand(QKeyEvent* event) {
 
 bool ViewController::goBack() {
     NavigationController* nav = navigationController();
-    return nav && nav->topViewController() == this && nav->goBack();
+    if (!nav || nav->topViewController() != this || !nav->canGoBack())
+        return false;
+    if (!hasUnsavedChanges())
+        return nav->goBack();
+    confirmDiscard([nav = QPointer<NavigationController>(nav)] {
+        if (nav)
+            nav->goBack();
+    });
+    return true;
+}
+
+const QString ViewController::kDiscardTitle = QStringLiteral("Discard changes?");
+
+void ViewController::confirmDiscard(std::function<void()> discard) {
+    // Asked once: a second Escape or close while the question is up answers nothing new.
+    if (auto* shown = AlertController::topmostOver(window());
+        shown && shown->title() == kDiscardTitle)
+        return;
+    auto* alert = new AlertController(kDiscardTitle,
+                                      QStringLiteral("What you changed here has not been saved."));
+    alert->addAction(QStringLiteral("Discard"), AlertController::ActionStyle::Destructive,
+                     std::move(discard));
+    alert->addAction(QStringLiteral("Keep Editing"), AlertController::ActionStyle::Cancel);
+    present(alert);
 }
 
 QWidget* ViewController::preferredFocusWidget() {

@@ -91,7 +91,14 @@ public:
     void addKeyCommand(QKeySequence::StandardKey key, std::function<void()> action);
     bool handleKeyCommand(class QKeyEvent* event);
     // Goes back as the visible back button of the screen's bar would; false when there is none.
+    // A screen with unsaved changes first asks whether to discard them.
     bool goBack();
+    // A form changed since it opened says so: Escape, Alt+Left and closing the window then ask
+    // before throwing the changes away. The bar's back button itself never asks.
+    virtual bool hasUnsavedChanges() const { return false; }
+    // Asks "Discard changes?": Discard runs `discard`, Keep Editing (or Escape) leaves all as is.
+    void confirmDiscard(std::function<void()> discard);
+    static const QString kDiscardTitle;
     // Where the keyboard goes when the screen comes to the front: its list, if it has one.
     virtual QWidget* preferredFocusWidget();
     // Gives the keyboard to the screen, unless an alert holds it.

@@ -3,9 +3,12 @@
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/TabBarController.h"
 
+#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QShortcut>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 Window::Window(ViewController* root, QWidget* parent)
     : QWidget(parent)
@@ -46,4 +49,31 @@ void Window::keyPressEvent(QKeyEvent* event) {
                 return;
             }
     QWidget::keyPressEvent(event);
+}
+
+void Window::closeEvent(QCloseEvent* event) {
+    ViewController* front = frontScreen();
+    // The screens in front and every one the user could go back to from there.
+    QList<ViewController*> open;
+    for (ViewController* screen = front; screen;) {
+        NavigationController* nav = screen->navigationController();
+        if (!nav)
+            break;
+        open += nav->viewControllers();
+        screen = nav->presentingViewController() ? nav->presentingViewController()
+                                                 : nav->containerViewController();
+    }
+    const bool unsaved = std::any_of(open.begin(), open.end(), [](ViewController* screen) {
+        return screen->hasUnsavedChanges();
+    });
+    if (discarding_ || !unsaved || !front) {
+        discarding_ = false;
+        QWidget::closeEvent(event);
+        return;
+    }
+    event->ignore();
+    front->confirmDiscard([this] {
+        discarding_ = true;
+        close();
+    });
 }

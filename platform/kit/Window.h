@@ -18,7 +18,10 @@ public:
 protected:
     // Keys that found no focused widget go to the screen in front.
     void keyPressEvent(class QKeyEvent* event) override;
+    // A screen the user can still go back to with unsaved changes asks first.
+    void closeEvent(class QCloseEvent* event) override;
 
 private:
     NavigationController* nav_;
+    bool discarding_ = false;
 };

@@ -16,6 +16,7 @@ AddViewController::AddViewController(QWidget* parent)
 void AddViewController::viewDidLoad() {
     setTitle(QStringLiteral("Add Coin"));
     setUpForm();
+    rememberOpeningState();
 }
 
 void AddViewController::SaveNewCardButtonClicked() {

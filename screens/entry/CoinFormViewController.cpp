@@ -302,6 +302,29 @@ void CoinFormViewController::paste(ImageView* view) {
                                      QStringLiteral("There is no image in the Clipboard")));
 }
 
+CoinFormViewController::Shown CoinFormViewController::shown() const {
+    Shown now;
+    for (const TextField* f : findChildren<TextField*>())
+        now.texts.append(f->text());
+    now.texts.append(NotesTextView->text());
+    now.front = FrontImage->image();
+    now.back = BackImage->image();
+    return now;
+}
+
+void CoinFormViewController::rememberOpeningState() {
+    opened_ = shown();
+}
+
+void CoinFormViewController::rememberShownPicture(bool front) {
+    if (opened_)
+        (front ? opened_->front : opened_->back) = (front ? FrontImage : BackImage)->image();
+}
+
+bool CoinFormViewController::hasUnsavedChanges() const {
+    return opened_ && shown() != *opened_;
+}
+
 CoinFormTexts CoinFormViewController::formTexts() const {
     CoinFormTexts t;
     t.denomination = DenominationTextField->text();

@@ -10,6 +10,8 @@
 
 #include <QPushButton>
 
+#include <optional>
+
 class QFormLayout;
 
 class CoinFormViewController : public ViewController,
@@ -52,6 +54,9 @@ public:
     void imageTaken(const QImage& image);
     void documentPicked(const QString& path);
     void dismissKeyboard();
+    // A field or picture differs from what the form showed when it opened (or was last saved
+    // or filled again).
+    bool hasUnsavedChanges() const override;
 
 protected:
     // A click on the form outside its fields ends editing.
@@ -61,9 +66,20 @@ protected:
     void loadPickerLists();
     CoinFormTexts formTexts() const;
     void showTexts(const CoinFormTexts& texts);
+    // What the form shows now becomes what it opened with.
+    void rememberOpeningState();
+    // A picture removed from the store at once is no change left to lose.
+    void rememberShownPicture(bool front);
     QFormLayout* form_;
 
 private:
+    struct Shown {
+        QStringList texts;
+        QImage front, back;
+        bool operator==(const Shown&) const = default;
+    };
+    Shown shown() const;
+    std::optional<Shown> opened_;
     void openCamera(bool front);
     void attach(bool front);
     void paste(ImageView* view);

@@ -32,7 +32,10 @@ EditViewController::EditViewController(QWidget* parent)
     connect(NotesButton, &QPushButton::clicked, this,
             [this] { performSegue(QStringLiteral("Notes")); });
     connect(ShareButton, &QPushButton::clicked, this, &EditViewController::shareButtonClicked);
-    registerUnwindAction(QStringLiteral("unwindToEdit"), [this](StoryboardSegue&) { fillForm(); });
+    registerUnwindAction(QStringLiteral("unwindToEdit"), [this](StoryboardSegue&) {
+        fillForm();
+        rememberOpeningState();
+    });
 }
 
 void EditViewController::viewDidLoad() {
@@ -55,6 +58,7 @@ void EditViewController::viewDidLoad() {
     updateNavigationBar();
     // Asked five seconds after opening; nothing happens if the screen has gone by then.
     after(5000, [this] { reviewService.requestReview(); });
+    rememberOpeningState();
 }
 
 bool EditViewController::eventFilter(QObject* watched, QEvent* event) {
@@ -118,6 +122,8 @@ void EditViewController::SaveButtonClicked() {
             performUnwind(unwind);
             return;
         }
+    // Staying on the form: what it shows now is what was saved.
+    rememberOpeningState();
 }
 
 void EditViewController::removeImage(bool front) {
@@ -145,6 +151,7 @@ void EditViewController::removeImage(bool front) {
                                 QVariant());
         Application::saveRecord(found.first());
         (front ? FrontImage : BackImage)->setImage({});
+        rememberShownPicture(front);
     });
     alert->addAction(QStringLiteral("No"), AlertController::ActionStyle::Cancel);
     present(alert);

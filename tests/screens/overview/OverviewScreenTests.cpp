@@ -76,6 +76,29 @@ TEST_F(OverviewTest, OpensFromTheMenuWithTheGuideFittedToTheWidth) {
     for (const char* fact : {"leaves out the back pictures", "every picture and list included",
                              "kept first as a snapshot", "--backup FILE", "--restore FILE"})
         EXPECT_TRUE(guide.contains(QLatin1String(fact))) << fact;
+    // What surprises people is told where the guide describes those screens, each with what to
+    // do: the list, the coin forms, printing and the folders.
+    const auto section = [&guide](const char* heading, const char* next) {
+        const qsizetype from = guide.indexOf(QLatin1String(heading));
+        return guide.mid(from, guide.indexOf(QLatin1String(next), from) - from);
+    };
+    const QString list = section("The coin list", "Adding and editing a coin");
+    for (const char* fact :
+         {"choose the sort first", "comes back into view when the search is cleared",
+          "choose the sort again", "may not pass 32,767", "Arithmetic overflow",
+          "quantity 1 and the value of the lot"})
+        EXPECT_TRUE(list.contains(QLatin1String(fact))) << fact;
+    const QString forms = section("Adding and editing a coin", "Grouping and reports");
+    for (const char* fact :
+         {"notes of a new coin are not kept", "Discard changes?", "Keep Editing", "Discard",
+          "without saving and without asking", "first coin of that denomination and year",
+          "Save the form first", "record number 0", "IDHasBeenFixedFlag=true",
+          "a copy of it is kept in your Pictures folder"})
+        EXPECT_TRUE(forms.contains(QLatin1String(fact))) << fact;
+    EXPECT_TRUE(section("Grouping and reports", "Reference lists")
+                    .contains("empty at first: Create File lays out"));
+    EXPECT_TRUE(guide.contains("the menu is closed again each time you come back to it"));
+    EXPECT_FALSE(guide.contains("there is nothing to save on leaving"));
     EXPECT_EQ(viewer->pageMode(), QPdfView::PageMode::MultiPage);
     EXPECT_EQ(screen->PageLabel->text(), QStringLiteral("1 of %1").arg(pdf->pageCount()));
 
