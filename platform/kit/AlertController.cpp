@@ -168,8 +168,13 @@ QString AlertController::defaultActionTitle() const {
     for (const Action& a : actions_)
         if (a.style == ActionStyle::Default)
             return a.title;
+    // A destructive action is never the one Enter takes: a key pressed by habit must not
+    // throw work away.
     for (const Action& a : actions_)
-        if (a.style != ActionStyle::Cancel)
+        if (a.style != ActionStyle::Cancel && a.style != ActionStyle::Destructive)
+            return a.title;
+    for (const Action& a : actions_)
+        if (a.style == ActionStyle::Cancel)
             return a.title;
     return actions_.isEmpty() ? QString() : actions_.first().title;
 }

@@ -12,6 +12,7 @@
 #include <QLineSeries>
 #include <QToolTip>
 #include <QValueAxis>
+#include <algorithm>
 
 namespace StatisticsCharts {
 
@@ -64,8 +65,9 @@ void showSeries(QChartView* view, const QList<ValueHistory::DayTotal>& days) {
     line->setPointsVisible(days.size() <= 40);
     chart->addSeries(line);
     auto* time = new QDateTimeAxis;
-    time->setFormat(QStringLiteral("yyyy-MM-dd"));
-    time->setTickCount(5);
+    // Months over a long range, days over a short one: a label short enough for a phone.
+    const bool long_ = !days.isEmpty() && days.first().day.daysTo(days.last().day) > 62;
+    time->setFormat(long_ ? QStringLiteral("MMM yyyy") : QStringLiteral("d MMM"));
     if (!days.isEmpty())
         time->setRange(days.first().day.startOfDay(),
                        std::max(days.last().day, days.first().day.addDays(1)).startOfDay());
@@ -76,6 +78,7 @@ void showSeries(QChartView* view, const QList<ValueHistory::DayTotal>& days) {
     chart->addAxis(value, Qt::AlignLeft);
     line->attachAxis(time);
     line->attachAxis(value);
+    fitTicks(view);
     QObject::connect(line, &QLineSeries::hovered, view, [](const QPointF& p, bool on) {
         if (on)
             QToolTip::showText(
@@ -126,6 +129,12 @@ void showShares(QChartView* view, const QList<Holdings::Share>& shares, const QS
                                                    .arg(shares[i].pieces)
                                                    .arg(Currency::text(shares[i].value)));
     });
+}
+
+void fitTicks(QChartView* view) {
+    for (QAbstractAxis* axis : view->chart()->axes(Qt::Horizontal))
+        if (auto* time = qobject_cast<QDateTimeAxis*>(axis))
+            time->setTickCount(std::clamp(view->width() / 120, 2, 7));
 }
 
 void applyTheme(QChartView* view, bool dark) {

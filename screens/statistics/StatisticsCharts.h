@@ -20,5 +20,7 @@ void showSeries(QChartView* view, const QList<ValueHistory::DayTotal>& days);
 // One bar per share: its value, or its pieces; hovering a bar tells both.
 void showShares(QChartView* view, const QList<Holdings::Share>& shares, const QString& what,
                 bool byValue);
+// As many dates under the value line as its width has room for.
+void fitTicks(QChartView* view);
 void applyTheme(QChartView* view, bool dark);
 } // namespace StatisticsCharts

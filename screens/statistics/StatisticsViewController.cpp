@@ -373,4 +373,6 @@ void StatisticsViewController::resizeEvent(QResizeEvent* event) {
     for (QBoxLayout* box : std::as_const(pageLayouts_))
         if (box->direction() != direction)
             box->setDirection(direction);
+    // The chart has its new width once the layout has run.
+    after(0, [this] { StatisticsCharts::fitTicks(Charts[ValuePage]); });
 }

@@ -61,11 +61,16 @@ TEST_F(UnsavedFormTest, TheAddFormAsksBeforeEscapeAltLeftOrClosingThrowChangesAw
     type(add->DenominationTextField, "Nickel");
     press(Qt::Key_Escape);
     EXPECT_EQ(prompt(), kPrompt);
-    // Escape on the prompt keeps editing, as Keep Editing does.
+    // Escape on the prompt keeps editing, as Keep Editing does; so does Enter pressed by habit.
     press(Qt::Key_Escape);
     EXPECT_EQ(prompt(), "");
     EXPECT_EQ(top(), add);
     EXPECT_EQ(add->DenominationTextField->text(), "Nickel");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(prompt(), kPrompt);
+    press(Qt::Key_Return);
+    EXPECT_EQ(prompt(), "");
+    EXPECT_EQ(top(), add);
     press(Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(prompt(), kPrompt);
     answer("Discard");
