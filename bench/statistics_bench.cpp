@@ -39,6 +39,9 @@ bool addHistory(ManagedObjectContext& context, int coins, int events, const QDat
             return false;
         insert.reset();
     }
+    for (const QString& sql : ValueHistory::fold())
+        if (!db.exec(sql))
+            return false;
     return db.exec(QStringLiteral("COMMIT"));
 }
 

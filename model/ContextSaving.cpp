@@ -115,6 +115,13 @@ bool ManagedObjectContext::writePending(std::vector<qint64>& newIds) {
                 return false;
         }
     }
+    for (const QString& sql : ValueHistory::fold()) {
+        SqliteStatement& fold = db_->cached(sql);
+        const bool folded = fold.step() == SQLITE_DONE;
+        fold.reset();
+        if (!folded)
+            return false;
+    }
     // Writes from outside the program are dated and named by the store itself.
     return stampChanges({}, {});
 }

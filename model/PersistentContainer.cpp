@@ -286,7 +286,8 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
             steps << numbersNeverNull();
         // The history begins with the collection as it is now.
         if (current > 0 && current < 4)
-            steps << ValueHistory::schema() << ValueHistory::baseline(ValueHistory::now());
+            steps << ValueHistory::schema() << ValueHistory::baseline(ValueHistory::now())
+                  << ValueHistory::fold();
         steps << setApplicationId();
         if (!db_->exec(QStringLiteral("BEGIN IMMEDIATE")))
             return failure(db_->errorCode(), db_->errorMessage());

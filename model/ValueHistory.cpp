@@ -105,7 +105,8 @@ Cause::~Cause() {
 }
 
 QStringList tables() {
-    return {QStringLiteral("ValueEvents"), QStringLiteral("ValueEventSource")};
+    return {QStringLiteral("ValueEvents"), QStringLiteral("ValueDays"),
+            QStringLiteral("ValueEventSource")};
 }
 
 QStringList schema() {
@@ -118,12 +119,13 @@ QStringList schema() {
                        "year INTEGER NOT NULL DEFAULT 0, quantityBefore INTEGER NOT NULL, "
                        "valueBefore REAL NOT NULL, quantityAfter INTEGER NOT NULL, "
                        "valueAfter REAL NOT NULL, cause TEXT NOT NULL)"),
-        // The series reads this index alone: the day and what a day adds up.
-        QStringLiteral("CREATE INDEX ValueEvents_day ON ValueEvents(day, quantityBefore, "
-                       "valueBefore, quantityAfter, valueAfter)"),
-        QStringLiteral("CREATE INDEX ValueEvents_coin ON ValueEvents(coin)"),
+        // What each day added up to, folded in by every save from the events after the last
+        // one folded (ValueEventSource.folded): the series reads a row a day, not every event,
+        // and writing an event costs no more than the row itself.
+        QStringLiteral("CREATE TABLE ValueDays (day TEXT PRIMARY KEY, pieces INTEGER NOT NULL, "
+                       "value REAL NOT NULL) WITHOUT ROWID"),
         QStringLiteral("CREATE TABLE ValueEventSource (pk INTEGER PRIMARY KEY CHECK (pk = 1), "
-                       "time INTEGER, day TEXT, cause TEXT)"),
+                       "time INTEGER, day TEXT, cause TEXT, folded INTEGER NOT NULL DEFAULT 0)"),
         QStringLiteral("INSERT INTO ValueEventSource (pk) VALUES (1)"),
         trigger(QStringLiteral("Coins_added"), QStringLiteral("INSERT"), QStringLiteral("new"),
                 none, after, Added),
@@ -134,6 +136,17 @@ QStringList schema() {
         trigger(QStringLiteral("Coins_deleted"), QStringLiteral("DELETE"), QStringLiteral("old"),
                 before, none, Deleted),
     };
+}
+
+QStringList fold() {
+    return {QStringLiteral(
+                "INSERT INTO ValueDays (day, pieces, value) SELECT day, "
+                "sum(quantityAfter - quantityBefore), sum(quantityAfter * valueAfter - "
+                "quantityBefore * valueBefore) FROM ValueEvents WHERE pk > (SELECT folded FROM "
+                "ValueEventSource WHERE pk = 1) GROUP BY day ON CONFLICT (day) DO UPDATE SET "
+                "pieces = pieces + excluded.pieces, value = value + excluded.value"),
+            QStringLiteral("UPDATE ValueEventSource SET folded = coalesce((SELECT max(pk) FROM "
+                           "ValueEvents), 0) WHERE pk = 1")};
 }
 
 QString baseline(const QDateTime& now) {
@@ -149,11 +162,13 @@ QString baseline(const QDateTime& now) {
 
 Result<QList<DayTotal>> series(ManagedObjectContext& context, std::optional<QDate> from) {
     SqliteDatabase& db = *context.database();
-    // One pass over the day index: what each day adds, summed on as it goes.
-    SqliteStatement& st =
-        db.cached(QStringLiteral("SELECT day, sum(quantityAfter - quantityBefore), "
-                                 "sum(quantityAfter * valueAfter - quantityBefore * valueBefore) "
-                                 "FROM ValueEvents GROUP BY day ORDER BY day"));
+    // A row a day, with the days of the events not folded in yet (written by another program,
+    // or by a save that is still to fold them), summed on as it goes.
+    SqliteStatement& st = db.cached(QStringLiteral(
+        "SELECT day, sum(pieces), sum(value) FROM (SELECT day, pieces, value FROM ValueDays "
+        "UNION ALL SELECT day, quantityAfter - quantityBefore, quantityAfter * valueAfter - "
+        "quantityBefore * valueBefore FROM ValueEvents WHERE pk > (SELECT folded FROM "
+        "ValueEventSource WHERE pk = 1)) GROUP BY day ORDER BY day"));
     if (!st.isValid())
         return failure(db, QStringLiteral("reading the value history"));
     const QString first = from ? dayText(*from) : QString();

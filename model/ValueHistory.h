@@ -53,6 +53,9 @@ private:
 QStringList schema();
 // One event per coin already stored, dated `now`: the collection as the history begins.
 QString baseline(const QDateTime& now);
+// Adds the events written since the last fold to the days' sums: run by every save, after its
+// writes, in its transaction.
+QStringList fold();
 // The tables a store of a schema with history must hold.
 QStringList tables();
 
