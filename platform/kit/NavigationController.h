@@ -45,14 +45,15 @@ public:
     // Clicks the back button the bar shows: the stack's own, or a screen's bar item named
     // "BackButton" in its place. False when the bar shows none.
     bool goBack();
+    // Bar and screen stand in a column no wider than the top screen's readable width; a
+    // screen whose width changed asks again (and so does the stack holding a tab bar).
+    void fitReadableWidth();
 
 protected:
     // Keys from the bar's buttons go to the screen on top.
     void keyPressEvent(class QKeyEvent* event) override;
 
 private:
-    // Bar and screen stand in a column no wider than the top screen's readable width.
-    void fitReadableWidth();
     // Title and back button end with an ellipsis when the bar is too narrow for them.
     void fitBarTexts();
     void resizeEvent(QResizeEvent* event) override;

@@ -4,6 +4,7 @@
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/TableView.h"
 
+#include <QAbstractItemView>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -207,7 +208,7 @@ bool ViewController::goBack() {
 
 QWidget* ViewController::preferredFocusWidget() {
     if (auto* table = findChild<TableView*>())
-        return table->listView();
+        return table->rowsView();
     return this;
 }
 
