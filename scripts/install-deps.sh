@@ -14,6 +14,7 @@ packages=(
   fonts-liberation fonts-wqy-microhei
   xvfb xauth poppler-utils
   appstream desktop-file-utils
+  dpkg-dev file
   clang-format
 )
 
