@@ -79,20 +79,22 @@ QMenuBar* install(Window& window, MainMenuViewController* menu) {
 
     QMenu* view = bar->addMenu(QStringLiteral("&View"));
     auto* views = new QActionGroup(view);
-    const auto current = CoinListView::chosen();
     for (auto [title, presentation] :
          {std::pair{QStringLiteral("Cards"), CoinListView::Presentation::Cards},
           std::pair{QStringLiteral("Table"), CoinListView::Presentation::Table}}) {
         QAction* a = entry(view, title, {}, [p = presentation] { CoinListView::choose(p); });
         a->setCheckable(true);
-        a->setChecked(current == presentation);
         views->addAction(a);
+        // A list's own View button may have chosen since the menu was last open.
+        QObject::connect(view, &QMenu::aboutToShow, a,
+                         [a, p = presentation] { a->setChecked(CoinListView::chosen() == p); });
     }
     view->addSeparator();
     QAction* dark = entry(view, QStringLiteral("Dark Appearance"),
                           QKeySequence(QStringLiteral("Ctrl+Shift+D")), {});
     dark->setCheckable(true);
     dark->setChecked(Appearance::isDark());
+    views->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     QObject::connect(dark, &QAction::toggled, bar, [](bool on) {
         Appearance::setDark(on);
         UserDefaults::standard().setBool(on, QString::fromLatin1(kDarkPreference));
