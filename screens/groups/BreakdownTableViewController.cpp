@@ -142,7 +142,11 @@ void BreakdownTableViewController::viewDidLoad() {
          QStringLiteral("PrintButton"), QStringLiteral("printer")},
         {QStringLiteral("Sort"), [this] { SortButtonTapped(); }, nullptr,
          QStringLiteral("SortButton"), QStringLiteral("arrow.up.arrow.down")},
-        {QStringLiteral("View"), {}, viewSwitch->menu(), QStringLiteral("ViewButton")}};
+        {QStringLiteral("View"),
+         {},
+         viewSwitch->menu(),
+         QStringLiteral("ViewButton"),
+         QStringLiteral("tablecells")}};
     updateNavigationBar();
     updateShareButton();
     DarkMode = Appearance::isDark();

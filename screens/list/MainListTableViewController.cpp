@@ -53,7 +53,11 @@ void MainListTableViewController::viewDidLoad() {
         {QStringLiteral("+"), [this] { performSegue(QStringLiteral("AddCoin")); }, nullptr,
          QStringLiteral("AddButton")},
         {QStringLiteral("Sort by"), {}, sortMenu, QStringLiteral("SortButton")},
-        {QStringLiteral("View"), {}, viewSwitch->menu(), QStringLiteral("ViewButton")}};
+        {QStringLiteral("View"),
+         {},
+         viewSwitch->menu(),
+         QStringLiteral("ViewButton"),
+         QStringLiteral("tablecells")}};
     updateNavigationBar();
 }
 
