@@ -1,9 +1,11 @@
 #include "app/AppDelegate.h"
+#include "app/AppMenuBar.h"
 #include "app/AppStoryboard.h"
 #include "app/LaunchOptions.h"
 #include "app/StoreCommands.h"
 #include "exchange/ExchangeCommands.h"
 #include "platform/core/Files.h"
+#include "platform/core/UserDefaults.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/FatalMessage.h"
 #include "platform/kit/Window.h"
@@ -124,12 +126,14 @@ int main(int argc, char** argv) {
     const bool snapshotDue = StoreCommands::snapshotDue();
     AppDelegate delegate;
     delegate.didFinishLaunching();
-    if (options.dark)
+    if (options.dark || UserDefaults::standard().boolForKey(AppMenuBar::kDarkPreference))
         Appearance::setDark(true);
     AppStoryboard::install();
 
     auto* menu = new MainMenuViewController;
     Window window(menu);
+    AppMenuBar::install(window, menu);
+    window.rememberGeometry(QStringLiteral("WindowGeometry"));
     window.show();
     if (snapshotDue)
         StoreCommands::takeSnapshotSoon(&window);

@@ -14,6 +14,8 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFrame>
+#include <QHBoxLayout>
 #include <QImageCapture>
 #include <QLabel>
 #include <QMediaCaptureSession>
@@ -245,18 +247,27 @@ void DesktopDocumentPicker::open(QWidget* parent, const QStringList& nameFilters
     dialog->open();
 }
 
-void DesktopReviewRequester::requestReview(QWidget* window) {
+void DesktopReviewRequester::requestReview(QWidget* screen) {
+    auto* window = screen ? qobject_cast<Window*>(screen->window()) : nullptr;
     if (!window)
         return;
-    auto* prompt = new QWidget(window, Qt::Tool | Qt::FramelessWindowHint);
-    prompt->setAttribute(Qt::WA_DeleteOnClose);
-    auto* layout = new QVBoxLayout(prompt);
-    layout->addWidget(new QLabel(QStringLiteral("Enjoying Pelvane?"), prompt));
-    auto* later = new QPushButton(QStringLiteral("Not Now"), prompt);
+    auto* banner = new QFrame;
+    banner->setObjectName(QStringLiteral("ReviewBanner"));
+    banner->setFrameShape(QFrame::StyledPanel);
+    banner->setAutoFillBackground(true);
+    banner->setBackgroundRole(QPalette::AlternateBase);
+    auto* layout = new QHBoxLayout(banner);
+    layout->setContentsMargins(12, 6, 12, 6);
+    auto* text = new QLabel(QStringLiteral("Enjoying Pelvane?"), banner);
+    QFont bold = text->font();
+    bold.setBold(true);
+    text->setFont(bold);
+    layout->addWidget(text, 1);
+    auto* later = new QPushButton(QStringLiteral("Not Now"), banner);
+    later->setObjectName(QStringLiteral("NotNowButton"));
     layout->addWidget(later);
-    QObject::connect(later, &QPushButton::clicked, prompt, &QWidget::close);
-    prompt->move(window->mapToGlobal(QPoint(window->width() / 2 - 80, 60)));
-    prompt->show();
+    QObject::connect(later, &QPushButton::clicked, banner, &QObject::deleteLater);
+    window->showBanner(banner, screen);
 }
 
 bool DesktopPhotoLibrary::save(const QImage& image) {

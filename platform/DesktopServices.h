@@ -58,7 +58,8 @@ public:
 
 class DesktopReviewRequester : public ReviewRequester {
 public:
-    void requestReview(QWidget* window) override;
+    // A banner above the screens of the window, with "Not Now".
+    void requestReview(QWidget* screen) override;
 };
 
 class DesktopPhotoLibrary : public PhotoLibrary {

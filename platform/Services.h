@@ -92,8 +92,9 @@ public:
 class ReviewRequester {
 public:
     virtual ~ReviewRequester() = default;
-    // The platform decides whether anything is shown.
-    virtual void requestReview(QWidget* window) = 0;
+    // The platform decides whether anything is shown; what it shows goes when the user
+    // leaves `screen`.
+    virtual void requestReview(QWidget* screen) = 0;
 };
 
 class PhotoLibrary {

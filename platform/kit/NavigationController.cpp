@@ -155,6 +155,8 @@ bool NavigationController::isNavigationBarHidden() const {
 void NavigationController::fitReadableWidth() {
     const ViewController* top = topViewController();
     column_->setMaximumWidth(top ? top->readableWidth() : QWIDGETSIZE_MAX);
+    if (container_ && container_->navigationController())
+        container_->navigationController()->fitReadableWidth();
 }
 
 void NavigationController::refreshBar() {

@@ -48,6 +48,9 @@ public:
     bool goBack();
     // Whether the bar shows a back button goBack() would click.
     bool canGoBack() const { return visibleBackButton() != nullptr; }
+    // Bar and screen stand in a column no wider than the top screen's readable width; a
+    // screen whose width changed asks again (and so does the stack holding a tab bar).
+    void fitReadableWidth();
 
 protected:
     // Keys from the bar's buttons go to the screen on top.
@@ -55,8 +58,6 @@ protected:
 
 private:
     QAbstractButton* visibleBackButton() const;
-    // Bar and screen stand in a column no wider than the top screen's readable width.
-    void fitReadableWidth();
     // Title and back button end with an ellipsis when the bar is too narrow for them.
     void fitBarTexts();
     void resizeEvent(QResizeEvent* event) override;

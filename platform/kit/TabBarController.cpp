@@ -70,6 +70,11 @@ ViewController* TabBarController::selectedScreen() const {
     return count() ? tab(selectedIndex())->topViewController() : nullptr;
 }
 
+int TabBarController::readableWidth() const {
+    const ViewController* screen = selectedScreen();
+    return screen ? screen->readableWidth() : kReadableWidth;
+}
+
 void TabBarController::viewWillAppear(bool animated) {
     if (ViewController* screen = selectedScreen()) {
         screen->loadViewIfNeeded(); // a tab's screen loads when the tab is first shown

@@ -22,6 +22,8 @@ public:
 
     // The selected tab's screen takes the keyboard.
     QWidget* preferredFocusWidget() override;
+    // As wide as the selected tab's screen reads.
+    int readableWidth() const override;
 
     // Passed on to the screen on top of the selected tab.
     void viewWillAppear(bool animated) override;

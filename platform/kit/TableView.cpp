@@ -3,6 +3,7 @@
 #include "platform/kit/Elide.h"
 
 #include <QAbstractListModel>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
@@ -10,6 +11,7 @@
 #include <QPainter>
 #include <QScroller>
 #include <QStyledItemDelegate>
+#include <QTableView>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -256,6 +258,7 @@ void TableView::reloadData() {
     showFixed(sectionHeader_, &TableModel::Section::headerTitle);
     showFixed(sectionFooter_, &TableModel::Section::footerTitle);
     list_->viewport()->update();
+    reloadGrid();
 }
 
 void TableView::setUniformRowHeights(bool uniform) {
@@ -287,9 +290,9 @@ void TableView::setTableHeaderView(QWidget* view) {
     if (!view)
         return;
     // The header keeps clear of the window's edges, as the rows do.
-    headerMargins_ = new QVBoxLayout;
+    headerMargins_ = new QHBoxLayout;
     headerMargins_->setContentsMargins(8, 6, 8, 4);
-    headerMargins_->addWidget(view);
+    headerMargins_->addWidget(view, 1);
     layout_->insertLayout(0, headerMargins_);
     // A new search shows its first match, not where the last list was scrolled to; connected
     // after the search's own reporting, so it follows the reload.
@@ -332,6 +335,8 @@ void TableView::scrollToTop() {
     // The pending layout of a reload would put the old scroll position back.
     list_->doItemsLayout();
     list_->scrollToTop();
+    if (grid_)
+        grid_->scrollToTop();
 }
 
 void TableView::deselectRow(IndexPath, bool) {

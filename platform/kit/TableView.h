@@ -4,6 +4,7 @@
 // have trailing swipe actions (drag a row left, or right-click / long press).
 #include <QHash>
 #include <QListView>
+#include <QVariant>
 #include <QWidget>
 #include <functional>
 #include <optional>
@@ -43,6 +44,21 @@ public:
     virtual QString titleForFooter(TableView*, int /*section*/) { return {}; }
     virtual void didSelectRow(TableView*, IndexPath) {}
     virtual QList<SwipeAction> trailingSwipeActions(TableView*, IndexPath) { return {}; }
+
+    // The table presentation of a one-section list: one column per title, each cell's value
+    // by Qt's item roles (text, picture, alignment). No titles: only cards are shown.
+    virtual QStringList columnTitles(TableView*) { return {}; }
+    virtual QVariant valueForColumn(TableView*, IndexPath, int /*column*/, int /*role*/) {
+        return {};
+    }
+    // A column's starting width in pixels; 0 shares out what the others leave.
+    virtual int widthForColumn(TableView*, int /*column*/) { return 0; }
+    // A click on a column's title; the source sorts and reloads as it sees fit.
+    virtual void didClickColumnHeader(TableView*, int /*column*/) {}
+    // The column the rows are sorted by and its direction, marked on its title.
+    virtual std::optional<std::pair<int, Qt::SortOrder>> sortColumn(TableView*) {
+        return std::nullopt;
+    }
 };
 
 class TableView : public QWidget {
@@ -90,6 +106,19 @@ public:
     // Removes one row after the data source already dropped it.
     void deleteRows(const QList<IndexPath>& paths);
     QListView* listView() const { return list_; }
+
+    // Cards (one drawn cell per row) or a table of columns with one line per row.
+    enum class Presentation { Cards, Table };
+    void setPresentation(Presentation presentation);
+    Presentation presentation() const { return presentation_; }
+    // The table presentation's view (made on first use).
+    class QTableView* gridView();
+    // The view that shows the rows now, the list's or the table's.
+    class QAbstractItemView* rowsView() const;
+    // Makes a row the current one and brings it into view without opening it.
+    void setCurrentRow(IndexPath path);
+    // The table's line height: 25 lines and more in a window 800 pixels high.
+    static constexpr int kGridRowHeight = 26;
     // Row of the list view for a path, and back; -1 / invalid for headers and footers.
     int listRow(IndexPath path) const;
     IndexPath pathForListRow(int row, bool* isRow = nullptr) const;
@@ -117,11 +146,15 @@ private:
     friend class TableModel;
     friend class SwipeFilter;
     void showActionsMenu(int listRow, QPoint globalPos);
+    void showActionsMenuFor(IndexPath path, QPoint globalPos);
+    friend class GridModel;
+    void reloadGrid();
+    IndexPath gridPath(int row) const { return {0, row}; }
 
     TableViewDataSource* source_ = nullptr;
     QVBoxLayout* layout_;
     QWidget* header_ = nullptr;
-    QVBoxLayout* headerMargins_ = nullptr;
+    class QBoxLayout* headerMargins_ = nullptr;
     class QLabel* sectionHeader_;
     class QLabel* sectionFooter_ = nullptr;
     QListView* list_;
@@ -135,4 +168,9 @@ private:
     int cellsRequested_ = 0;
     // The current row is marked only once the keyboard moved it, not for mouse and touch.
     bool keyboardMark_ = false;
+    Presentation presentation_ = Presentation::Cards;
+    class QTableView* grid_ = nullptr;
+    class GridModel* gridModel_ = nullptr;
+    int widthsSetFor_ = -1;
+    int gridScrolled_ = -1;
 };

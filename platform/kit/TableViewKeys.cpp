@@ -7,6 +7,9 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
+#include <QScrollBar>
+#include <QTableView>
+#include <QTimer>
 
 bool TableView::focusSearchField() {
     auto* field = qobject_cast<QLineEdit*>(header_);
@@ -17,6 +20,10 @@ bool TableView::focusSearchField() {
 }
 
 std::optional<IndexPath> TableView::currentRow() const {
+    if (rowsView() != list_) {
+        const QModelIndex current = rowsView()->currentIndex();
+        return current.isValid() ? std::optional(gridPath(current.row())) : std::nullopt;
+    }
     bool isRow = false;
     const QModelIndex current = list_->currentIndex();
     const IndexPath path = pathForListRow(current.row(), &isRow);
@@ -26,7 +33,17 @@ std::optional<IndexPath> TableView::currentRow() const {
 bool TableView::eventFilter(QObject* watched, QEvent* event) {
     if (watched == list_->viewport() && event->type() == QEvent::MouseButtonPress)
         keyboardMark_ = false;
-    if (watched == list_ && event->type() == QEvent::KeyPress)
+    if (grid_ && watched == grid_ && event->type() == QEvent::Hide)
+        gridScrolled_ = grid_->verticalScrollBar()->value();
+    // Shown again (the return from a screen opened from it), the table stands where it was.
+    // Its layout on showing may move it, so it is put back once that is done as well.
+    if (grid_ && watched == grid_ && event->type() == QEvent::Show && gridScrolled_ >= 0) {
+        const int scrolled = std::exchange(gridScrolled_, -1);
+        grid_->verticalScrollBar()->setValue(scrolled);
+        QTimer::singleShot(
+            0, grid_, [grid = grid_, scrolled] { grid->verticalScrollBar()->setValue(scrolled); });
+    }
+    if ((watched == list_ || (watched == grid_ && grid_)) && event->type() == QEvent::KeyPress)
         return handleListKey(static_cast<QKeyEvent*>(event));
     return false;
 }
@@ -51,10 +68,10 @@ bool TableView::handleListKey(QKeyEvent* event) {
         return true;
     case Qt::Key_Delete:
     case Qt::Key_Backspace:
-        if (currentRow()) {
-            const int row = list_->currentIndex().row();
-            const QRect rect = list_->visualRect(list_->currentIndex());
-            showActionsMenu(row, list_->viewport()->mapToGlobal(rect.center()));
+        if (const auto path = currentRow()) {
+            QAbstractItemView* view = rowsView();
+            const QRect rect = view->visualRect(view->currentIndex());
+            showActionsMenuFor(*path, view->viewport()->mapToGlobal(rect.center()));
         }
         return true;
     default:
@@ -76,7 +93,10 @@ void TableView::keyPressEvent(QKeyEvent* event) {
     if (fromSearch && (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Down) &&
         event->modifiers() == Qt::NoModifier && list_->model()->rowCount() > 0) {
         keyboardMark_ = event->key() == Qt::Key_Down;
-        list_->setFocus(Qt::OtherFocusReason);
+        QAbstractItemView* view = rowsView();
+        view->setFocus(Qt::OtherFocusReason);
+        if (view != list_ && !view->currentIndex().isValid() && numberOfRows(0) > 0)
+            setCurrentRow({0, 0});
         event->accept();
         return;
     }
@@ -86,7 +106,13 @@ void TableView::keyPressEvent(QKeyEvent* event) {
 void TableView::showActionsMenu(int row, QPoint globalPos) {
     bool isRow = false;
     const IndexPath path = pathForListRow(row, &isRow);
-    if (row < 0 || !isRow || !source_)
+    if (row < 0 || !isRow)
+        return;
+    showActionsMenuFor(path, globalPos);
+}
+
+void TableView::showActionsMenuFor(IndexPath path, QPoint globalPos) {
+    if (!source_)
         return;
     const auto actions = source_->trailingSwipeActions(this, path);
     if (actions.isEmpty())
@@ -98,7 +124,7 @@ void TableView::showActionsMenu(int row, QPoint globalPos) {
         menu->addAction(title, this, [this, path, title] { triggerSwipeAction(path, title); });
     }
     // Enter takes the first action at once when the menu was opened from the keyboard.
-    if (list_->hasFocus())
+    if (rowsView()->hasFocus())
         menu->setActiveAction(menu->actions().value(0));
     menu->popup(globalPos);
 }

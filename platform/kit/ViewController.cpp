@@ -4,6 +4,7 @@
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/TableView.h"
 
+#include <QAbstractItemView>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPushButton>
@@ -230,7 +231,7 @@ void ViewController::confirmDiscard(std::function<void()> discard) {
 
 QWidget* ViewController::preferredFocusWidget() {
     if (auto* table = findChild<TableView*>())
-        return table->listView();
+        return table->rowsView();
     return this;
 }
 

@@ -1,10 +1,15 @@
 #include "platform/kit/Window.h"
 
+#include "platform/core/UserDefaults.h"
+#include "platform/kit/ButtonKeys.h"
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/TabBarController.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMenuBar>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -18,6 +23,7 @@ Window::Window(ViewController* root, QWidget* parent)
     layout->addWidget(nav_);
     resize(390, 844);
     setWindowTitle(QStringLiteral("Pelvane"));
+    ButtonKeys::install();
     // Alt+Left goes back from anywhere in the window, also from a button that would take the
     // arrow key for itself.
     auto* back = new QShortcut(QKeySequence::Back, this);
@@ -26,6 +32,86 @@ Window::Window(ViewController* root, QWidget* parent)
             if (auto* screen = qobject_cast<ViewController*>(w); screen && screen->goBack())
                 return;
     });
+}
+
+void Window::setMenuBar(QMenuBar* bar) {
+    menuBar_ = bar;
+    layout()->setMenuBar(bar);
+    bar->setVisible(width() >= kMenuBarFromWidth);
+}
+
+void Window::rememberGeometry(const QString& key) {
+    geometryKey_ = key;
+    const QVariantMap saved = UserDefaults::standard().objectForKey(key).toMap();
+    const QRect rect(saved.value(QStringLiteral("x")).toInt(),
+                     saved.value(QStringLiteral("y")).toInt(),
+                     saved.value(QStringLiteral("width")).toInt(),
+                     saved.value(QStringLiteral("height")).toInt());
+    if (rect.width() < 200 || rect.height() < 200)
+        return;
+    // Enough of the window's top must show on some screen to take hold of it.
+    bool reachable = false;
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRect shown = screen->availableGeometry().intersected(rect);
+        reachable |= shown.width() >= 100 && shown.height() >= 50;
+    }
+    if (reachable) {
+        setGeometry(rect);
+    } else if (const QScreen* primary = QGuiApplication::primaryScreen()) {
+        const QRect area = primary->availableGeometry();
+        QRect centred(QPoint(), rect.size().boundedTo(area.size()));
+        centred.moveCenter(area.center());
+        setGeometry(centred);
+    }
+    if (saved.value(QStringLiteral("maximized")).toBool())
+        setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+void Window::keepGeometry() {
+    if (!geometryKey_.isEmpty()) {
+        // The size to come back to from maximised is the one kept.
+        const QRect rect = isMaximized() ? normalGeometry() : geometry();
+        UserDefaults::standard().setObject(
+            QVariantMap{{QStringLiteral("x"), rect.x()},
+                        {QStringLiteral("y"), rect.y()},
+                        {QStringLiteral("width"), rect.width()},
+                        {QStringLiteral("height"), rect.height()},
+                        {QStringLiteral("maximized"), isMaximized()}},
+            geometryKey_);
+        UserDefaults::standard().synchronize();
+    }
+}
+
+void Window::showBanner(QWidget* banner, QWidget* screen) {
+    delete banner_;
+    if (bannerScreen_)
+        bannerScreen_->removeEventFilter(this);
+    banner_ = banner;
+    bannerScreen_ = screen;
+    static_cast<QVBoxLayout*>(layout())->insertWidget(0, banner);
+    banner->show();
+    if (screen) {
+        screen->installEventFilter(this);
+        connect(screen, &QObject::destroyed, banner, &QObject::deleteLater);
+    }
+}
+
+bool Window::eventFilter(QObject* watched, QEvent* event) {
+    // The banner belongs to the screen it came with: leaving that screen takes it away.
+    if (watched == bannerScreen_ && event->type() == QEvent::Hide && !event->spontaneous() &&
+        banner_) {
+        banner_->deleteLater();
+        banner_ = nullptr;
+        bannerScreen_->removeEventFilter(this);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void Window::resizeEvent(QResizeEvent* event) {
+    // A phone-sized window keeps its height for the screens; their buttons reach everything.
+    if (menuBar_)
+        menuBar_->setVisible(width() >= kMenuBarFromWidth);
+    QWidget::resizeEvent(event);
 }
 
 ViewController* Window::frontScreen() const {
@@ -68,6 +154,7 @@ void Window::closeEvent(QCloseEvent* event) {
     });
     if (discarding_ || !unsaved || !front) {
         discarding_ = false;
+        keepGeometry();
         QWidget::closeEvent(event);
         return;
     }

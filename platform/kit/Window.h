@@ -1,6 +1,7 @@
 #pragma once
 // The program's window: one navigation stack, phone-sized by default, resizable to tablet and
 // desktop sizes (every screen lays itself out).
+#include <QPointer>
 #include <QWidget>
 
 class NavigationController;
@@ -15,13 +16,35 @@ public:
     // window's own), in a tab bar the selected tab's.
     ViewController* frontScreen() const;
 
+    // A menu bar above the screens, shown while the window is wider than a phone.
+    void setMenuBar(class QMenuBar* bar);
+    class QMenuBar* menuBar() const {
+        return menuBar_;
+    }
+    static constexpr int kMenuBarFromWidth = 600;
+    // A banner above the screens (it takes the banner), gone when `screen` is left or closed.
+    void showBanner(QWidget* banner, QWidget* screen);
+    QWidget* banner() const { return banner_; }
+
+    // Puts back the size, position and maximised state kept under `key` (a window that would
+    // stand off every screen opens centred on the primary one), and keeps them there on close.
+    void rememberGeometry(const QString& key);
+
 protected:
     // Keys that found no focused widget go to the screen in front.
     void keyPressEvent(class QKeyEvent* event) override;
+    void resizeEvent(class QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     // A screen the user can still go back to with unsaved changes asks first.
     void closeEvent(class QCloseEvent* event) override;
 
 private:
+    // Keeps the window's place and size for the next start (rememberGeometry).
+    void keepGeometry();
     NavigationController* nav_;
     bool discarding_ = false;
+    class QMenuBar* menuBar_ = nullptr;
+    QPointer<QWidget> banner_;
+    QPointer<QWidget> bannerScreen_;
+    QString geometryKey_;
 };

@@ -6,6 +6,7 @@
 #include "platform/graphics/ImageCoding.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
+#include "platform/kit/FileDrop.h"
 #include "platform/kit/Symbols.h"
 #include "screens/Application.h"
 
@@ -120,6 +121,14 @@ CoinFormViewController::CoinFormViewController(QWidget* parent)
             &CoinFormViewController::AttachBackImage);
     connect(FrontPasteButton, &QPushButton::clicked, this, &CoinFormViewController::PasteFront);
     connect(RearPasteButton, &QPushButton::clicked, this, &CoinFormViewController::PasteRear);
+    // A picture dropped on a side is taken as if chosen for it in the file dialog.
+    for (ImageView* side : {FrontImage, BackImage})
+        FileDrop::accept(side, FileDrop::isPicture,
+                         [this, front = side == FrontImage](const QString& path) {
+                             isFrontImage = front;
+                             isBackImage = !front;
+                             documentPicked(path);
+                         });
 }
 
 void CoinFormViewController::setUpForm() {

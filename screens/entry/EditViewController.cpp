@@ -20,7 +20,7 @@ EditViewController::EditViewController(QWidget* parent)
     , NotesButton(new QPushButton(QStringLiteral("Notes"), this))
     , ShareButton(new QPushButton(QStringLiteral("Share"), this))
     , reviewService([this] {
-        Platform::reviewRequester().requestReview(window());
+        Platform::reviewRequester().requestReview(this);
         return true;
     }) {
     NotesButton->setObjectName(QStringLiteral("NotesButton"));

@@ -1,4 +1,5 @@
 #include "screens/exchange/ImportViewController.h"
+#include "platform/kit/FileDrop.h"
 
 #include "exchange/ExchangeReader.h"
 #include "platform/Platform.h"
@@ -117,6 +118,10 @@ ImportViewController::ImportViewController(QWidget* parent)
         b->setMinimumHeight(44);
     connect(LoadFileButton, &QPushButton::clicked, this, &ImportViewController::LoadFile);
     connect(ImportButton, &QPushButton::clicked, this, &ImportViewController::ImportTextFile);
+    // An exchange file dropped on the screen loads as if chosen with Load File.
+    FileDrop::accept(
+        this, [this](const QString&) { return LoadFileButton->isEnabled(); },
+        [this](const QString& path) { documentPicked(path); });
 }
 
 void ImportViewController::viewDidLoad() {

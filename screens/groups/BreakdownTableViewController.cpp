@@ -57,7 +57,8 @@ const Kind& Kind::denomination() {
         .unwind = "unwindToDenominationTableView",
         .makeCell = []() -> BreakdownTableViewCell* {
             return new DenominationBreakdownTableViewCell;
-        }};
+        },
+        .sortedColumn = CoinListView::Year};
     return k;
 }
 const Kind& Kind::country() {
@@ -76,7 +77,8 @@ const Kind& Kind::country() {
         .label4 = [](const Coins& c) { return money(c) + " Total Value: " + total(c); },
         .calledFromList = "CountryBreakdown",
         .unwind = "unwindToCountryTableView",
-        .makeCell = []() -> BreakdownTableViewCell* { return new CountryBreakdownTableViewCell; }};
+        .makeCell = []() -> BreakdownTableViewCell* { return new CountryBreakdownTableViewCell; },
+        .sortedColumn = CoinListView::Denomination};
     return k;
 }
 const Kind& Kind::year() {
@@ -93,7 +95,8 @@ const Kind& Kind::year() {
         .label4 = [](const Coins& c) { return "Value: " + money(c) + " Total Value: " + total(c); },
         .calledFromList = "YearBreakdown",
         .unwind = "unwindToYearTableView",
-        .makeCell = []() -> BreakdownTableViewCell* { return new YearBreakdownTableViewCell; }};
+        .makeCell = []() -> BreakdownTableViewCell* { return new YearBreakdownTableViewCell; },
+        .sortedColumn = CoinListView::Denomination};
     return k;
 }
 
@@ -112,6 +115,7 @@ BreakdownTableViewController::BreakdownTableViewController(const Kind& kind, QWi
     , outputFileURL(QUrl::fromLocalFile(Files::documentsDirectory() +
                                         GroupReport::of(kind.group).pdfFileName))
     , ProgressView_(new ProgressView(this))
+    , viewSwitch(new CoinListViewSwitch(this, tableView))
     , kind_(kind) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -137,7 +141,12 @@ void BreakdownTableViewController::viewDidLoad() {
         {QStringLiteral("Print"), [this] { PrintButtonClicked(); }, nullptr,
          QStringLiteral("PrintButton"), QStringLiteral("printer")},
         {QStringLiteral("Sort"), [this] { SortButtonTapped(); }, nullptr,
-         QStringLiteral("SortButton"), QStringLiteral("arrow.up.arrow.down")}};
+         QStringLiteral("SortButton"), QStringLiteral("arrow.up.arrow.down")},
+        {QStringLiteral("View"),
+         {},
+         viewSwitch->menu(),
+         QStringLiteral("ViewButton"),
+         QStringLiteral("tablecells")}};
     updateNavigationBar();
     updateShareButton();
     DarkMode = Appearance::isDark();
@@ -312,4 +321,29 @@ void BreakdownTableViewController::deleteCoinAt(int row) {
     }
     tableView->deleteRows({{0, row}});
     updateShareButton();
+}
+
+void BreakdownTableViewController::viewDidAppear(bool) {
+    viewSwitch->apply();
+}
+
+int BreakdownTableViewController::readableWidth() const {
+    return viewSwitch->showsTable() ? QWIDGETSIZE_MAX : kReadableWidth;
+}
+
+QVariant BreakdownTableViewController::valueForColumn(TableView*, IndexPath path, int column,
+                                                      int role) {
+    const Coins& coin = *listInUse().at(path.row);
+    return CoinListView::cell(coin, column, role, coin.quantity(), pictures_);
+}
+
+void BreakdownTableViewController::didClickColumnHeader(TableView*, int column) {
+    if (column == kind_.sortedColumn)
+        SortButtonTapped();
+}
+
+std::optional<std::pair<int, Qt::SortOrder>> BreakdownTableViewController::sortColumn(TableView*) {
+    if (!SortAsc)
+        return std::nullopt;
+    return std::pair{int(kind_.sortedColumn), *SortAsc ? Qt::AscendingOrder : Qt::DescendingOrder};
 }

@@ -8,6 +8,7 @@
 #include "platform/kit/TableView.h"
 #include "platform/kit/ViewController.h"
 #include "reports/CoinGroup.h"
+#include "screens/CoinListView.h"
 #include "screens/CoinPictureCache.h"
 #include "screens/CoinRowCell.h"
 
@@ -45,6 +46,8 @@ public:
         QString calledFromList; // the origin marker the edit screen returns by
         QString unwind;         // the unwind segue back here
         BreakdownTableViewCell* (*makeCell)();
+        // The table's column that the fetch and the sort button order the group by.
+        CoinListView::Column sortedColumn;
 
         static const Kind& denomination();
         static const Kind& country();
@@ -82,6 +85,16 @@ public:
     TableViewCell* cellForRow(TableView* table, IndexPath path) override;
     void didSelectRow(TableView* table, IndexPath path) override;
     QList<SwipeAction> trailingSwipeActions(TableView* table, IndexPath path) override;
+    // The table view: its columns; a click on the sorted column's title is the sort button.
+    QStringList columnTitles(TableView*) override { return CoinListView::columnTitles(); }
+    int widthForColumn(TableView*, int column) override {
+        return CoinListView::columnWidth(column);
+    }
+    QVariant valueForColumn(TableView*, IndexPath path, int column, int role) override;
+    void didClickColumnHeader(TableView*, int column) override;
+    std::optional<std::pair<int, Qt::SortOrder>> sortColumn(TableView*) override;
+    int readableWidth() const override;
+    void viewDidAppear(bool animated) override;
 
     SearchController* searchController;
     TableView* tableView;
@@ -97,6 +110,7 @@ public:
     std::unique_ptr<QTextDocument> CoinString;
     QUrl outputFileURL;
     ProgressView* ProgressView_;
+    CoinListViewSwitch* viewSwitch;
 
 private:
     bool searching() const { return !searchController->text().isEmpty(); }

@@ -18,13 +18,16 @@ MainListTableViewController::MainListTableViewController(QWidget* parent)
     : ViewController(parent)
     , searchController(new SearchController(this))
     , tableView(new TableView(this))
-    , sortMenu(new QMenu(QStringLiteral("..."), this)) {
+    , sortMenu(new QMenu(QStringLiteral("..."), this))
+    , viewSwitch(new CoinListViewSwitch(this, tableView)) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(tableView);
     tableView->registerCell(QStringLiteral("Cell"), [] { return new MainListTableViewCell; });
-    registerUnwindAction(QStringLiteral("unwindToList"),
-                         [this](StoryboardSegue&) { fetchCoins(); });
+    registerUnwindAction(QStringLiteral("unwindToList"), [this](StoryboardSegue&) {
+        fetchCoins();
+        showTappedCoin();
+    });
 }
 
 void MainListTableViewController::viewDidLoad() {
@@ -49,12 +52,22 @@ void MainListTableViewController::viewDidLoad() {
     navigationItem().rightItems = {
         {QStringLiteral("+"), [this] { performSegue(QStringLiteral("AddCoin")); }, nullptr,
          QStringLiteral("AddButton")},
-        {QStringLiteral("Sort by"), {}, sortMenu, QStringLiteral("SortButton")}};
+        {QStringLiteral("Sort by"), {}, sortMenu, QStringLiteral("SortButton")},
+        {QStringLiteral("View"),
+         {},
+         viewSwitch->menu(),
+         QStringLiteral("ViewButton"),
+         QStringLiteral("tablecells")}};
     updateNavigationBar();
 }
 
 void MainListTableViewController::viewDidAppear(bool) {
     CalledFromList = QStringLiteral("MAINCOINLIST");
+    viewSwitch->apply();
+}
+
+int MainListTableViewController::readableWidth() const {
+    return viewSwitch->showsTable() ? QWIDGETSIZE_MAX : kReadableWidth;
 }
 void MainListTableViewController::viewWillDisappear(bool) {
     searchController->dismiss(false);
@@ -173,4 +186,53 @@ QList<SwipeAction> MainListTableViewController::trailingSwipeActions(TableView*,
                  searchIndex_.reset();
                  tableView->deleteRows({p});
              }}};
+}
+
+QVariant MainListTableViewController::valueForColumn(TableView*, IndexPath path, int column,
+                                                     int role) {
+    const Coins& coin = *listInUse().at(path.row);
+    return CoinListView::cell(coin, column, role, MainListSorting::shownQuantity(coin), pictures_);
+}
+
+namespace {
+// The Sort menu's choice behind each sortable column.
+QString sortChoiceOfColumn(int column) {
+    switch (column) {
+    case CoinListView::Denomination:
+        return QStringLiteral("By Name");
+    case CoinListView::Year:
+        return QStringLiteral("By Year");
+    case CoinListView::Quantity:
+        return QStringLiteral("By Quantity");
+    case CoinListView::Value:
+        return QStringLiteral("By Value");
+    case CoinListView::Country:
+        return QStringLiteral("By Country");
+    default:
+        return {};
+    }
+}
+} // namespace
+
+void MainListTableViewController::didClickColumnHeader(TableView*, int column) {
+    if (const QString choice = sortChoiceOfColumn(column); !choice.isEmpty())
+        chooseSort(choice);
+}
+
+std::optional<std::pair<int, Qt::SortOrder>> MainListTableViewController::sortColumn(TableView*) {
+    for (int column = 0; column < CoinListView::columnTitles().size(); ++column) {
+        const SortChoice* choice = MainListSorting::choiceFor(SortName.value_or(QString()));
+        if (!choice || !SortAsc || sortChoiceOfColumn(column) != choice->menuTitle)
+            continue;
+        // Each fetch leaves the opposite direction for the next one: the list shows the other.
+        return std::pair{column, *SortAsc ? Qt::DescendingOrder : Qt::AscendingOrder};
+    }
+    return std::nullopt;
+}
+
+void MainListTableViewController::showTappedCoin() {
+    if (!tapped_ || !viewSwitch->showsTable())
+        return;
+    if (const qsizetype row = listInUse().indexOf(tapped_); row >= 0)
+        tableView->setCurrentRow({0, int(row)});
 }

@@ -5,6 +5,7 @@
 #include "platform/kit/SearchController.h"
 #include "platform/kit/TableView.h"
 #include "platform/kit/ViewController.h"
+#include "screens/CoinListView.h"
 #include "screens/CoinPictureCache.h"
 #include "screens/list/MainListSorting.h"
 
@@ -34,6 +35,16 @@ public:
     QString titleForHeader(TableView*, int section) override;
     void didSelectRow(TableView* table, IndexPath path) override;
     QList<SwipeAction> trailingSwipeActions(TableView* table, IndexPath path) override;
+    // The table view: its columns, and a click on a title as the same choice of the Sort menu.
+    QStringList columnTitles(TableView*) override { return CoinListView::columnTitles(); }
+    int widthForColumn(TableView*, int column) override {
+        return CoinListView::columnWidth(column);
+    }
+    QVariant valueForColumn(TableView*, IndexPath path, int column, int role) override;
+    void didClickColumnHeader(TableView*, int column) override;
+    std::optional<std::pair<int, Qt::SortOrder>> sortColumn(TableView*) override;
+    // The table takes the window's width.
+    int readableWidth() const override;
 
     QList<CoinPtr> CoinList;
     QList<CoinPtr> FilteredCoinList;
@@ -45,12 +56,15 @@ public:
     SearchController* searchController;
     TableView* tableView;
     QMenu* sortMenu;
+    CoinListViewSwitch* viewSwitch;
     ManagedObjectContext* context = nullptr;
     ManagedObjectContext* managedObjectContext = nullptr;
 
 private:
     bool searching() const;
     const QList<CoinPtr>& listInUse() const;
+    // The coin opened last, shown as the current row again on the return.
+    void showTappedCoin();
     CoinPtr tapped_;
     CoinPictureCache pictures_;
     // The key texts of CoinList for the current sort, made at the first keystroke after a

@@ -1,0 +1,240 @@
+// The window as a desktop program: its menu bar, Enter on buttons, the review banner inside the
+// window, pictures and exchange files dropped from a file manager, the window's place kept.
+#include "ScreenFixture.h"
+#include "app/AppMenuBar.h"
+#include "platform/DesktopServices.h"
+#include "platform/core/UserDefaults.h"
+#include "platform/kit/Appearance.h"
+#include "platform/kit/TabBarController.h"
+#include "screens/entry/AddViewController.h"
+#include "screens/entry/EditViewController.h"
+#include "screens/exchange/ImportExportViewController.h"
+#include "screens/exchange/ImportViewController.h"
+#include "screens/valuation/ValuationViewController.h"
+
+#include <QDropEvent>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QTemporaryDir>
+
+namespace {
+QAction* entry(QMenuBar* bar, const QString& menu, const QString& title) {
+    for (QAction* m : bar->actions())
+        if (m->text().remove('&') == menu)
+            for (QAction* a : m->menu()->actions())
+                if (a->text() == title)
+                    return a;
+    return nullptr;
+}
+// A drop of one file from a file manager; true when the target took it.
+bool dropFile(QWidget* target, const QString& path) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path)});
+    const QPointF at(target->width() / 2.0, target->height() / 2.0);
+    QDragEnterEvent enter(at.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    if (!enter.isAccepted())
+        return false;
+    QDropEvent drop(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+    return drop.isAccepted();
+}
+} // namespace
+
+class DesktopWindowTest : public ScreenTest {
+protected:
+    void SetUp() override {
+        ScreenTest::SetUp();
+        bar = AppMenuBar::install(*window, menu);
+        window->resize(1280, 800);
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    void settle() {
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    QMenuBar* bar = nullptr;
+};
+
+TEST_F(DesktopWindowTest, TheMenuBarLeadsWhereTheStartScreensButtonsDo) {
+    addCoin("Dime", 1964);
+    EXPECT_TRUE(bar->isVisible());
+    QStringList menus;
+    for (QAction* m : bar->actions())
+        menus << m->text().remove('&');
+    EXPECT_EQ(menus, QStringList({"File", "View", "Go", "Help"}));
+
+    entry(bar, "Go", "List Coins")->trigger();
+    ASSERT_NE(topAs<MainListTableViewController>(), nullptr);
+    // Each place is one step from the start screen, whatever screen shows.
+    entry(bar, "Go", "Group By")->trigger();
+    ASSERT_NE(topAs<TabBarController>(), nullptr);
+    EXPECT_EQ(window->navigationController()->viewControllers().size(), 2);
+    QTest::keyClick(window.get(), Qt::Key_3, Qt::ControlModifier);
+    ASSERT_NE(topAs<ValuationViewController>(), nullptr);
+    QTest::keyClick(window.get(), Qt::Key_4, Qt::ControlModifier);
+    EXPECT_EQ(top()->title(), "Reference Lists");
+    QTest::keyClick(window.get(), Qt::Key_1, Qt::ControlModifier);
+    ASSERT_NE(topAs<MainListTableViewController>(), nullptr);
+
+    // Import and export open their screens behind the Import / Export screen, as its buttons do.
+    entry(bar, "File", "Import Coins\u2026")->trigger();
+    ASSERT_NE(topAs<ImportViewController>(), nullptr);
+    const auto stack = window->navigationController()->viewControllers();
+    EXPECT_NE(dynamic_cast<ImportExportViewController*>(stack.value(stack.size() - 2)), nullptr);
+    ASSERT_NE(entry(bar, "File", "Back Up Collection\u2026"), nullptr);
+    ASSERT_NE(entry(bar, "File", "Restore From Backup\u2026"), nullptr);
+
+    entry(bar, "Help", "Pelvane Overview")->trigger();
+    EXPECT_EQ(top()->title(), "Pelvane Overview");
+    entry(bar, "Help", "About Pelvane")->trigger();
+    EXPECT_TRUE(
+        QRegularExpression("^About Pelvane / Pelvane \\d+\\.\\d+\n").match(alertText()).hasMatch())
+        << alertText().toStdString();
+    EXPECT_TRUE(alertText().contains("Licence"));
+    dismissAlert();
+
+    // View: the lists' view for every list, and the appearance, both kept for the next start.
+    entry(bar, "View", "Table")->trigger();
+    EXPECT_EQ(UserDefaults::standard().objectForKey("CoinListView").toString(), "Table");
+    QAction* dark = entry(bar, "View", "Dark Appearance");
+    dark->trigger();
+    EXPECT_TRUE(Appearance::isDark());
+    EXPECT_TRUE(UserDefaults::standard().boolForKey(AppMenuBar::kDarkPreference));
+    dark->trigger();
+    EXPECT_FALSE(Appearance::isDark());
+
+    // A phone-sized window has no bar; its shortcuts still work.
+    window->resize(390, 800);
+    settle();
+    EXPECT_FALSE(bar->isVisible());
+    QTest::keyClick(window.get(), Qt::Key_1, Qt::ControlModifier);
+    ASSERT_NE(topAs<MainListTableViewController>(), nullptr);
+    QTest::keyClick(window.get(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(DesktopWindowTest, EnterAndKeypadEnterPressTheFocusedButton) {
+    menu->ControlButton->setFocus();
+    QTest::keyClick(menu->ControlButton, Qt::Key_Return);
+    ASSERT_TRUE(menu->ListCoinsButton->isVisible()); // the menu opened
+    menu->ListCoinsButton->setFocus();
+    QTest::keyClick(menu->ListCoinsButton, Qt::Key_Enter, Qt::KeypadModifier);
+    ASSERT_NE(topAs<MainListTableViewController>(), nullptr);
+    window->navigationController()->popViewController(false);
+    settle();
+    // Space keeps working.
+    menu->GroupByButton->setFocus();
+    QTest::keyClick(menu->GroupByButton, Qt::Key_Space);
+    EXPECT_NE(topAs<TabBarController>(), nullptr);
+    // A disabled button stays unpressed.
+    window->navigationController()->popToRootViewController(false);
+    menu->HandleButtonClick();
+    menu->ListCoinsButton->setEnabled(false);
+    menu->ListCoinsButton->setFocus();
+    QTest::keyClick(menu->ListCoinsButton, Qt::Key_Return);
+    EXPECT_EQ(top(), menu);
+}
+
+TEST_F(DesktopWindowTest, TheReviewPromptIsABannerOfTheScreenItCameWith) {
+    addCoin("Dime", 1964);
+    openList()->tableView->selectRow({0, 0});
+    auto* edit = topAs<EditViewController>();
+    ASSERT_NE(edit, nullptr);
+    const int windows = QApplication::topLevelWidgets().size();
+    DesktopReviewRequester requester;
+    requester.requestReview(edit);
+    settle();
+    QWidget* banner = window->banner();
+    ASSERT_NE(banner, nullptr);
+    EXPECT_TRUE(banner->isVisible());
+    EXPECT_EQ(banner->window(), window.get());
+    EXPECT_EQ(QApplication::topLevelWidgets().size(), windows);
+    // Above the screens, which move down for it.
+    EXPECT_LE(banner->geometry().bottom(), window->navigationController()->geometry().top());
+    auto* notNow = banner->findChild<QPushButton*>("NotNowButton");
+    ASSERT_NE(notNow, nullptr);
+    EXPECT_EQ(notNow->text(), "Not Now");
+    notNow->click();
+    settle();
+    EXPECT_EQ(window->banner(), nullptr);
+
+    // Leaving the screen takes the banner away.
+    requester.requestReview(edit);
+    settle();
+    ASSERT_NE(window->banner(), nullptr);
+    window->navigationController()->goBack();
+    settle();
+    EXPECT_EQ(window->banner(), nullptr);
+    EXPECT_EQ(window->findChild<QWidget*>("ReviewBanner"), nullptr);
+}
+
+TEST_F(DesktopWindowTest, PicturesAndExchangeFilesDroppedFromAFileManager) {
+    QTemporaryDir dir;
+    const QString jpeg = dir.filePath("front.JPG"), png = dir.filePath("back.png"),
+                  text = dir.filePath("notes.txt");
+    QImage red(40, 40, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    ASSERT_TRUE(red.save(jpeg, "JPEG"));
+    ASSERT_TRUE(red.save(png, "PNG"));
+    QFile(text).open(QIODevice::WriteOnly);
+
+    openList()->performSegue("AddCoin");
+    auto* add = topAs<AddViewController>();
+    ASSERT_NE(add, nullptr);
+    EXPECT_FALSE(dropFile(add->FrontImage, text)); // not a picture: refused
+    EXPECT_FALSE(add->FrontImage->hasImage());
+    EXPECT_TRUE(dropFile(add->FrontImage, jpeg));
+    EXPECT_TRUE(add->FrontImage->hasImage());
+    EXPECT_FALSE(add->BackImage->hasImage());
+    EXPECT_TRUE(dropFile(add->BackImage, png));
+    EXPECT_TRUE(add->BackImage->hasImage());
+    EXPECT_EQ(add->BackImage->image().pixelColor(5, 5), QColor(Qt::red));
+
+    // The import screen loads a dropped exchange file as Load File does.
+    window->navigationController()->popToRootViewController(false);
+    menu->performSegue("ImportExport");
+    top()->performSegue("ImportCoins");
+    auto* import = topAs<ImportViewController>();
+    ASSERT_NE(import, nullptr);
+    EXPECT_TRUE(dropFile(import, PELVANE_SOURCE_DIR "/samples/Pelvane-sample.csv"));
+    QTRY_VERIFY_WITH_TIMEOUT(import->ImportButton->isEnabled(), 10000);
+    EXPECT_TRUE(import->document.has_value());
+    // Once a file is loaded, another drop is refused, as the Load File button is.
+    EXPECT_FALSE(dropFile(import, PELVANE_SOURCE_DIR "/samples/Pelvane-sample.csv"));
+}
+
+TEST_F(DesktopWindowTest, TheWindowOpensWhereItWasClosed) {
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    {
+        Window first(new ViewController);
+        first.rememberGeometry("WindowGeometry");
+        first.show();
+        first.setGeometry(area.x() + 30, area.y() + 40, 700, 500);
+        settle();
+        first.close();
+    }
+    Window second(new ViewController);
+    second.rememberGeometry("WindowGeometry");
+    EXPECT_EQ(second.geometry(), QRect(area.x() + 30, area.y() + 40, 700, 500));
+
+    // Kept maximised, it opens maximised.
+    UserDefaults::standard().setObject(
+        QVariantMap{{"x", 10}, {"y", 10}, {"width", 600}, {"height", 400}, {"maximized", true}},
+        "WindowGeometry");
+    Window maximised(new ViewController);
+    maximised.rememberGeometry("WindowGeometry");
+    EXPECT_TRUE(maximised.windowState() & Qt::WindowMaximized);
+
+    // Off every screen (a monitor unplugged since): centred on the primary one.
+    UserDefaults::standard().setObject(
+        QVariantMap{{"x", 40000}, {"y", 40000}, {"width", 500}, {"height", 400}}, "WindowGeometry");
+    Window lost(new ViewController);
+    lost.rememberGeometry("WindowGeometry");
+    EXPECT_EQ(lost.size(), QSize(500, 400));
+    EXPECT_NEAR(lost.geometry().center().x(), area.center().x(), 1);
+    EXPECT_NEAR(lost.geometry().center().y(), area.center().y(), 1);
+}
