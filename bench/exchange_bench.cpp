@@ -14,6 +14,7 @@
 #include <QTemporaryDir>
 #include <QtConcurrent/QtConcurrentMap>
 
+#include <QDir>
 #include <QFile>
 
 #include <cstdio>
@@ -75,7 +76,10 @@ int main(int argc, char** argv) {
         seeds << i;
     const QList<QByteArray> pics = QtConcurrent::blockingMapped(seeds, picture);
 
-    QTemporaryDir root;
+    // PELVANE_BENCH_DIR keeps the stores there, to export the same collection with another build.
+    QTemporaryDir temporary;
+    const QString kept = qEnvironmentVariable("PELVANE_BENCH_DIR");
+    const QDir root(kept.isEmpty() ? temporary.path() : kept);
     QByteArray file;
     {
         auto c = open(root.filePath("source"));

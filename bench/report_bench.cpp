@@ -50,9 +50,12 @@ double report(BenchProgram::Running& program, const char* denomination) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    QTemporaryDir dir;
-    buildGroups(dir.path());
-    BenchProgram::Running program(dir.path());
+    // PELVANE_BENCH_DIR keeps the collection there, to report on it with another build.
+    QTemporaryDir temporary;
+    const QString kept = qEnvironmentVariable("PELVANE_BENCH_DIR");
+    const QString dir = kept.isEmpty() ? temporary.path() : kept;
+    buildGroups(dir);
+    BenchProgram::Running program(dir);
 
     report(program, "Dime"); // fonts and plugins loaded once
     const double thousand = report(program, "Dime");
