@@ -91,7 +91,7 @@ int main(int argc, char** argv) {
         QElapsedTimer t;
         t.start();
         file = Exchange::exchangeText(*c->viewContext()).value();
-        print("export text of 32,000 coins", double(t.nsecsElapsed()) / 1e9, "s", "<= 3 s");
+        print("export text of 32,000 coins", double(t.nsecsElapsed()) / 1e9, "s", "<= 2");
         std::printf("%-56s %10.1f MB\n", "exchange file size", double(file.size()) / 1e6);
     }
 
@@ -119,7 +119,7 @@ int main(int argc, char** argv) {
     const double peakMb = double(peakKb() - before) / 1024.0;
     print("import into an empty store", empty, "s", "-");
     print("same records inserted in one transaction", oneTransaction, "s", "-");
-    print("import / one transaction", empty / oneTransaction, "x", "<= 3");
+    print("import / one transaction", empty / oneTransaction, "x", "<= 2");
     t.restart();
     auto again = Exchange::mergeExchangeText(*c->viewContext(), file);
     c->viewContext()->save();
