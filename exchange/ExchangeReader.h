@@ -5,9 +5,11 @@
 // is skipped.
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QFuture>
 #include <QList>
 #include <QString>
 
+#include <array>
 #include <optional>
 
 class ManagedObjectContext;
@@ -28,6 +30,15 @@ struct ImportResult {
     bool lastLineUnended = false;
 };
 
+// A picture field as the merge takes it: its bytes where it is valid base64, and whether they
+// make a picture the export can write. Worked out ahead on the other cores, lines in order.
+struct PreparedPicture {
+    std::optional<QByteArray> bytes;
+    bool readable = false;
+};
+// The two picture fields of a line, front and back.
+using PreparedLine = std::array<PreparedPicture, 2>;
+
 // The merge a few lines at a time, so that a screen can show progress and repaint between
 // steps; the lines, their order and the saves are exactly those of one mergeExchangeText call.
 class Merge {
@@ -46,12 +57,17 @@ public:
 
 private:
     void dontWaitWhenBusy();
+    // Starts working out the pictures of lines `from` to `to` on the other cores.
+    void prepare(qsizetype from, qsizetype to);
     ManagedObjectContext& context_;
     QByteArray text_;
     QList<QByteArrayView> lines_;
     qsizetype next_ = 0;
     ImportResult result_;
     bool waitChanged_ = false;
+    QList<QByteArrayView> preparingLines_;
+    qsizetype preparedFrom_ = -1;
+    QFuture<PreparedLine> preparing_;
 };
 
 // A file's bytes as UTF-8 text: UTF-8 (a leading byte-order mark dropped), or UTF-16/32 when a
