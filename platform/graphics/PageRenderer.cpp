@@ -14,8 +14,16 @@
 #include <QTextObjectInterface>
 #include <QThread>
 
+#include <QPixmap>
+#include <QScopeGuard>
+#include <QtConcurrent/QtConcurrentRun>
+
+#include <algorithm>
+#include <condition_variable>
 #include <map>
+#include <mutex>
 #include <tuple>
+#include <vector>
 
 // A PDF device in points: the layout measures fonts against it, so a page holds the same
 // lines whatever screen the program runs on.
@@ -50,6 +58,7 @@ public:
             m_layout->registerHandler(QTextFormat::ImageObject, this);
     }
     ~Pictures() override {
+        stopDecoding();
         if (m_qt && m_qtObject)
             m_layout->registerHandler(QTextFormat::ImageObject, m_qtObject);
     }
@@ -68,17 +77,110 @@ public:
             found = m_sizes.emplace(key, m_qt->intrinsicSize(document, position, format)).first;
         return found->second;
     }
+    // Drawn as Qt's handler draws it, with the picture decoded ahead where it was.
     void drawObject(QPainter* painter, const QRectF& rect, QTextDocument* document, int position,
                     const QTextFormat& format) override {
-        m_qt->drawObject(painter, rect, document, position, format);
+        const QImage image = decoded(position);
+        if (image.isNull()) {
+            m_qt->drawObject(painter, rect, document, position, format);
+        } else if (QThread::currentThread() == qApp->thread()) {
+            const QPixmap pixmap = QPixmap::fromImage(image);
+            painter->drawPixmap(rect, pixmap, pixmap.rect());
+        } else {
+            painter->drawImage(rect, image, image.rect());
+        }
+    }
+
+    // Starts decoding the document's pictures given as bytes, in the order they are drawn, on
+    // another core: a page then finds its pictures ready. A few are held at a time.
+    void decodeAhead(QTextDocument& document) {
+        stopDecoding();
+        m_plan.clear();
+        m_ready.clear();
+        m_made = m_drawn = 0;
+        m_stop = false;
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+            for (auto it = block.begin(); !it.atEnd(); ++it) {
+                const QTextFragment fragment = it.fragment();
+                if (!fragment.charFormat().isImageFormat())
+                    continue;
+                const QString name = fragment.charFormat().toImageFormat().name();
+                const QVariant bytes = document.resource(QTextDocument::ImageResource, QUrl(name));
+                if (bytes.typeId() == QMetaType::QByteArray)
+                    for (int i = 0; i < fragment.length(); ++i)
+                        m_plan.push_back({fragment.position() + i, bytes.toByteArray()});
+            }
+        if (m_plan.size() > 1)
+            m_decoding = QtConcurrent::run([this] { decodeAll(); });
+    }
+    void stopDecoding() {
+        {
+            const std::lock_guard lock(m_mutex);
+            m_stop = true;
+        }
+        m_changed.notify_all();
+        m_decoding.waitForFinished();
     }
 
 private:
+    static constexpr std::size_t kAhead = 32, kBehind = 4;
+    struct Planned {
+        int position;
+        QByteArray bytes;
+    };
+
+    void decodeAll() {
+        for (std::size_t i = 0; i < m_plan.size(); ++i) {
+            {
+                std::unique_lock lock(m_mutex);
+                m_changed.wait(lock, [&] { return m_stop || i < m_drawn + kAhead; });
+                if (m_stop)
+                    return;
+            }
+            // As Qt's handler reads the bytes: whatever format they are in.
+            QImage image = QImage::fromData(m_plan[i].bytes);
+            {
+                const std::lock_guard lock(m_mutex);
+                m_ready.emplace(i, std::move(image));
+                m_made = i + 1;
+            }
+            m_changed.notify_all();
+        }
+    }
+
+    // The picture at `position`, decoded ahead, or a null one.
+    QImage decoded(int position) {
+        const auto at =
+            std::lower_bound(m_plan.begin(), m_plan.end(), position,
+                             [](const Planned& p, int pos) { return p.position < pos; });
+        if (at == m_plan.end() || at->position != position || !m_decoding.isValid())
+            return {};
+        const std::size_t index = std::size_t(at - m_plan.begin());
+        std::unique_lock lock(m_mutex);
+        m_drawn = std::max(m_drawn, index);
+        m_changed.notify_all();
+        m_changed.wait(lock, [&] { return m_made > index || m_stop; });
+        const auto found = m_ready.find(index);
+        QImage image = found != m_ready.end() ? found->second : QImage();
+        // A picture cut by a page's edge is drawn again at the top of the next page.
+        while (!m_ready.empty() && m_ready.begin()->first + kBehind < index)
+            m_ready.erase(m_ready.begin());
+        return image;
+    }
+
     using Key = std::tuple<qreal, qreal, const QPaintDevice*, bool>;
     QAbstractTextDocumentLayout* m_layout;
     QTextObjectInterface* m_qt;
     QObject* m_qtObject;
     std::map<Key, QSizeF> m_sizes;
+
+    std::vector<Planned> m_plan; // by position
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::map<std::size_t, QImage> m_ready;
+    std::size_t m_made = 0, m_drawn = 0;
+    bool m_stop = false;
+    QFuture<void> m_decoding;
 };
 
 namespace {
@@ -228,6 +330,8 @@ void PageRenderer::drawPage(QPainter& painter, int index, const QRectF& bounds) 
 QByteArray PageRenderer::pdf(const std::function<void(int, int)>& progress) const {
     PointDevice device(m_paper);
     const int pages = numberOfPages();
+    m_pictures->decodeAhead(m_document);
+    const auto stop = qScopeGuard([this] { m_pictures->stopDecoding(); });
     QPainter painter(&device.writer);
     for (int page = 0; page < pages; ++page) {
         if (page > 0)
