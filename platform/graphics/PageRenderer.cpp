@@ -16,12 +16,12 @@
 
 #include <QPixmap>
 #include <QScopeGuard>
-#include <QtConcurrent/QtConcurrentRun>
 
 #include <algorithm>
 #include <condition_variable>
 #include <map>
 #include <mutex>
+#include <thread>
 #include <tuple>
 #include <vector>
 
@@ -110,8 +110,9 @@ public:
                     for (int i = 0; i < fragment.length(); ++i)
                         m_plan.push_back({fragment.position() + i, bytes.toByteArray()});
             }
+        // A thread of its own: one of the pool's might never start while the pages wait on it.
         if (m_plan.size() > 1)
-            m_decoding = QtConcurrent::run([this] { decodeAll(); });
+            m_decoding = std::thread([this] { decodeAll(); });
     }
     void stopDecoding() {
         {
@@ -119,7 +120,8 @@ public:
             m_stop = true;
         }
         m_changed.notify_all();
-        m_decoding.waitForFinished();
+        if (m_decoding.joinable())
+            m_decoding.join();
     }
 
 private:
@@ -153,7 +155,7 @@ private:
         const auto at =
             std::lower_bound(m_plan.begin(), m_plan.end(), position,
                              [](const Planned& p, int pos) { return p.position < pos; });
-        if (at == m_plan.end() || at->position != position || !m_decoding.isValid())
+        if (at == m_plan.end() || at->position != position || m_plan.size() <= 1)
             return {};
         const std::size_t index = std::size_t(at - m_plan.begin());
         std::unique_lock lock(m_mutex);
@@ -180,7 +182,7 @@ private:
     std::map<std::size_t, QImage> m_ready;
     std::size_t m_made = 0, m_drawn = 0;
     bool m_stop = false;
-    QFuture<void> m_decoding;
+    std::thread m_decoding;
 };
 
 namespace {
