@@ -243,11 +243,24 @@ Merge::~Merge() {
         context_.setWaitWhenBusy(true);
 }
 
-void Merge::prepare(qsizetype from, qsizetype to) {
+void Merge::prepare(qsizetype from) {
     preparing_.waitForFinished();
-    preparedFrom_ = from;
-    preparingLines_ = lines_.mid(from, to - from);
+    preparingFrom_ = from;
+    preparingLines_ = lines_.mid(from, std::min(PreparedLines, lines_.size() - from));
     preparing_ = QtConcurrent::mapped(preparingLines_, preparePictures);
+}
+
+// The pictures of a few lines are worked out while the lines before them are merged.
+const PreparedLine& Merge::picturesOf(qsizetype line) {
+    if (line < preparedFrom_ || line >= preparedFrom_ + prepared_.size()) {
+        if (!preparing_.isValid() || preparingFrom_ != line)
+            prepare(line);
+        prepared_ = preparing_.results();
+        preparedFrom_ = line;
+        if (line + prepared_.size() < lines_.size())
+            prepare(line + prepared_.size());
+    }
+    return prepared_[line - preparedFrom_];
 }
 
 // Waiting for the lock again on every line would take hours for a big file.
@@ -262,18 +275,9 @@ bool Merge::step(qsizetype count) {
     ManagedObjectContext& context = context_;
     ImportResult& result = result_;
     const qsizetype stop = std::min(lines_.size(), next_ + std::max<qsizetype>(count, 1));
-    // The pictures of these lines, worked out while the lines before them were merged, and
-    // those of the lines after them started now.
-    if (!preparing_.isValid() || preparedFrom_ != next_)
-        prepare(next_, stop);
-    QList<PreparedLine> prepared = preparing_.results();
-    for (qsizetype line = next_ + prepared.size(); line < stop; ++line)
-        prepared.append(preparePictures(lines_[line])); // a step longer than the last one
-    const qsizetype first = next_;
-    prepare(stop, std::min(lines_.size(), stop + (stop - next_)));
     for (; next_ < stop; ++next_) {
         const Fields fields = splitFields(lines_[next_]);
-        const PreparedLine& pictures = prepared[next_ - first];
+        const PreparedLine& pictures = picturesOf(next_);
         // A line with more fields than there are attributes is no line of ours, whether it
         // would create, update or be skipped.
         if (fields.size() > CoinAttributes::count)

@@ -57,8 +57,10 @@ public:
 
 private:
     void dontWaitWhenBusy();
-    // Starts working out the pictures of lines `from` to `to` on the other cores.
-    void prepare(qsizetype from, qsizetype to);
+    // Starts working out the pictures of the lines from `from` on the other cores.
+    static constexpr qsizetype PreparedLines = 64;
+    void prepare(qsizetype from);
+    const PreparedLine& picturesOf(qsizetype line);
     ManagedObjectContext& context_;
     QByteArray text_;
     QList<QByteArrayView> lines_;
@@ -66,8 +68,9 @@ private:
     ImportResult result_;
     bool waitChanged_ = false;
     QList<QByteArrayView> preparingLines_;
-    qsizetype preparedFrom_ = -1;
+    qsizetype preparingFrom_ = -1, preparedFrom_ = -1;
     QFuture<PreparedLine> preparing_;
+    QList<PreparedLine> prepared_;
 };
 
 // A file's bytes as UTF-8 text: UTF-8 (a leading byte-order mark dropped), or UTF-16/32 when a
