@@ -13,6 +13,7 @@
 #include <QStringDecoder>
 #include <QStringList>
 #include <QVarLengthArray>
+#include <QtConcurrent/QtConcurrentMap>
 
 #include <array>
 #include <utility>
@@ -45,6 +46,31 @@ Fields splitFields(QByteArrayView line) {
     return fields;
 }
 
+constexpr int kFirstPicturePosition = 19;
+
+QByteArrayView unquotedPicture(QByteArrayView field, QByteArray& unquoted) {
+    if (!field.contains('"'))
+        return field;
+    unquoted = field.toByteArray();
+    unquoted.replace("\"", "");
+    return unquoted;
+}
+
+PreparedLine preparePictures(QByteArrayView line) {
+    PreparedLine prepared;
+    const Fields fields = splitFields(line);
+    for (int i = 0; i < 2; ++i) {
+        if (fields.size() <= kFirstPicturePosition + i)
+            break;
+        QByteArray unquoted;
+        const QByteArrayView field = unquotedPicture(fields[kFirstPicturePosition + i], unquoted);
+        PreparedPicture& picture = prepared[std::size_t(i)];
+        picture.bytes = ImageCoding::strictBase64Decode(field);
+        picture.readable = picture.bytes && ImageCoding::readable(*picture.bytes);
+    }
+    return prepared;
+}
+
 // A key field's text; a field the line does not have is the empty text, which matches only a
 // stored empty text, never an absent one.
 QString fieldText(const Fields& fields, qsizetype position) {
@@ -61,19 +87,20 @@ struct FieldValue {
 
 // The attribute value a field gives. Pictures that are no valid base64 give no value. Double
 // quotes are dropped first.
-FieldValue convert(AttributeType type, ExchangeRule rule, QByteArrayView field) {
+FieldValue convert(AttributeType type, ExchangeRule rule, QByteArrayView field,
+                   const PreparedPicture* picture) {
     FieldValue out;
     if (type == AttributeType::Data) {
         // Pictures are read from the bytes: base64 is ASCII, so nothing else can be valid.
         QByteArray unquoted;
-        if (field.contains('"')) {
-            unquoted = field.toByteArray();
-            unquoted.replace("\"", "");
-            field = unquoted;
-        }
+        field = unquotedPicture(field, unquoted);
         out.skip = field.isEmpty();
-        if (auto bytes = ImageCoding::strictBase64Decode(field))
+        if (picture) {
+            if (picture->bytes)
+                out.value = *picture->bytes;
+        } else if (auto bytes = ImageCoding::strictBase64Decode(field)) {
             out.value = *bytes;
+        }
         return out;
     }
     // Quotes and tildes are ASCII, so valid UTF-8 loses and changes them in its bytes as text
@@ -124,13 +151,18 @@ FieldValue convert(AttributeType type, ExchangeRule rule, QByteArrayView field) 
     return out;
 }
 
-void apply(Coins& coin, const Fields& fields, bool isNew) {
+void apply(Coins& coin, const Fields& fields, bool isNew, const PreparedLine& pictures) {
     const EntityDescription& entity = coin.entity();
     for (qsizetype p = 0; p < fields.size(); ++p) {
         const CoinAttribute& field = CoinAttributes::atFilePosition(int(p));
         const int attribute = field.index;
         const AttributeType type = entity.attributes[std::size_t(attribute)].type;
-        const FieldValue converted = convert(type, field.rule, fields[p]);
+        const qsizetype pictureIndex = p - kFirstPicturePosition;
+        const PreparedPicture* picture =
+            type == AttributeType::Data && pictureIndex >= 0 && pictureIndex < 2
+                ? &pictures[std::size_t(pictureIndex)]
+                : nullptr;
+        const FieldValue converted = convert(type, field.rule, fields[p], picture);
         const QVariant& value = converted.value;
         if (converted.skip)
             continue;
@@ -142,7 +174,7 @@ void apply(Coins& coin, const Fields& fields, bool isNew) {
         if (type == AttributeType::Data && !value.isValid() && isNew)
             continue; // not valid base64: the new coin simply has no such picture
         if (type == AttributeType::Data && value.isValid() &&
-            !ImageCoding::readable(value.toByteArray())) {
+            !(picture ? picture->readable : ImageCoding::readable(value.toByteArray()))) {
             // Kept, it would stop every later export: the coin goes on without it.
             Console::log(QStringLiteral("Warning: the %1 picture of %2 cannot be read; the coin "
                                         "is kept without it")
@@ -207,8 +239,29 @@ Merge::Merge(ManagedObjectContext& context, QByteArray utf8)
 }
 
 Merge::~Merge() {
+    preparing_.waitForFinished();
     if (waitChanged_)
         context_.setWaitWhenBusy(true);
+}
+
+void Merge::prepare(qsizetype from) {
+    preparing_.waitForFinished();
+    preparingFrom_ = from;
+    preparingLines_ = lines_.mid(from, std::min(PreparedLines, lines_.size() - from));
+    preparing_ = QtConcurrent::mapped(preparingLines_, preparePictures);
+}
+
+// The pictures of a few lines are worked out while the lines before them are merged.
+const PreparedLine& Merge::picturesOf(qsizetype line) {
+    if (line < preparedFrom_ || line >= preparedFrom_ + prepared_.size()) {
+        if (!preparing_.isValid() || preparingFrom_ != line)
+            prepare(line);
+        prepared_ = preparing_.results();
+        preparedFrom_ = line;
+        if (line + prepared_.size() < lines_.size())
+            prepare(line + prepared_.size());
+    }
+    return prepared_[line - preparedFrom_];
 }
 
 // Waiting for the lock again on every line would take hours for a big file.
@@ -222,9 +275,10 @@ bool Merge::step(qsizetype count) {
         return false;
     ManagedObjectContext& context = context_;
     ImportResult& result = result_;
-    for (const qsizetype stop = std::min(lines_.size(), next_ + std::max<qsizetype>(count, 1));
-         next_ < stop; ++next_) {
+    const qsizetype stop = std::min(lines_.size(), next_ + std::max<qsizetype>(count, 1));
+    for (; next_ < stop; ++next_) {
         const Fields fields = splitFields(lines_[next_]);
+        const PreparedLine& pictures = picturesOf(next_);
         // A line with more fields than there are attributes is no line of ours, whether it
         // would create, update or be skipped.
         if (fields.size() > CoinAttributes::count)
@@ -253,7 +307,7 @@ bool Merge::step(qsizetype count) {
         const QList<CoinPtr> results = found.valueOr({});
         if (results.isEmpty()) {
             auto coin = context.insert<Coins>();
-            apply(*coin, fields, true);
+            apply(*coin, fields, true, pictures);
             if (const auto failure = context.save(); !failure.ok()) {
                 Console::log(failure.error().description());
                 if (result.notSaved++ == 0)
@@ -268,7 +322,7 @@ bool Merge::step(qsizetype count) {
             ++result.created;
         } else if (results.size() == 1) {
             // Left pending on purpose: the next save of the context writes it.
-            apply(*results.first(), fields, false);
+            apply(*results.first(), fields, false, pictures);
             ++result.updated;
             ++result.updatedSinceSave;
         } else {

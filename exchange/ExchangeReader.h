@@ -7,9 +7,11 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QFuture>
 #include <QList>
 #include <QString>
 
+#include <array>
 #include <optional>
 
 class ManagedObjectContext;
@@ -30,6 +32,15 @@ struct ImportResult {
     bool lastLineUnended = false;
 };
 
+// A picture field as the merge takes it: its bytes where it is valid base64, and whether they
+// make a picture the export can write. Worked out ahead on the other cores, lines in order.
+struct PreparedPicture {
+    std::optional<QByteArray> bytes;
+    bool readable = false;
+};
+// The two picture fields of a line, front and back.
+using PreparedLine = std::array<PreparedPicture, 2>;
+
 // The merge a few lines at a time, so that a screen can show progress and repaint between
 // steps; the lines, their order and the saves are exactly those of one mergeExchangeText call.
 class Merge {
@@ -48,6 +59,10 @@ public:
 
 private:
     void dontWaitWhenBusy();
+    // Starts working out the pictures of the lines from `from` on the other cores.
+    static constexpr qsizetype PreparedLines = 64;
+    void prepare(qsizetype from);
+    const PreparedLine& picturesOf(qsizetype line);
     ManagedObjectContext& context_;
     // Every coin the merge saves is recorded in the value history as imported.
     ValueHistory::Cause cause_;
@@ -56,6 +71,10 @@ private:
     qsizetype next_ = 0;
     ImportResult result_;
     bool waitChanged_ = false;
+    QList<QByteArrayView> preparingLines_;
+    qsizetype preparingFrom_ = -1, preparedFrom_ = -1;
+    QFuture<PreparedLine> preparing_;
+    QList<PreparedLine> prepared_;
 };
 
 // A file's bytes as UTF-8 text: UTF-8 (a leading byte-order mark dropped), or UTF-16/32 when a

@@ -8,7 +8,9 @@
 #include "platform/core/Fatal.h"
 #include "platform/graphics/ImageCoding.h"
 
+#include <QFuture>
 #include <QHash>
+#include <QSet>
 
 #include <QtConcurrent/QtConcurrentMap>
 #include <optional>
@@ -17,41 +19,99 @@ namespace Exchange {
 
 namespace {
 
-// Re-encoding pictures dominates the export; identical stored pictures give identical
-// output, so each distinct one is encoded once, and the distinct ones on every core. A
-// picture that is no picture maps to nothing; the encoder giving nothing maps to "".
-QHash<QByteArray, std::optional<QByteArray>> reencodeAll(const QList<QByteArray>& pictures) {
-    QHash<QByteArray, std::optional<QByteArray>> done;
-    QList<QByteArray> distinct;
-    for (const QByteArray& p : pictures)
-        if (!p.isNull() && !done.contains(p)) {
-            done.insert(p, std::nullopt);
-            distinct.append(p);
-        }
-    auto reencode = [](const QByteArray& bytes) -> std::optional<QByteArray> {
-        const QByteArray encoded = ImageCoding::reencodeJpeg(bytes, 0.6);
-        if (encoded.isEmpty() && ImageCoding::decode(bytes).isNull())
-            return std::nullopt;
-        return ImageCoding::base64(encoded);
-    };
-    // Handing one picture to another thread costs more than encoding it here.
-    QList<std::optional<QByteArray>> encoded;
-    if (distinct.size() <= 1)
-        for (const QByteArray& p : distinct)
-            encoded.append(reencode(p));
-    else
-        encoded = QtConcurrent::blockingMapped(distinct, reencode);
-    for (qsizetype i = 0; i < distinct.size(); ++i)
-        done[distinct[i]] = encoded[i];
-    return done;
+using Encoded = std::optional<QByteArray>;
+
+// A picture as the file writes it: JPEG at quality 0.6 in base64; nothing for bytes that are
+// no picture, "" when the encoder gives nothing.
+Encoded reencode(const QByteArray& bytes) {
+    const QByteArray encoded = ImageCoding::reencodeJpeg(bytes, 0.6);
+    if (encoded.isEmpty() && ImageCoding::decode(bytes).isNull())
+        return std::nullopt;
+    return ImageCoding::base64(encoded);
 }
 
+// Re-encoding pictures dominates the export. They are coded on every core a window of coins
+// at a time, the next window while this one is written, so that what is held besides the file
+// stays the same whatever the collection's size. Identical pictures give identical text: each
+// is coded once within a window, and recent ones are remembered.
+class PictureCoder {
+public:
+    static constexpr qsizetype Window = 256; // pictures
+
+    explicit PictureCoder(const QList<QByteArray>& pictures)
+        : pictures_(pictures) {
+        start(0);
+    }
+    ~PictureCoder() { next_.waitForFinished(); }
+    PictureCoder(const PictureCoder&) = delete;
+    PictureCoder& operator=(const PictureCoder&) = delete;
+
+    bool isNull(qsizetype index) const { return pictures_[index].isNull(); }
+    // The text of picture `index`; asked in order.
+    const Encoded& at(qsizetype index) {
+        while (index >= windowStart_ + Window || windowStart_ < 0)
+            advance();
+        const QByteArray& picture = pictures_[index];
+        const auto found = recent_.constFind(picture);
+        if (found != recent_.cend())
+            return *found;
+        return current_[picture];
+    }
+
+private:
+    void start(qsizetype from) {
+        nextStart_ = from;
+        nextDistinct_.clear();
+        QSet<QByteArray> seen;
+        for (qsizetype i = from; i < std::min(from + Window, pictures_.size()); ++i) {
+            const QByteArray& p = pictures_[i];
+            if (!p.isNull() && !recent_.contains(p) && !seen.contains(p)) {
+                seen.insert(p);
+                nextDistinct_.append(p);
+            }
+        }
+        // Handing one picture to another thread costs more than coding it here.
+        if (nextDistinct_.size() <= 1) {
+            nextHere_ = true;
+        } else {
+            nextHere_ = false;
+            next_ = QtConcurrent::mapped(nextDistinct_, reencode);
+        }
+    }
+    void advance() {
+        QList<Encoded> done;
+        if (nextHere_)
+            for (const QByteArray& p : std::as_const(nextDistinct_))
+                done.append(reencode(p));
+        else
+            done = next_.results();
+        // Those of the window written last are the likeliest to come again.
+        if (recent_.size() > 4 * Window)
+            recent_.clear();
+        for (auto it = current_.cbegin(); it != current_.cend(); ++it)
+            recent_.insert(it.key(), it.value());
+        current_.clear();
+        for (qsizetype i = 0; i < nextDistinct_.size(); ++i)
+            current_.insert(nextDistinct_[i], done[i]);
+        windowStart_ = nextStart_;
+        if (windowStart_ + Window < pictures_.size())
+            start(windowStart_ + Window);
+    }
+
+    const QList<QByteArray>& pictures_;
+    qsizetype windowStart_ = -1, nextStart_ = 0;
+    QList<QByteArray> nextDistinct_;
+    QFuture<Encoded> next_;
+    bool nextHere_ = false;
+    QHash<QByteArray, Encoded> current_, recent_;
+};
+
 // Stopped here, on the calling thread, so that the message can name the coin to fix.
-void appendPicture(QByteArray& out, const QHash<QByteArray, std::optional<QByteArray>>& encoded,
-                   const QByteArray& picture, const Coins& coin, const char* face) {
-    if (picture.isNull())
+void appendPicture(QByteArray& out, PictureCoder& coder, qsizetype index, const Coins& coin,
+                   const char* face) {
+    if (coder.isNull(index))
         return;
-    const std::optional<QByteArray>& text = encoded[picture];
+    const Encoded& text = coder.at(index);
     if (!text)
         fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value "
                                   "(the %1 picture of %2 cannot be decoded)")
@@ -126,7 +186,7 @@ Result<QByteArray> exchangeText(const QList<CoinPtr>& coins, const Progress& pro
             Console::print(QStringLiteral("Could not fetch. %1").arg(failure->description()));
             return *failure;
         }
-    const QHash<QByteArray, std::optional<QByteArray>> encoded = reencodeAll(pictures);
+    PictureCoder coder(pictures);
 
     QByteArray out;
     out.reserve(qsizetype(coins.size()) * (400 + 2 * 4000) + 16);
@@ -147,8 +207,7 @@ Result<QByteArray> exchangeText(const QList<CoinPtr>& coins, const Progress& pro
                 out += '^';
             if (field.rule == ExchangeRule::Picture) {
                 const bool front = field.index == Coins::Attr::frontImage;
-                appendPicture(out, encoded, pictures[2 * i + (front ? 0 : 1)], c,
-                              front ? "front" : "back");
+                appendPicture(out, coder, 2 * i + (front ? 0 : 1), c, front ? "front" : "back");
                 continue;
             }
             appendText(out, fieldText(c, field));

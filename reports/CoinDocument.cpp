@@ -71,12 +71,13 @@ void CoinDocument::appendLine(const QString& label, const Coins& coin, int attri
 void CoinDocument::appendPicture(const QByteArray& bytes) {
     auto found = pictures_.find(bytes);
     if (found == pictures_.end()) {
-        // Each distinct picture is decoded once, to learn its shape, and kept as its bytes.
+        // Each distinct picture is measured once, and kept as its bytes: it is decoded only
+        // as its page is drawn.
         Picture picture;
-        const QImage image = ImageCoding::decode(bytes);
-        if (!image.isNull() && image.width() > 0) {
+        const std::optional<QSize> size = ImageCoding::decodedSize(bytes);
+        if (size && size->width() > 0) {
             picture.name = QStringLiteral("coin-picture-%1").arg(pictures_.size());
-            picture.height = pictureWidth_ * image.height() / image.width();
+            picture.height = pictureWidth_ * size->height() / size->width();
             document_->addResource(QTextDocument::ImageResource, QUrl(picture.name), bytes);
         }
         found = pictures_.insert(bytes, picture);

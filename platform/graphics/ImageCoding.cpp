@@ -200,10 +200,14 @@ public:
     JpegChecker(const JpegChecker&) = delete;
     JpegChecker& operator=(const JpegChecker&) = delete;
 
-    bool reads(const QByteArray& bytes) {
+    // `size` is set to the picture's size where the header alone tells what decode() would
+    // give: no Exif block, which may turn the picture.
+    bool reads(const QByteArray& bytes, QSize* size = nullptr) {
         // As in the recoder: no tables left from the picture before.
         jpeg_destroy_decompress(&in_);
         jpeg_create_decompress(&in_);
+        if (size)
+            jpeg_save_markers(&in_, JPEG_APP0 + 1, 0);
         if (setjmp(error_.jump)) {
             jpeg_abort_decompress(&in_);
             return false;
@@ -222,6 +226,8 @@ public:
         JSAMPROW row = row_.data();
         while (in_.output_scanline < in_.output_height)
             jpeg_read_scanlines(&in_, &row, 1);
+        if (size && !in_.marker_list)
+            *size = QSize(int(in_.image_width), int(in_.image_height));
         jpeg_finish_decompress(&in_);
         return true;
     }
@@ -240,6 +246,19 @@ bool readable(const QByteArray& bytes) {
             return true;
     }
     return !decode(bytes).isNull();
+}
+
+std::optional<QSize> decodedSize(const QByteArray& bytes) {
+    if (bytes.startsWith("\xFF\xD8")) {
+        thread_local JpegChecker checker;
+        QSize size;
+        if (checker.reads(bytes, &size) && size.isValid())
+            return size;
+    }
+    const QImage image = decode(bytes);
+    if (image.isNull())
+        return std::nullopt;
+    return image.size();
 }
 
 QByteArray reencodeJpeg(const QByteArray& bytes, double quality) {

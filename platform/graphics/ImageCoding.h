@@ -16,6 +16,9 @@ QImage decode(const QByteArray& bytes);
 // Whether decode() gives a picture, found without drawing one where the bytes are a JPEG
 // that libjpeg reads through (the import checks every picture this way).
 bool readable(const QByteArray& bytes);
+// The size of decode()'s picture, or nothing when it gives none; a plain JPEG is measured
+// without being drawn.
+std::optional<QSize> decodedSize(const QByteArray& bytes);
 // The picture drawn onto a 100 x 100 canvas, stretched to the whole square whatever its shape.
 QImage redrawnForStorage(const QImage& image);
 // JPEG at a quality from 0 to 1; empty when encoding fails.

@@ -2,10 +2,28 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QTextBlock>
+#include <QTextBoundaryFinder>
+#include <QTextCursor>
 #include <QTextDocument>
+#include <QTextLayout>
+#include <QTextObjectInterface>
+#include <QThread>
+
+#include <QPixmap>
+#include <QScopeGuard>
+
+#include <algorithm>
+#include <condition_variable>
+#include <map>
+#include <mutex>
+#include <thread>
+#include <tuple>
+#include <vector>
 
 // A PDF device in points: the layout measures fonts against it, so a page holds the same
 // lines whatever screen the program runs on.
@@ -23,7 +41,239 @@ struct PageRenderer::PointDevice {
     }
 };
 
+// The document's inline pictures, drawn by Qt's own handler, which decodes a picture every
+// time it is asked for its size: once as the text is laid out, again as each line is shaped to
+// be drawn. A picture's size on the page follows from the size its format asks for alone (a
+// picture that does not decode is drawn as a placeholder of that size), so it is asked once
+// per size and device and remembered; only the drawing decodes.
+class PageRenderer::Pictures : public QObject, public QTextObjectInterface {
+    Q_OBJECT
+    Q_INTERFACES(QTextObjectInterface)
+public:
+    explicit Pictures(QTextDocument& document)
+        : m_layout(document.documentLayout())
+        , m_qt(m_layout->handlerForObject(QTextFormat::ImageObject))
+        , m_qtObject(dynamic_cast<QObject*>(m_qt)) {
+        if (m_qt && m_qtObject)
+            m_layout->registerHandler(QTextFormat::ImageObject, this);
+    }
+    ~Pictures() override {
+        stopDecoding();
+        if (m_qt && m_qtObject)
+            m_layout->registerHandler(QTextFormat::ImageObject, m_qtObject);
+    }
+
+    QSizeF intrinsicSize(QTextDocument* document, int position,
+                         const QTextFormat& format) override {
+        const QTextImageFormat image = format.toImageFormat();
+        if (!image.hasProperty(QTextFormat::ImageWidth) ||
+            !image.hasProperty(QTextFormat::ImageHeight))
+            return m_qt->intrinsicSize(document, position, format);
+        // Qt sizes a picture one way on the application's thread and another elsewhere.
+        const Key key{image.width(), image.height(), m_layout->paintDevice(),
+                      QThread::currentThread() == qApp->thread()};
+        auto found = m_sizes.find(key);
+        if (found == m_sizes.end())
+            found = m_sizes.emplace(key, m_qt->intrinsicSize(document, position, format)).first;
+        return found->second;
+    }
+    // Drawn as Qt's handler draws it, with the picture decoded ahead where it was.
+    void drawObject(QPainter* painter, const QRectF& rect, QTextDocument* document, int position,
+                    const QTextFormat& format) override {
+        const QImage image = decoded(position);
+        if (image.isNull()) {
+            m_qt->drawObject(painter, rect, document, position, format);
+        } else if (QThread::currentThread() == qApp->thread()) {
+            const QPixmap pixmap = QPixmap::fromImage(image);
+            painter->drawPixmap(rect, pixmap, pixmap.rect());
+        } else {
+            painter->drawImage(rect, image, image.rect());
+        }
+    }
+
+    // Starts decoding the document's pictures given as bytes, in the order they are drawn, on
+    // another core: a page then finds its pictures ready. A few are held at a time.
+    void decodeAhead(QTextDocument& document) {
+        stopDecoding();
+        m_plan.clear();
+        m_ready.clear();
+        m_made = m_drawn = 0;
+        m_stop = false;
+        for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+            for (auto it = block.begin(); !it.atEnd(); ++it) {
+                const QTextFragment fragment = it.fragment();
+                if (!fragment.charFormat().isImageFormat())
+                    continue;
+                const QString name = fragment.charFormat().toImageFormat().name();
+                const QVariant bytes = document.resource(QTextDocument::ImageResource, QUrl(name));
+                if (bytes.typeId() == QMetaType::QByteArray)
+                    for (int i = 0; i < fragment.length(); ++i)
+                        m_plan.push_back({fragment.position() + i, bytes.toByteArray()});
+            }
+        // A thread of its own: one of the pool's might never start while the pages wait on it.
+        if (m_plan.size() > 1)
+            m_decoding = std::thread([this] { decodeAll(); });
+    }
+    void stopDecoding() {
+        {
+            const std::lock_guard lock(m_mutex);
+            m_stop = true;
+        }
+        m_changed.notify_all();
+        if (m_decoding.joinable())
+            m_decoding.join();
+    }
+
+private:
+    static constexpr std::size_t kAhead = 32, kBehind = 4;
+    struct Planned {
+        int position;
+        QByteArray bytes;
+    };
+
+    void decodeAll() {
+        for (std::size_t i = 0; i < m_plan.size(); ++i) {
+            {
+                std::unique_lock lock(m_mutex);
+                m_changed.wait(lock, [&] { return m_stop || i < m_drawn + kAhead; });
+                if (m_stop)
+                    return;
+            }
+            // As Qt's handler reads the bytes: whatever format they are in.
+            QImage image = QImage::fromData(m_plan[i].bytes);
+            {
+                const std::lock_guard lock(m_mutex);
+                m_ready.emplace(i, std::move(image));
+                m_made = i + 1;
+            }
+            m_changed.notify_all();
+        }
+    }
+
+    // The picture at `position`, decoded ahead, or a null one.
+    QImage decoded(int position) {
+        const auto at =
+            std::lower_bound(m_plan.begin(), m_plan.end(), position,
+                             [](const Planned& p, int pos) { return p.position < pos; });
+        if (at == m_plan.end() || at->position != position || m_plan.size() <= 1)
+            return {};
+        const std::size_t index = std::size_t(at - m_plan.begin());
+        std::unique_lock lock(m_mutex);
+        m_drawn = std::max(m_drawn, index);
+        m_changed.notify_all();
+        m_changed.wait(lock, [&] { return m_made > index || m_stop; });
+        const auto found = m_ready.find(index);
+        QImage image = found != m_ready.end() ? found->second : QImage();
+        // A picture cut by a page's edge is drawn again at the top of the next page.
+        while (!m_ready.empty() && m_ready.begin()->first + kBehind < index)
+            m_ready.erase(m_ready.begin());
+        return image;
+    }
+
+    using Key = std::tuple<qreal, qreal, const QPaintDevice*, bool>;
+    QAbstractTextDocumentLayout* m_layout;
+    QTextObjectInterface* m_qt;
+    QObject* m_qtObject;
+    std::map<Key, QSizeF> m_sizes;
+
+    std::vector<Planned> m_plan; // by position
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::map<std::size_t, QImage> m_ready;
+    std::size_t m_made = 0, m_drawn = 0;
+    bool m_stop = false;
+    std::thread m_decoding;
+};
+
 namespace {
+// Shorter runs are left to the layout itself.
+constexpr int kLongRun = 1000;
+
+// Where the layout starts a new line inside `run`, a stretch of text with nowhere to break,
+// which it fills character by character. The layout finds each such line by first measuring
+// the whole run from the line's start, so a run of a million characters took minutes; here
+// each line is measured in a window of a few lines' worth of the run, which ends the line at
+// the same character, since the run does not fit a line either way.
+QList<int> linesOfRun(const QString& run, const QFont& font, QPaintDevice* device,
+                      const QTextOption& option, qreal width) {
+    QList<int> breaks;
+    int start = 0, window = 256;
+    while (run.size() - start > 1) {
+        const int length = std::min<int>(window, int(run.size()) - start);
+        QTextLayout layout(run.mid(start, length), font, device);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        QTextLine line = layout.createLine();
+        line.setLineWidth(width);
+        layout.endLayout();
+        const int taken = line.textLength();
+        if (taken >= length) {
+            if (start + length >= run.size())
+                break;   // the rest fits one line
+            window *= 2; // a window that fits whole tells nothing: look further
+            continue;
+        }
+        if (taken <= 0)
+            break;
+        start += taken;
+        breaks.append(start);
+        window = std::max(64, 2 * taken); // the next line is about as long
+    }
+    return breaks;
+}
+
+// Ends each line of every long run of unbreakable text with a line separator, exactly where
+// the layout would end it: the pages are the same and are laid out in linear time.
+void breakLongRuns(QTextDocument& document, QPaintDevice* device, qreal width) {
+    QTextCursor cursor(&document);
+    bool editing = false;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (block.length() <= kLongRun)
+            continue;
+        const QTextBlockFormat format = block.blockFormat();
+        if (format.leftMargin() != 0 || format.rightMargin() != 0 || format.indent() != 0 ||
+            format.textIndent() != 0 || block.textList() ||
+            document.rootFrame() != document.frameAt(block.position()))
+            continue;
+        const QString text = block.text();
+        QList<int> breaks; // in the block, from its start
+        QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
+        for (qsizetype from = 0, to; from < text.size(); from = to) {
+            to = finder.toNextBoundary();
+            if (to < 0)
+                to = text.size();
+            if (to - from <= kLongRun)
+                continue;
+            // Measured in one font: a run that changes format is left to the layout.
+            const QTextBlock::iterator fragment = [&] {
+                for (auto it = block.begin(); !it.atEnd(); ++it)
+                    if (it.fragment().contains(block.position() + int(from)))
+                        return it;
+                return block.end();
+            }();
+            if (fragment.atEnd() || !fragment.fragment().contains(block.position() + int(to) - 1))
+                continue;
+            const QFont font = fragment.fragment().charFormat().font();
+            for (const int at : linesOfRun(text.mid(from, to - from), font, device,
+                                           document.defaultTextOption(), width))
+                breaks.append(int(from) + at);
+        }
+        if (breaks.isEmpty())
+            continue;
+        if (!editing) {
+            cursor.beginEditBlock();
+            editing = true;
+        }
+        // From the end, so that the positions still to come stay where they were.
+        for (auto it = breaks.crbegin(); it != breaks.crend(); ++it) {
+            cursor.setPosition(block.position() + *it);
+            cursor.insertBlock();
+        }
+    }
+    if (editing)
+        cursor.endEditBlock();
+}
+
 // Qt writes the page box in whole points; the paper is written as it is. The numbers keep
 // their length, so the cross-reference table stays right.
 void writeExactPageBox(QByteArray& pdf, const QRectF& paper) {
@@ -43,11 +293,17 @@ PageRenderer::PageRenderer(QTextDocument& document, const QRectF& paperRect,
     , m_paper(paperRect)
     , m_printable(printableRect) {
     m_document.documentLayout()->setPaintDevice(&m_layoutDevice->writer);
+    m_pictures = std::make_unique<Pictures>(m_document);
+    // A document of no size is not laid out: the margin and the broken runs then cost no
+    // layout of their own, and the page size below lays it out once.
+    m_document.setPageSize(QSizeF(0, 0));
     m_document.setDocumentMargin(0);
+    breakLongRuns(m_document, &m_layoutDevice->writer, m_printable.width());
     m_document.setPageSize(m_printable.size());
 }
 
 PageRenderer::~PageRenderer() {
+    m_pictures.reset();
     m_document.documentLayout()->setPaintDevice(nullptr);
 }
 
@@ -76,6 +332,8 @@ void PageRenderer::drawPage(QPainter& painter, int index, const QRectF& bounds) 
 QByteArray PageRenderer::pdf(const std::function<void(int, int)>& progress) const {
     PointDevice device(m_paper);
     const int pages = numberOfPages();
+    m_pictures->decodeAhead(m_document);
+    const auto stop = qScopeGuard([this] { m_pictures->stopDecoding(); });
     QPainter painter(&device.writer);
     for (int page = 0; page < pages; ++page) {
         if (page > 0)
@@ -89,3 +347,5 @@ QByteArray PageRenderer::pdf(const std::function<void(int, int)>& progress) cons
     writeExactPageBox(bytes, m_paper);
     return bytes;
 }
+
+#include "PageRenderer.moc"

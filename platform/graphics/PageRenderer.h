@@ -36,7 +36,9 @@ public:
 
 private:
     struct PointDevice;
+    class Pictures;
     std::unique_ptr<PointDevice> m_layoutDevice;
+    std::unique_ptr<Pictures> m_pictures;
     QTextDocument& m_document;
     QRectF m_paper;
     QRectF m_printable;

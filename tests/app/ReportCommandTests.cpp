@@ -2,7 +2,14 @@
 #include "Program.h"
 #include "TestSupport.h"
 
+#include "platform/graphics/PageRenderer.h"
+#include "reports/CoinDocument.h"
+
+#include <QBuffer>
 #include <QFile>
+#include <QPdfWriter>
+#include <QRegularExpression>
+#include <QTextLayout>
 
 // Scripts write the report of a group with no display at all.
 TEST_F(PelvaneTest, TheReportRunsFromTheCommandLine) {
@@ -77,4 +84,51 @@ TEST_F(PelvaneTest, TheReportRunsFromTheCommandLine) {
         << r.errors.toStdString();
     EXPECT_TRUE(r.output.isEmpty());
     EXPECT_EQ(PdfPages(file).texts, wheat.texts);
+}
+
+// Notes that never break (a pasted hash, a scan's text run together) fill every line to the
+// edge of the page, one after the other, exactly as the text layout breaks them on its own,
+// and no character is lost or doubled, also across page breaks.
+TEST_F(PelvaneTest, NotesWithoutASpaceFillEachLineAsTheLayoutBreaksThem) {
+    const QString store = dir() + "/store";
+    QByteArray run;
+    for (int i = 0; i < 40000; ++i)
+        run += "WAVETo.yaff1Lj"[i % 14]; // wide and narrow letters, kerned pairs, ligatures
+    writeFile(dir() + "/long.csv", "[PELVANE]\nChile^1 Peso^^^0.0^^^^^" + run +
+                                       " and the end^^1^^^0.0^0.0^0.5^0.0^1990^^\n");
+    ASSERT_EQ(runProgram(store, {"--import", dir() + "/long.csv"}).exitCode, 0);
+    const QString file = dir() + "/long.pdf";
+    const ProgramRun r = runProgram(store, {"--report", "country", "Chile", "--pdf", file});
+    ASSERT_EQ(r.exitCode, 0) << r.errors.toStdString();
+
+    // The lines the layout makes of the paragraph in one piece, on the page's width.
+    QBuffer sink;
+    sink.open(QIODevice::WriteOnly);
+    QPdfWriter device(&sink);
+    device.setResolution(72);
+    QTextLayout layout("Notes: " + QString::fromLatin1(run) + " and the end",
+                       CoinDocument::blockFont(), &device);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QStringList expected;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(PageRenderer::a4().width());
+        expected << layout.text().mid(line.textStart(), line.textLength()).trimmed();
+    }
+    layout.endLayout();
+    ASSERT_GT(expected.size(), 300);
+
+    PdfPages pdf(file);
+    ASSERT_GT(pdf.count(), 5);
+    QStringList lines;
+    for (int page = 0; page < pdf.count(); ++page)
+        for (const QString& line : pdf.pdf->getAllText(page).text().split(
+                 QRegularExpression(QStringLiteral("[\r\n]+")), Qt::SkipEmptyParts))
+            lines << line.trimmed();
+    const qsizetype notes = lines.indexOf(expected.first());
+    ASSERT_GE(notes, 0);
+    lines = lines.mid(notes, expected.size());
+    EXPECT_EQ(lines, expected);
 }

@@ -5,6 +5,7 @@
 #include "platform/graphics/ImageCoding.h"
 
 #include <QPainter>
+#include <QThreadPool>
 
 using Exchange::exchangeText;
 using Exchange::mergeExchangeText;
@@ -65,6 +66,46 @@ TEST_F(StoreTest, WriterLayoutIsByteExact) {
     const QImage decoded = ImageCoding::decode(*ImageCoding::strictBase64Decode(back));
     EXPECT_EQ(decoded.size(), QSize(100, 100));
     EXPECT_EQ(lines[5], "");
+}
+
+// The pictures are coded on every core a window at a time; the file is the one a single
+// thread writes, picture for picture and in order, across the windows' edges.
+TEST_F(StoreTest, TheWriterOnEveryCoreWritesWhatOneThreadWrites) {
+    QList<QByteArray> pictures;
+    for (int i = 0; i < 700; ++i) {
+        auto c = coin("Peru", QStringLiteral("%1 Soles").arg(i, 4, 10, QLatin1Char('0')), 1990);
+        // Distinct pictures, a few repeated far apart, and coins without one.
+        if (i % 50 != 7)
+            c->setFrontImage(picture(i % 300 == 5 ? 5 : i));
+        if (i % 3 == 0)
+            c->setBackImage(picture(1000 + i));
+        pictures << c->frontImage() << c->backImage();
+    }
+    ASSERT_TRUE(ctx().save().ok());
+    QThreadPool& pool = *QThreadPool::globalInstance();
+    const int cores = pool.maxThreadCount();
+    pool.setMaxThreadCount(8);
+    const QByteArray parallel = exchangeText(ctx()).value();
+    pool.setMaxThreadCount(1);
+    const QByteArray single = exchangeText(ctx()).value();
+    pool.setMaxThreadCount(cores);
+    EXPECT_EQ(parallel, single);
+
+    const QList<QByteArray> lines = parallel.split('\n');
+    ASSERT_EQ(lines.size(), 702);
+    for (int i = 0; i < 700; ++i) {
+        const QList<QByteArray> fields = lines[i + 1].split('^');
+        ASSERT_EQ(fields.size(), 21);
+        ASSERT_TRUE(fields[1].startsWith(QByteArray::number(i).rightJustified(4, '0')));
+        const QByteArray& front = pictures[2 * i];
+        EXPECT_EQ(fields[19],
+                  front.isNull() ? QByteArray() : ImageCoding::reencodeJpeg(front, 0.6).toBase64())
+            << "coin " << i;
+        const QByteArray& back = pictures[2 * i + 1];
+        EXPECT_EQ(fields[20].chopped(1),
+                  back.isNull() ? QByteArray() : ImageCoding::reencodeJpeg(back, 0.6).toBase64())
+            << "coin " << i;
+    }
 }
 
 TEST_F(StoreTest, ReaderMergesByTheFourKeys) {
