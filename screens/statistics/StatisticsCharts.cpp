@@ -15,6 +15,19 @@
 #include <algorithm>
 
 namespace StatisticsCharts {
+namespace {
+// A chart's axes, the figures' one from `low` to a little above `high`, and the series on them.
+void placeOnAxes(QChart* chart, QAbstractSeries* series, QAbstractAxis* other, Qt::Alignment side,
+                 double low, double high) {
+    auto* figures = new QValueAxis;
+    figures->setRange(low, high > low ? high * 1.05 : low + 1);
+    figures->setLabelFormat(QStringLiteral("%.0f"));
+    chart->addAxis(other, side);
+    chart->addAxis(figures, side == Qt::AlignBottom ? Qt::AlignLeft : Qt::AlignBottom);
+    series->attachAxis(other);
+    series->attachAxis(figures);
+}
+} // namespace
 
 QChartView* makeView(QWidget* parent) {
     auto* view = new QChartView(new QChart, parent);
@@ -71,13 +84,7 @@ void showSeries(QChartView* view, const QList<ValueHistory::DayTotal>& days) {
     if (!days.isEmpty())
         time->setRange(days.first().day.startOfDay(),
                        std::max(days.last().day, days.first().day.addDays(1)).startOfDay());
-    auto* value = new QValueAxis;
-    value->setRange(low, high > low ? high * 1.05 : low + 1);
-    value->setLabelFormat(QStringLiteral("%.0f"));
-    chart->addAxis(time, Qt::AlignBottom);
-    chart->addAxis(value, Qt::AlignLeft);
-    line->attachAxis(time);
-    line->attachAxis(value);
+    placeOnAxes(chart, line, time, Qt::AlignBottom, low, high);
     fitTicks(view);
     QObject::connect(line, &QLineSeries::hovered, view, [](const QPointF& p, bool on) {
         if (on)
@@ -114,13 +121,7 @@ void showShares(QChartView* view, const QList<Holdings::Share>& shares, const QS
     auto* categories = new QBarCategoryAxis;
     categories->append(names);
     categories->setTitleText(what);
-    auto* figures = new QValueAxis;
-    figures->setRange(low, high > low ? high * 1.05 : low + 1);
-    figures->setLabelFormat(QStringLiteral("%.0f"));
-    chart->addAxis(categories, Qt::AlignLeft);
-    chart->addAxis(figures, Qt::AlignBottom);
-    series->attachAxis(categories);
-    series->attachAxis(figures);
+    placeOnAxes(chart, series, categories, Qt::AlignLeft, low, high);
     QObject::connect(set, &QBarSet::hovered, view, [shares](bool on, int index) {
         const qsizetype i = shares.size() - 1 - index;
         if (on && i >= 0 && i < shares.size())
@@ -134,7 +135,8 @@ void showShares(QChartView* view, const QList<Holdings::Share>& shares, const QS
 void fitTicks(QChartView* view) {
     for (QAbstractAxis* axis : view->chart()->axes(Qt::Horizontal))
         if (auto* time = qobject_cast<QDateTimeAxis*>(axis))
-            time->setTickCount(std::clamp(view->width() / 120, 2, 7));
+            time->setTickCount(std::clamp(
+                std::min(view->width() / 120, int(time->min().daysTo(time->max())) + 1), 2, 7));
 }
 
 void applyTheme(QChartView* view, bool dark) {
