@@ -22,7 +22,14 @@ const char* const kLicence =
 // Back to the start screen, then on by the segue its button performs; `then` runs on the
 // screen that segue opened.
 void go(Window& window, MainMenuViewController* menu, const QString& segue,
-        const std::function<void(ViewController*)>& then = {}) {
+        const std::function<void(ViewController*)>& then = {}, bool asked = false) {
+    // Leaving a form that holds changes asks first, as Escape and closing the window do.
+    if (ViewController* front = window.frontScreen();
+        !asked && front && window.hasUnsavedScreens()) {
+        front->confirmDiscard(
+            [w = &window, menu, segue, then] { go(*w, menu, segue, then, true); });
+        return;
+    }
     NavigationController* nav = window.navigationController();
     nav->popToRootViewController(false);
     if (!Storyboard::hasSegue(segue))

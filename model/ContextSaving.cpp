@@ -33,7 +33,7 @@ static void bindDataValues(SqliteStatement& st, const ManagedObject& o, int firs
 
 bool ManagedObjectContext::stampChanges(const QDateTime& time, const QString& cause) {
     SqliteStatement& st = db_->cached(
-        QStringLiteral("UPDATE ValueEventSource SET time = ?1, day = ?2, cause = ?3 WHERE pk = 1"));
+        QStringLiteral("UPDATE temp.ValueStamp SET time = ?1, day = ?2, cause = ?3 WHERE pk = 1"));
     if (time.isValid()) {
         st.bindInt(1, time.toMSecsSinceEpoch());
         st.bindText(2, time.toLocalTime().date().toString(Qt::ISODate));
@@ -115,15 +115,25 @@ bool ManagedObjectContext::writePending(std::vector<qint64>& newIds) {
                 return false;
         }
     }
-    for (const QString& sql : ValueHistory::fold()) {
-        SqliteStatement& fold = db_->cached(sql);
-        const bool folded = fold.step() == SQLITE_DONE;
-        fold.reset();
-        if (!folded)
-            return false;
-    }
-    // Writes from outside the program are dated and named by the store itself.
-    return stampChanges({}, {});
+    // The events are added to the days' sums once there are enough of them to be worth it; the
+    // series adds those not folded yet itself.
+    SqliteStatement& unfolded = db_->cached(
+        QStringLiteral("SELECT coalesce(max(pk), 0) - (SELECT folded FROM ValueFold WHERE pk = 1) "
+                       "FROM ValueEvents"));
+    const bool counted = unfolded.step() == SQLITE_ROW;
+    const qint64 waiting = counted ? unfolded.columnInt(0) : 0;
+    unfolded.reset();
+    if (!counted)
+        return false;
+    if (waiting >= ValueHistory::kFoldEvery)
+        for (const QString& sql : ValueHistory::fold()) {
+            SqliteStatement& fold = db_->cached(sql);
+            const bool folded = fold.step() == SQLITE_DONE;
+            fold.reset();
+            if (!folded)
+                return false;
+        }
+    return true;
 }
 
 Result<void> ManagedObjectContext::save() {

@@ -114,8 +114,7 @@ private:
     // The pending inserts, updates and deletes, in the open transaction; false at the first
     // statement that fails.
     bool writePending(std::vector<qint64>& newIds);
-    // Tells the store's history triggers when (`time`, invalid: the save is done) and why the
-    // coming writes are made.
+    // Tells the connection's history triggers when and why the coming writes are made.
     bool stampChanges(const QDateTime& time, const QString& cause);
     void beginReadBatch();
     void endReadBatch();

@@ -187,6 +187,8 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
             for (const QString& statement : steps)
                 db_->exec(statement);
         }
+        for (const QString& statement : ValueHistory::connection())
+            db_->exec(statement);
         context_ = std::make_unique<ManagedObjectContext>(db_.get());
         return {};
     }
@@ -302,6 +304,9 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
         if (!db_->exec(QStringLiteral("COMMIT")))
             return failure(db_->errorCode(), db_->errorMessage());
     }
+    for (const QString& statement : ValueHistory::connection())
+        if (!db_->exec(statement))
+            return failure(db_->errorCode(), db_->errorMessage());
     if (!context_)
         context_ = std::make_unique<ManagedObjectContext>(db_.get());
     return {};

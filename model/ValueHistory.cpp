@@ -15,19 +15,19 @@ QString shortName(const QString& column) {
     return QStringLiteral("CAST(substr(CAST(%1 AS BLOB), 1, 256) AS TEXT)").arg(column);
 }
 
-// What a trigger writes: when and why from the source row when the context set it, otherwise
-// the store's own clock and the cause the kind of change gives.
+// What a trigger writes: when and why from the stamp the save set, otherwise the store's own
+// clock and the cause the kind of change gives.
 QString trigger(const QString& name, const QString& when, const QString& row, const QString& before,
                 const QString& after, const QString& cause, const QString& condition = {}) {
     return QStringLiteral(
-               "CREATE TRIGGER %1 AFTER %2 ON Coins %3BEGIN "
+               "CREATE TEMP TRIGGER %1 AFTER %2 ON main.Coins %3BEGIN "
                "INSERT INTO ValueEvents (time, day, coin, denomination, country, year, "
                "quantityBefore, valueBefore, quantityAfter, valueAfter, cause) "
                "SELECT coalesce(s.time, CAST(round((julianday('now') - 2440587.5) * 86400000) AS "
                "INTEGER)), coalesce(s.day, date('now', 'localtime')), %4.pk, "
                "%8, %9, %4.year, %5, %6, "
                "coalesce(s.cause, '%7') "
-               "FROM (SELECT 1) LEFT JOIN ValueEventSource s ON s.pk = 1; END")
+               "FROM (SELECT 1) LEFT JOIN ValueStamp s ON s.pk = 1; END")
         .arg(name, when, condition.isEmpty() ? QString() : condition + QLatin1Char(' '), row,
              before, after, cause, shortName(row + QStringLiteral(".denomination")),
              shortName(row + QStringLiteral(".country")));
@@ -106,27 +106,37 @@ Cause::~Cause() {
 
 QStringList tables() {
     return {QStringLiteral("ValueEvents"), QStringLiteral("ValueDays"),
-            QStringLiteral("ValueEventSource")};
+            QStringLiteral("ValueFold")};
 }
 
 QStringList schema() {
-    const QString before = QStringLiteral("old.quantity, old.value");
-    const QString after = QStringLiteral("new.quantity, new.value");
-    const QString none = QStringLiteral("0, 0");
     return {
         QStringLiteral("CREATE TABLE ValueEvents (pk INTEGER PRIMARY KEY, time INTEGER NOT NULL, "
                        "day TEXT NOT NULL, coin INTEGER NOT NULL, denomination TEXT, country TEXT, "
                        "year INTEGER NOT NULL DEFAULT 0, quantityBefore INTEGER NOT NULL, "
                        "valueBefore REAL NOT NULL, quantityAfter INTEGER NOT NULL, "
                        "valueAfter REAL NOT NULL, cause TEXT NOT NULL)"),
-        // What each day added up to, folded in by every save from the events after the last
-        // one folded (ValueEventSource.folded): the series reads a row a day, not every event,
-        // and writing an event costs no more than the row itself.
+        // What each day added up to, with the events up to ValueFold.folded added in: the
+        // series reads a row a day, not every event, and writing an event costs no more than
+        // the row itself.
         QStringLiteral("CREATE TABLE ValueDays (day TEXT PRIMARY KEY, pieces INTEGER NOT NULL, "
                        "value REAL NOT NULL) WITHOUT ROWID"),
-        QStringLiteral("CREATE TABLE ValueEventSource (pk INTEGER PRIMARY KEY CHECK (pk = 1), "
-                       "time INTEGER, day TEXT, cause TEXT, folded INTEGER NOT NULL DEFAULT 0)"),
-        QStringLiteral("INSERT INTO ValueEventSource (pk) VALUES (1)"),
+        QStringLiteral("CREATE TABLE ValueFold (pk INTEGER PRIMARY KEY CHECK (pk = 1), "
+                       "folded INTEGER NOT NULL DEFAULT 0)"),
+        QStringLiteral("INSERT INTO ValueFold (pk) VALUES (1)"),
+    };
+}
+
+QStringList connection() {
+    const QString before = QStringLiteral("old.quantity, old.value");
+    const QString after = QStringLiteral("new.quantity, new.value");
+    const QString none = QStringLiteral("0, 0");
+    return {
+        // The stamp lives in the connection's own memory: setting it at every save writes no
+        // page of the store.
+        QStringLiteral("CREATE TEMP TABLE ValueStamp (pk INTEGER PRIMARY KEY, time INTEGER, day "
+                       "TEXT, cause TEXT)"),
+        QStringLiteral("INSERT INTO temp.ValueStamp (pk) VALUES (1)"),
         trigger(QStringLiteral("Coins_added"), QStringLiteral("INSERT"), QStringLiteral("new"),
                 none, after, Added),
         trigger(QStringLiteral("Coins_changed"), QStringLiteral("UPDATE OF quantity, value"),
@@ -143,17 +153,16 @@ QStringList fold() {
                 "INSERT INTO ValueDays (day, pieces, value) SELECT day, "
                 "sum(quantityAfter - quantityBefore), sum(quantityAfter * valueAfter - "
                 "quantityBefore * valueBefore) FROM ValueEvents WHERE pk > (SELECT folded FROM "
-                "ValueEventSource WHERE pk = 1) GROUP BY day ON CONFLICT (day) DO UPDATE SET "
+                "ValueFold WHERE pk = 1) GROUP BY day ON CONFLICT (day) DO UPDATE SET "
                 "pieces = pieces + excluded.pieces, value = value + excluded.value"),
-            QStringLiteral("UPDATE ValueEventSource SET folded = coalesce((SELECT max(pk) FROM "
+            QStringLiteral("UPDATE ValueFold SET folded = coalesce((SELECT max(pk) FROM "
                            "ValueEvents), 0) WHERE pk = 1")};
 }
 
 QString baseline(const QDateTime& now) {
     return QStringLiteral("INSERT INTO ValueEvents (time, day, coin, denomination, country, year, "
                           "quantityBefore, valueBefore, quantityAfter, valueAfter, cause) "
-                          "SELECT %1, '%2', pk, substr(denomination, 1, 256), substr(country, 1, "
-                          "256), year, 0, 0, quantity, "
+                          "SELECT %1, '%2', pk, %4, %5, year, 0, 0, quantity, "
                           "value, '%3' FROM Coins ORDER BY pk")
         .arg(now.toMSecsSinceEpoch())
         .arg(dayText(now.toLocalTime().date()), Baseline, shortName(QStringLiteral("denomination")),
@@ -168,7 +177,7 @@ Result<QList<DayTotal>> series(ManagedObjectContext& context, std::optional<QDat
         "SELECT day, sum(pieces), sum(value) FROM (SELECT day, pieces, value FROM ValueDays "
         "UNION ALL SELECT day, quantityAfter - quantityBefore, quantityAfter * valueAfter - "
         "quantityBefore * valueBefore FROM ValueEvents WHERE pk > (SELECT folded FROM "
-        "ValueEventSource WHERE pk = 1)) GROUP BY day ORDER BY day"));
+        "ValueFold WHERE pk = 1)) GROUP BY day ORDER BY day"));
     if (!st.isValid())
         return failure(db, QStringLiteral("reading the value history"));
     const QString first = from ? dayText(*from) : QString();

@@ -3,11 +3,11 @@
 // is an event in the store (table ValueEvents), written by the same statement that changes the
 // coin, so a change and its event are committed together or not at all.
 //
-// The events are written by triggers on the coin table. What made a change and when come from
-// the one row of ValueEventSource, which the context sets at the start of every save that
-// touches coins (ManagedObjectContext::ChangeCause names the cause); a write from elsewhere
-// (another program) is still recorded, with the store's clock and the cause its kind of change
-// gives. Reads here see what is saved, never a context's pending changes.
+// The events are written by triggers on the coin table that each connection of the program
+// makes for itself (connection()): what made a change and when come from the connection's stamp,
+// which the save sets before its writes (ValueHistory::Cause names the cause). A write of
+// another program is none of the collection's history. Reads here see what is saved, never a
+// context's pending changes.
 #include "platform/core/Error.h"
 
 #include <QDate>
@@ -49,12 +49,16 @@ private:
     QString before_;
 };
 
-// The tables, indexes and triggers, created in one step of the store's schema.
+// The tables, created in one step of the store's schema.
 QStringList schema();
+// The stamp and the triggers, made by every connection that writes coins when it opens.
+QStringList connection();
+// From this many events not yet folded on, a save folds them.
+inline constexpr int kFoldEvery = 1024;
 // One event per coin already stored, dated `now`: the collection as the history begins.
 QString baseline(const QDateTime& now);
-// Adds the events written since the last fold to the days' sums: run by every save, after its
-// writes, in its transaction.
+// Adds the events written since the last fold to the days' sums, in the transaction of the
+// save that wrote them.
 QStringList fold();
 // The tables a store of a schema with history must hold.
 QStringList tables();

@@ -137,11 +137,10 @@ void Window::keyPressEvent(QKeyEvent* event) {
     QWidget::keyPressEvent(event);
 }
 
-void Window::closeEvent(QCloseEvent* event) {
-    ViewController* front = frontScreen();
+bool Window::hasUnsavedScreens() const {
     // The screens in front and every one the user could go back to from there.
     QList<ViewController*> open;
-    for (ViewController* screen = front; screen;) {
+    for (ViewController* screen = frontScreen(); screen;) {
         NavigationController* nav = screen->navigationController();
         if (!nav)
             break;
@@ -149,10 +148,13 @@ void Window::closeEvent(QCloseEvent* event) {
         screen = nav->presentingViewController() ? nav->presentingViewController()
                                                  : nav->containerViewController();
     }
-    const bool unsaved = std::any_of(open.begin(), open.end(), [](ViewController* screen) {
-        return screen->hasUnsavedChanges();
-    });
-    if (discarding_ || !unsaved || !front) {
+    return std::any_of(open.begin(), open.end(),
+                       [](ViewController* screen) { return screen->hasUnsavedChanges(); });
+}
+
+void Window::closeEvent(QCloseEvent* event) {
+    ViewController* front = frontScreen();
+    if (discarding_ || !hasUnsavedScreens() || !front) {
         discarding_ = false;
         keepGeometry();
         QWidget::closeEvent(event);

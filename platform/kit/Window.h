@@ -15,6 +15,9 @@ public:
     // The screen the user sees in front: the top of the last stack presented (or of the
     // window's own), in a tab bar the selected tab's.
     ViewController* frontScreen() const;
+    // Whether the screen in front, or one the user can still go back to from it, holds changes
+    // not saved.
+    bool hasUnsavedScreens() const;
 
     // A menu bar above the screens, shown while the window is wider than a phone.
     void setMenuBar(class QMenuBar* bar);

@@ -80,6 +80,22 @@ TEST_F(DesktopWindowTest, TheMenuBarLeadsWhereTheStartScreensButtonsDo) {
     QTest::keyClick(window.get(), Qt::Key_1, Qt::ControlModifier);
     ASSERT_NE(topAs<MainListTableViewController>(), nullptr);
 
+    // A form holding changes asks before the menu bar leads away from it.
+    topAs<MainListTableViewController>()->performSegue("AddCoin");
+    auto* add = topAs<AddViewController>();
+    ASSERT_NE(add, nullptr);
+    add->DenominationTextField->setFocus();
+    QTest::keyClicks(add->DenominationTextField, "Nickel");
+    entry(bar, "Go", "Coin Valuation")->trigger();
+    EXPECT_TRUE(alertText().startsWith("Discard changes?")) << alertText().toStdString();
+    AlertController::current()->triggerAction("Keep Editing");
+    EXPECT_EQ(top(), add);
+    entry(bar, "Go", "Coin Valuation")->trigger();
+    AlertController::current()->triggerAction("Discard");
+    ASSERT_NE(topAs<ValuationViewController>(), nullptr);
+    EXPECT_TRUE(all<Coins>().size() == 1);
+    QTest::keyClick(window.get(), Qt::Key_1, Qt::ControlModifier);
+
     // Import and export open their screens behind the Import / Export screen, as its buttons do.
     entry(bar, "File", "Import Coins\u2026")->trigger();
     ASSERT_NE(topAs<ImportViewController>(), nullptr);
