@@ -3,6 +3,7 @@
 // of the largest group and of a group of 32,000 coins, and a keystroke there. One figure per
 // line.
 #include "BenchCollection.h"
+#include "BenchSession.h"
 #include "app/AppDelegate.h"
 #include "app/AppStoryboard.h"
 #include "app/LaunchOptions.h"
@@ -43,29 +44,8 @@ void buildVaried(const QString& dir, const std::function<void(Coins&, int)>& var
         std::exit(1);
 }
 
-struct Session {
-    explicit Session(const QString& dir) {
-        useDataDirectory(dir);
-        delegate = std::make_unique<AppDelegate>();
-        menu = new MainMenuViewController;
-        window = std::make_unique<Window>(menu);
-        window->resize(400, 800);
-        window->show();
-        QApplication::processEvents();
-    }
-    ~Session() {
-        window.reset();
-        delegate.reset();
-    }
-    // Runs `step`, lets the screen lay itself out and paints the window: the time of it all.
-    double timed(const std::function<void()>& step) {
-        QElapsedTimer t;
-        t.start();
-        step();
-        QApplication::processEvents();
-        window->repaint();
-        return ms(t);
-    }
+struct Session : BenchSession {
+    using BenchSession::BenchSession;
     TabBarController* tabs() {
         return static_cast<TabBarController*>(window->navigationController()->topViewController());
     }
@@ -96,10 +76,6 @@ struct Session {
         QApplication::processEvents();
         return worst;
     }
-
-    std::unique_ptr<AppDelegate> delegate;
-    MainMenuViewController* menu;
-    std::unique_ptr<Window> window;
 };
 
 const char* kTabs[] = {"Denomination", "Country", "Year"};

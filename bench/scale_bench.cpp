@@ -4,6 +4,7 @@
 // three runs (the import and the export of one, they take seconds); each screen is opened in a
 // program started for it. One figure per line.
 #include "BenchCollection.h"
+#include "BenchSession.h"
 #include "ProcessMemory.h"
 #include "app/AppDelegate.h"
 #include "app/AppStoryboard.h"
@@ -64,44 +65,12 @@ void buildScaled(const QString& dir, int n) {
 using Figures = std::map<std::string, double>;
 
 // The program on the collection in `dir`, each screen opened afresh from the menu.
-struct Session {
-    explicit Session(const QString& dir) {
-        useDataDirectory(dir);
-        delegate = std::make_unique<AppDelegate>();
-        menu = new MainMenuViewController;
-        window = std::make_unique<Window>(menu);
-        window->resize(400, 800);
-        window->show();
-        QApplication::processEvents();
-    }
-    ~Session() {
-        window.reset();
-        delegate.reset();
-    }
-    NavigationController* nav() { return window->navigationController(); }
-    // Back to the menu, with the screens left and their coins gone.
-    void home() {
-        nav()->popToRootViewController(false);
-        QApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    // The time of a step, the screen's layout and the window's paint.
-    double timed(const std::function<void()>& step) {
-        QElapsedTimer t;
-        t.start();
-        step();
-        QApplication::processEvents();
-        window->repaint();
-        return ms(t);
-    }
+struct Session : BenchSession {
+    using BenchSession::BenchSession;
     double open(const char* segue) {
         home();
         return timed([&] { menu->performSegue(QString::fromLatin1(segue)); });
     }
-
-    std::unique_ptr<AppDelegate> delegate;
-    MainMenuViewController* menu;
-    std::unique_ptr<Window> window;
 };
 
 Figures measure(int n) {
