@@ -169,7 +169,7 @@ QString baseline(const QDateTime& now) {
              shortName(QStringLiteral("country")));
 }
 
-Result<QList<DayTotal>> series(ManagedObjectContext& context, std::optional<QDate> from) {
+Result<QList<DayTotal>> series(ManagedObjectContext& context) {
     SqliteDatabase& db = *context.database();
     // A row a day, with the days of the events not folded in yet (written by another program,
     // or by a save that is still to fold them), summed on as it goes.
@@ -180,7 +180,6 @@ Result<QList<DayTotal>> series(ManagedObjectContext& context, std::optional<QDat
         "ValueFold WHERE pk = 1)) GROUP BY day ORDER BY day"));
     if (!st.isValid())
         return failure(db, QStringLiteral("reading the value history"));
-    const QString first = from ? dayText(*from) : QString();
     QList<DayTotal> out;
     qint64 pieces = 0;
     // Kept wider than a double so that the last day agrees with a sum over the coins.
@@ -189,10 +188,7 @@ Result<QList<DayTotal>> series(ManagedObjectContext& context, std::optional<QDat
     while ((rc = st.step()) == SQLITE_ROW) {
         pieces += st.columnInt(1);
         value += static_cast<long double>(st.columnDouble(2));
-        const QString day = st.columnText(0);
-        if (!first.isEmpty() && day < first)
-            continue;
-        out.append({QDate::fromString(day, Qt::ISODate), pieces, double(value)});
+        out.append({QDate::fromString(st.columnText(0), Qt::ISODate), pieces, double(value)});
     }
     st.reset();
     if (rc != SQLITE_DONE)

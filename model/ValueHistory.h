@@ -85,9 +85,8 @@ struct DayTotal {
 };
 
 // One row per day on which a change was saved, in order, with the collection's pieces and
-// value at the end of that day. From `from` on when given: the days before it only add up.
-Result<QList<DayTotal>> series(ManagedObjectContext& context,
-                               std::optional<QDate> from = std::nullopt);
+// value at the end of that day.
+Result<QList<DayTotal>> series(ManagedObjectContext& context);
 // Every event of one coin, oldest first.
 Result<QList<Event>> eventsOf(ManagedObjectContext& context, qint64 coin);
 // The events from `from` on (all when not given) that changed a coin's total value the most,

@@ -126,49 +126,6 @@ TEST_F(ValueHistoryTest, EverySavedChangeOfValueOrQuantityIsOneEvent) {
     EXPECT_EQ(ValueHistory::count(ctx()).value(), recorded);
 }
 
-// The series is the collection at the end of each day with a change, and its last day is the
-// collection as it is; a range leaves the earlier days out but counts them.
-TEST_F(ValueHistoryTest, SeriesGivesEachDaysEndState) {
-    CoinPtr a = coin("France", "1 Franc", 1960, "", 2, 1.5f);
-    ASSERT_TRUE(ctx().save().ok());
-    a->setQuantity(4); // two changes on one day: one row, the later state
-    ASSERT_TRUE(ctx().save().ok());
-    clock.nextDay();
-    clock.nextDay();
-    CoinPtr b = coin("Italy", "100 Lire", 1980, "", -1, 0.1f); // a negative quantity takes away
-    ASSERT_TRUE(ctx().save().ok());
-    clock.nextDay();
-    ctx().deleteObject(a);
-    ASSERT_TRUE(ctx().save().ok());
-
-    const auto all = ValueHistory::series(ctx()).value();
-    ASSERT_EQ(all.size(), 3);
-    EXPECT_EQ(all[0].day, QDate(2026, 3, 1));
-    EXPECT_EQ(all[0].pieces, 4);
-    EXPECT_DOUBLE_EQ(all[0].value, 6.0);
-    EXPECT_EQ(all[1].day, QDate(2026, 3, 3));
-    EXPECT_EQ(all[1].pieces, 3);
-    EXPECT_DOUBLE_EQ(all[1].value, 6.0 - double(0.1f));
-    EXPECT_EQ(all[2].pieces, -1);
-    const auto [pieces, value] = totals();
-    EXPECT_EQ(all.last().pieces, pieces);
-    EXPECT_DOUBLE_EQ(all.last().value, value);
-
-    const auto fromSecond = ValueHistory::series(ctx(), QDate(2026, 3, 2)).value();
-    ASSERT_EQ(fromSecond.size(), 2);
-    EXPECT_EQ(fromSecond[0].pieces, 3);
-
-    // The largest changes of the range, largest first; an equal value is no change.
-    b->setSerialNumber("x");
-    ASSERT_TRUE(ctx().save().ok());
-    const auto largest = ValueHistory::largestChanges(ctx(), QDate(2026, 3, 1), 2).value();
-    ASSERT_EQ(largest.size(), 2);
-    EXPECT_EQ(largest[0].cause, "Deleted");
-    EXPECT_DOUBLE_EQ(largest[0].totalBefore(), 6.0);
-    EXPECT_EQ(largest[1].quantityAfter, 4);
-    EXPECT_TRUE(ValueHistory::largestChanges(ctx(), QDate(2026, 3, 5), 10).value().isEmpty());
-}
-
 // A store made before the history begins it when first opened: one baseline event a coin,
 // dated then, in the same step as the tables, and never again.
 TEST_F(ValueHistoryTest, AnOlderStoreGetsOneBaselineEventPerCoin) {

@@ -148,23 +148,4 @@ TEST_F(UnsavedFormTest, TheEditFormAsksOnlyWhenItDiffersFromTheCoinItOpenedWith)
     press(Qt::Key_Escape);
     EXPECT_EQ(prompt(), "");
     EXPECT_EQ(top(), list);
-
-    // Closing the window on a changed picture asks; the answers do as they say.
-    edit = open();
-    fakes.imagePicker->camera = true;
-    fakes.imagePicker->next = QImage(30, 40, QImage::Format_RGB32);
-    edit->FrontCameraButton->click();
-    EXPECT_FALSE(window->close());
-    answer("Keep Editing");
-    EXPECT_EQ(edit->FrontImage->image().size(), QSize(30, 40));
-    EXPECT_FALSE(window->close());
-    answer("Discard");
-    EXPECT_FALSE(window->isVisible());
-    EXPECT_EQ(coin->frontImage(), coinPicture(Qt::red));
-
-    // An unchanged form closes at once.
-    window->show();
-    edit->FrontImage->setImage(ImageCoding::decode(coin->frontImage()));
-    EXPECT_TRUE(window->close());
-    EXPECT_EQ(prompt(), "");
 }
