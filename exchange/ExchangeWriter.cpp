@@ -10,9 +10,9 @@
 
 #include <QFuture>
 #include <QHash>
-#include <QSet>
 
 #include <QtConcurrent/QtConcurrentMap>
+#include <deque>
 #include <optional>
 
 namespace Exchange {
@@ -30,80 +30,92 @@ Encoded reencode(const QByteArray& bytes) {
     return ImageCoding::base64(encoded);
 }
 
-// Re-encoding pictures dominates the export. They are coded on every core a window of coins
-// at a time, the next window while this one is written, so that what is held besides the file
-// stays the same whatever the collection's size. Identical pictures give identical text: each
-// is coded once within a window, and recent ones are remembered.
+// Re-encoding pictures dominates the export. They are coded on every core in small batches,
+// several batches ahead of the one being written, so that the cores never wait for the writer
+// and what is held besides the file stays the same whatever the collection's size. Identical
+// pictures give identical text: each is coded once while it is in use, and recent ones are
+// remembered.
 class PictureCoder {
 public:
-    static constexpr qsizetype Window = 256; // pictures
+    static constexpr qsizetype Batch = 64; // pictures
+    static constexpr qsizetype Ahead = 4;  // batches being coded at once
+    static constexpr qsizetype Remembered = 1024;
 
     explicit PictureCoder(const QList<QByteArray>& pictures)
         : pictures_(pictures) {
-        start(0);
+        while (ahead_.size() < Ahead && nextStart_ < pictures_.size())
+            startBatch();
     }
-    ~PictureCoder() { next_.waitForFinished(); }
+    ~PictureCoder() {
+        for (Pending& batch : ahead_)
+            batch.future.waitForFinished();
+    }
     PictureCoder(const PictureCoder&) = delete;
     PictureCoder& operator=(const PictureCoder&) = delete;
 
     bool isNull(qsizetype index) const { return pictures_[index].isNull(); }
     // The text of picture `index`; asked in order.
     const Encoded& at(qsizetype index) {
-        while (index >= windowStart_ + Window || windowStart_ < 0)
-            advance();
-        const QByteArray& picture = pictures_[index];
-        const auto found = recent_.constFind(picture);
-        if (found != recent_.cend())
-            return *found;
-        return current_[picture];
+        while (index >= doneUpTo_)
+            finishBatch();
+        return known_.find(pictures_[index])->text;
     }
 
 private:
-    void start(qsizetype from) {
-        nextStart_ = from;
-        nextDistinct_.clear();
-        QSet<QByteArray> seen;
-        for (qsizetype i = from; i < std::min(from + Window, pictures_.size()); ++i) {
+    struct Entry {
+        Encoded text;
+        qsizetype lastUse = 0; // the end of the last batch that needs it
+    };
+    struct Pending {
+        qsizetype end = 0;
+        QList<QByteArray> distinct; // the batch's pictures not coded before it
+        QFuture<Encoded> future;
+        bool here = false;
+    };
+
+    void startBatch() {
+        Pending batch;
+        batch.end = std::min(nextStart_ + Batch, pictures_.size());
+        for (qsizetype i = nextStart_; i < batch.end; ++i) {
             const QByteArray& p = pictures_[i];
-            if (!p.isNull() && !recent_.contains(p) && !seen.contains(p)) {
-                seen.insert(p);
-                nextDistinct_.append(p);
+            if (p.isNull())
+                continue;
+            auto found = known_.find(p);
+            if (found == known_.end()) {
+                known_.insert(p, Entry{std::nullopt, batch.end});
+                batch.distinct.append(p);
+            } else {
+                found->lastUse = batch.end;
             }
         }
         // Handing one picture to another thread costs more than coding it here.
-        if (nextDistinct_.size() <= 1) {
-            nextHere_ = true;
-        } else {
-            nextHere_ = false;
-            next_ = QtConcurrent::mapped(nextDistinct_, reencode);
-        }
+        batch.here = batch.distinct.size() <= 1;
+        if (!batch.here)
+            batch.future = QtConcurrent::mapped(batch.distinct, reencode);
+        nextStart_ = batch.end;
+        ahead_.push_back(std::move(batch));
     }
-    void advance() {
-        QList<Encoded> done;
-        if (nextHere_)
-            for (const QByteArray& p : std::as_const(nextDistinct_))
-                done.append(reencode(p));
-        else
-            done = next_.results();
-        // Those of the window written last are the likeliest to come again.
-        if (recent_.size() > 4 * Window)
-            recent_.clear();
-        for (auto it = current_.cbegin(); it != current_.cend(); ++it)
-            recent_.insert(it.key(), it.value());
-        current_.clear();
-        for (qsizetype i = 0; i < nextDistinct_.size(); ++i)
-            current_.insert(nextDistinct_[i], done[i]);
-        windowStart_ = nextStart_;
-        if (windowStart_ + Window < pictures_.size())
-            start(windowStart_ + Window);
+
+    void finishBatch() {
+        Pending batch = std::move(ahead_.front());
+        ahead_.pop_front();
+        const QList<Encoded> done = batch.here ? QList<Encoded>() : batch.future.results();
+        for (qsizetype i = 0; i < batch.distinct.size(); ++i)
+            known_.find(batch.distinct[i])->text =
+                batch.here ? reencode(batch.distinct[i]) : done[i];
+        // Forget what no batch from here on needs.
+        if (known_.size() > Remembered)
+            known_.removeIf(
+                [this](const auto& entry) { return entry.value().lastUse <= doneUpTo_; });
+        doneUpTo_ = batch.end;
+        if (nextStart_ < pictures_.size())
+            startBatch();
     }
 
     const QList<QByteArray>& pictures_;
-    qsizetype windowStart_ = -1, nextStart_ = 0;
-    QList<QByteArray> nextDistinct_;
-    QFuture<Encoded> next_;
-    bool nextHere_ = false;
-    QHash<QByteArray, Encoded> current_, recent_;
+    qsizetype doneUpTo_ = 0, nextStart_ = 0;
+    std::deque<Pending> ahead_;
+    QHash<QByteArray, Entry> known_;
 };
 
 // Stopped here, on the calling thread, so that the message can name the coin to fix.
