@@ -16,6 +16,7 @@
 #include <QtConcurrent/QtConcurrentMap>
 
 #include <array>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -151,7 +152,8 @@ FieldValue convert(AttributeType type, ExchangeRule rule, QByteArrayView field,
     return out;
 }
 
-void apply(Coins& coin, const Fields& fields, bool isNew, const PreparedLine& pictures) {
+void apply(Coins& coin, const Fields& fields, bool isNew, const PreparedLine& pictures,
+           const std::function<void()>& beforeStop) {
     const EntityDescription& entity = coin.entity();
     for (qsizetype p = 0; p < fields.size(); ++p) {
         const CoinAttribute& field = CoinAttributes::atFilePosition(int(p));
@@ -166,11 +168,13 @@ void apply(Coins& coin, const Fields& fields, bool isNew, const PreparedLine& pi
         const QVariant& value = converted.value;
         if (converted.skip)
             continue;
-        if (!converted.parsed && isNew)
+        if (!converted.parsed && isNew) {
+            beforeStop();
             fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value "
                                       "(\"%1\" for %2)")
                            .arg(converted.shown, QLatin1String(field.name)),
                        StopSites::ImportNumber);
+        }
         if (type == AttributeType::Data && !value.isValid() && isNew)
             continue; // not valid base64: the new coin simply has no such picture
         if (type == AttributeType::Data && value.isValid() &&
@@ -275,14 +279,33 @@ bool Merge::step(qsizetype count) {
         return false;
     ManagedObjectContext& context = context_;
     ImportResult& result = result_;
+    // The saves of a step are committed together, and before the merge stops: a commit per
+    // coin would write each index page again for every coin.
+    ManagedObjectContext::SaveGroup group(context);
+    // What the group's saves wrote and a failed commit would leave unsaved.
+    int heldCreated = 0, heldUpdated = 0;
+    auto commit = [&] {
+        if (const Result<void> committed = group.commit(); !committed.ok()) {
+            Console::log(committed.error().description());
+            if (result.notSaved == 0)
+                result.notSavedReason = committed.error().message;
+            result.notSaved += heldCreated;
+            result.updatedSinceSave += heldUpdated;
+        }
+        heldCreated = heldUpdated = 0;
+    };
     const qsizetype stop = std::min(lines_.size(), next_ + std::max<qsizetype>(count, 1));
     for (; next_ < stop; ++next_) {
+        if (group.held() >= SavesPerCommit)
+            commit();
         const Fields fields = splitFields(lines_[next_]);
         const PreparedLine& pictures = picturesOf(next_);
         // A line with more fields than there are attributes is no line of ours, whether it
         // would create, update or be skipped.
-        if (fields.size() > CoinAttributes::count)
+        if (fields.size() > CoinAttributes::count) {
+            commit();
             fatalError(QStringLiteral("Index out of range"), StopSites::ImportFieldCount);
+        }
         // The lookup and the save that follows it hold the write lock together, so that two
         // imports of one file never both find a coin missing and both create it.
         if (const Result<void> locked = context.beginWriteBatch();
@@ -307,7 +330,7 @@ bool Merge::step(qsizetype count) {
         const QList<CoinPtr> results = found.valueOr({});
         if (results.isEmpty()) {
             auto coin = context.insert<Coins>();
-            apply(*coin, fields, true, pictures);
+            apply(*coin, fields, true, pictures, commit);
             if (const auto failure = context.save(); !failure.ok()) {
                 Console::log(failure.error().description());
                 if (result.notSaved++ == 0)
@@ -316,19 +339,22 @@ bool Merge::step(qsizetype count) {
                     dontWaitWhenBusy();
             } else {
                 // A save writes every coin left pending before it.
+                heldCreated += result.notSaved + 1;
+                heldUpdated += result.updatedSinceSave;
                 result.notSaved = 0;
                 result.updatedSinceSave = 0;
             }
             ++result.created;
         } else if (results.size() == 1) {
             // Left pending on purpose: the next save of the context writes it.
-            apply(*results.first(), fields, false, pictures);
+            apply(*results.first(), fields, false, pictures, commit);
             ++result.updated;
             ++result.updatedSinceSave;
         } else {
             ++result.skipped;
         }
     }
+    commit();
     return next_ < lines_.size();
 }
 

@@ -61,6 +61,8 @@ private:
     void dontWaitWhenBusy();
     // Starts working out the pictures of the lines from `from` on the other cores.
     static constexpr qsizetype PreparedLines = 64;
+    // New coins written between two commits, at most.
+    static constexpr int SavesPerCommit = 256;
     void prepare(qsizetype from);
     const PreparedLine& picturesOf(qsizetype line);
     ManagedObjectContext& context_;

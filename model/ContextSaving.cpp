@@ -6,6 +6,7 @@
 #include "model/ValueHistory.h"
 #include "platform/core/Fatal.h"
 
+#include <QSet>
 #include <QTimer>
 #include <sqlite3.h>
 
@@ -143,6 +144,8 @@ Result<void> ManagedObjectContext::save() {
     for (auto& o : updated_)
         if (o->entity_->hasData() && (o->dirty_ & dataMask(*o->entity_)))
             loadData(*o);
+    if (saveGroups_ > 0 && writeBatch_)
+        return saveHeld();
 
     // A read batch still open becomes the write transaction, which spares ending one
     // transaction only to begin the next. Should another writer have changed the file since the
@@ -186,8 +189,12 @@ Result<void> ManagedObjectContext::save() {
     if (commit.step() != SQLITE_DONE)
         return fail();
     commit.reset();
-
     // Only now that the transaction is in does memory follow it.
+    settleSaved(newIds);
+    return {};
+}
+
+void ManagedObjectContext::settleSaved(const std::vector<qint64>& newIds) {
     for (qsizetype i = 0; i < inserted_.size(); ++i) {
         const ObjectPtr& o = inserted_[i];
         o->rowId_ = newIds[std::size_t(i)];
@@ -214,5 +221,127 @@ Result<void> ManagedObjectContext::save() {
     pendingIndexes_.clear();
     updated_.clear();
     deleted_.clear();
+}
+
+Result<void> ManagedObjectContext::saveHeld() {
+    // The savepoint undoes a save that fails halfway, and only that save.
+    auto failed = [this]() -> Result<void> {
+        const Error failure = lastError();
+        db_->resetAll();
+        if (sqlite3_get_autocommit(db_->handle())) {
+            // The error ended the whole transaction (a full disk, an I/O error): what the
+            // group wrote before went with it.
+            readBatch_ = writeBatch_ = false;
+            batchEnd_->stop();
+            returnHeldToPending();
+        } else {
+            db_->exec(QStringLiteral("ROLLBACK TO held"));
+            db_->exec(QStringLiteral("RELEASE held"));
+        }
+        return failure;
+    };
+    if (!db_->exec(QStringLiteral("SAVEPOINT held")))
+        return failed();
+    std::vector<qint64> newIds;
+    if (!writePending(newIds) || !db_->exec(QStringLiteral("RELEASE held")))
+        return failed();
+    for (const auto& o : std::as_const(inserted_))
+        held_.push_back({o, o->state_, 0, o->changeCause_});
+    for (const auto& o : std::as_const(updated_))
+        held_.push_back({o, o->state_, o->dirty_, o->changeCause_});
+    for (const auto& o : std::as_const(deleted_))
+        held_.push_back({o, o->state_, 0, o->changeCause_});
+    settleSaved(newIds);
     return {};
+}
+
+Result<void> ManagedObjectContext::commitHeld() {
+    if (held_.empty())
+        return {};
+    readBatch_ = writeBatch_ = false;
+    batchEnd_->stop();
+    db_->resetAll();
+    if (db_->exec(QStringLiteral("COMMIT"))) {
+        held_.clear();
+        return {};
+    }
+    const Error failure = lastError();
+    if (!sqlite3_get_autocommit(db_->handle()))
+        db_->exec(QStringLiteral("ROLLBACK"));
+    returnHeldToPending();
+    return failure;
+}
+
+// Every change the group's saves wrote is pending again, as if those saves had failed; a
+// change made since on top of one is kept with it.
+void ManagedObjectContext::returnHeldToPending() {
+    using State = ManagedObject::State;
+    QSet<ManagedObject*> insertedHere;
+    QList<ObjectPtr> inserts;
+    for (const HeldChange& h : held_) {
+        ManagedObject& o = *h.object;
+        auto& identity = identity_[std::size_t(o.entity_->index)];
+        if (h.state == State::Inserted) {
+            insertedHere.insert(&o);
+            if (o.state_ == State::Gone)
+                continue; // deleted again since: neither ever reached the file
+            identity.remove(o.rowId_);
+            if (o.state_ == State::Updated) {
+                updated_.remove(&o);
+                for (auto& set : dirtyByAttribute_[std::size_t(o.entity_->index)])
+                    set.remove(&o);
+            } else if (o.state_ == State::Deleted) {
+                deleted_.removeOne(h.object);
+            }
+            o.rowId_ = 0;
+            o.dirty_ = 0;
+            o.state_ = State::Inserted;
+            if (o.changeCause_.isEmpty())
+                o.changeCause_ = h.cause;
+            inserts.append(h.object);
+        } else if (insertedHere.contains(&o)) {
+            continue; // already pending as an insert
+        } else if (h.state == State::Updated) {
+            if (o.state_ == State::Clean) {
+                o.state_ = State::Updated;
+                updated_.insert(&o, h.object);
+            }
+            if (o.state_ != State::Updated)
+                continue;
+            for (int a = 0; a < int(o.entity_->attributes.size()); ++a)
+                if (h.dirty & ~o.dirty_ & (1u << a))
+                    dirtyByAttribute_[std::size_t(o.entity_->index)][std::size_t(a)].insert(&o);
+            o.dirty_ |= h.dirty;
+            if (o.changeCause_.isEmpty())
+                o.changeCause_ = h.cause;
+        } else if (h.state == State::Deleted) {
+            o.state_ = State::Deleted;
+            o.context_ = this;
+            o.changeCause_ = h.cause;
+            identity.insert(o.rowId_, h.object);
+            deleted_.append(h.object);
+        }
+    }
+    inserted_ = inserts + inserted_;
+    pendingIndexes_.clear();
+    held_.clear();
+    ++changeCount_;
+}
+
+ManagedObjectContext::SaveGroup::SaveGroup(ManagedObjectContext& context)
+    : context_(context) {
+    ++context_.saveGroups_;
+}
+
+ManagedObjectContext::SaveGroup::~SaveGroup() {
+    // An error here is the next save's to meet: the changes are pending again.
+    (void)commit();
+    --context_.saveGroups_;
+}
+
+Result<void> ManagedObjectContext::SaveGroup::commit() {
+    Result<void> committed = context_.commitHeld();
+    if (committed.ok() && context_.heldFailure_)
+        committed = *std::exchange(context_.heldFailure_, std::nullopt);
+    return committed;
 }

@@ -171,6 +171,11 @@ Result<void> ManagedObjectContext::beginWriteBatch() {
 void ManagedObjectContext::endReadBatch() {
     if (!readBatch_)
         return;
+    if (!held_.empty()) {
+        if (Result<void> committed = commitHeld(); !committed.ok())
+            heldFailure_ = committed.error();
+        return;
+    }
     readBatch_ = writeBatch_ = false;
     batchEnd_->stop();
     db_->resetAll(); // no statement may still be reading

@@ -82,6 +82,27 @@ public:
     // lock could not be had (the reads then go on without it).
     Result<void> beginWriteBatch();
 
+    // Saves made while a group lives and a write batch is open (beginWriteBatch) keep the
+    // batch's transaction: each save writes as a savepoint of it, and the transaction commits
+    // when the group commits or ends. A run of saves (an import) then costs one commit per
+    // group instead of one each. A save that fails leaves its changes pending, as ever; a
+    // commit that fails returns every change the group's saves wrote to pending, so that the
+    // next save writes it again.
+    class SaveGroup {
+    public:
+        explicit SaveGroup(ManagedObjectContext& context);
+        ~SaveGroup();
+        SaveGroup(const SaveGroup&) = delete;
+        SaveGroup& operator=(const SaveGroup&) = delete;
+        // Commits what the group's saves wrote so far; the group goes on.
+        Result<void> commit();
+        // The saves written since the last commit.
+        int held() const { return int(context_.held_.size()); }
+
+    private:
+        ManagedObjectContext& context_;
+    };
+
     // What the value history names as the cause of the changes of coins' quantities and values
     // made from now on, saved now or later (see ValueHistory); empty: each change is named by
     // its kind.
@@ -114,6 +135,11 @@ private:
     // The pending inserts, updates and deletes, in the open transaction; false at the first
     // statement that fails.
     bool writePending(std::vector<qint64>& newIds);
+    // Memory follows a save whose writes went through.
+    void settleSaved(const std::vector<qint64>& newIds);
+    Result<void> saveHeld();
+    Result<void> commitHeld();
+    void returnHeldToPending();
     // Tells the connection's history triggers when and why the coming writes are made.
     bool stampChanges(const QDateTime& time, const QString& cause);
     void beginReadBatch();
@@ -155,4 +181,15 @@ private:
     quint64 changeCount_ = 0;
     QString changeCause_;
     std::unique_ptr<QTimer> batchEnd_;
+    // What the saves of a group wrote in the open transaction, as it was before each save.
+    struct HeldChange {
+        ObjectPtr object;
+        ManagedObject::State state;
+        quint32 dirty;
+        QString cause;
+    };
+    std::vector<HeldChange> held_;
+    int saveGroups_ = 0;
+    // A group's commit made by the next turn of the event loop, which failed.
+    std::optional<Error> heldFailure_;
 };

@@ -3,6 +3,7 @@
 #include "exchange/ExchangeWriter.h"
 #include "platform/core/Fatal.h"
 #include "platform/core/Files.h"
+#include "platform/graphics/ImageCoding.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -77,6 +78,46 @@ TEST_F(StoreTest, MergeIntoABusyStoreDoesNotWaitPerLine) {
     ASSERT_EQ(other.exec("ROLLBACK"), 0);
     EXPECT_TRUE(ctx().save().ok());
     EXPECT_EQ(fetch().size(), 9);
+}
+
+// The merge commits its saves a group at a time. A group whose writes fail (a full disk) is
+// counted as not saved, not one coin of it is in the file, and the next save writes each of
+// its coins once, with the changes later lines made to them.
+TEST_F(StoreTest, CoinsOfAGroupThatCouldNotBeWrittenWaitForTheNextSave) {
+    coin("Peru", "1 Sol", 1990, "L");
+    ASSERT_TRUE(ctx().save().ok());
+    QImage noise(100, 100, QImage::Format_RGB32);
+    QByteArray file = "[PELVANE]\n";
+    for (int i = 0; i < 700; ++i) {
+        for (int y = 0; y < 100; ++y)
+            for (int x = 0; x < 100; ++x)
+                noise.setPixel(x, y, qRgb((x * i) % 256, (y * 7 + i) % 256, (x ^ y) % 256));
+        file += "Chile^" + QByteArray::number(i) + " Pesos^^^^^^^S^^^1^^^^^^^1990^" +
+                ImageCoding::coinPictureData(noise).toBase64() + "^\n";
+    }
+    file += "Peru^1 Sol^^^^^^^L^^^5^^^^^^^1990^^\n";    // a stored coin
+    file += "Chile^3 Pesos^^^^^^^S^^^7^^^^^^^1990^^\n"; // one the file made
+    Exchange::ImportResult r;
+    {
+        FileSizeLimit limit(768 * 1024);
+        ASSERT_TRUE(limit.isSet());
+        r = mergeExchangeText(ctx(), file);
+    }
+    EXPECT_EQ(r.created, 700);
+    EXPECT_EQ(r.updated, 2);
+    EXPECT_GT(r.notSaved, 0);
+    EXPECT_FALSE(r.notSavedReason.isEmpty());
+    OtherConnection disk(path("Pelvane.sqlite"));
+    EXPECT_EQ(disk.number("SELECT count(*) FROM Coins"), 1 + r.created - r.notSaved);
+
+    ASSERT_TRUE(ctx().save().ok());
+    EXPECT_EQ(disk.number("SELECT count(*) FROM Coins"), 701);
+    EXPECT_EQ(disk.number("SELECT count(DISTINCT denomination) FROM Coins WHERE country = 'Chile'"),
+              700);
+    EXPECT_EQ(disk.number("SELECT count(*) FROM Coins_pictures WHERE frontImage IS NOT NULL"), 700);
+    EXPECT_EQ(disk.number("SELECT quantity FROM Coins WHERE denomination = '3 Pesos'"), 7);
+    EXPECT_EQ(disk.number("SELECT quantity FROM Coins WHERE denomination = '1 Sol'"), 5);
+    EXPECT_EQ(fetch().size(), 701);
 }
 
 // A file cut short is still merged as far as it goes, and the merge says so.
