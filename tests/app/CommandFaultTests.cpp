@@ -196,6 +196,22 @@ TEST_F(PelvaneTest, TwoImportsAtOnceMakeEachCoinOnce) {
     EXPECT_EQ(ma.captured(2).toInt() + mb.captured(2).toInt(), 3000);
 }
 
+// A line the import must stop at (a number that does not parse in a new coin, or more fields
+// than a coin has) stops the program, and every coin merged before that line is in the file.
+TEST_F(PelvaneTest, AnImportStoppedAtABadLineKeepsTheCoinsBeforeIt) {
+    for (const QByteArray& bad :
+         {QByteArray("Chile^Bad^^^^^^^So^^^many^^^^^^^1990^^"), QByteArray(22, '^')}) {
+        SCOPED_TRACE(bad.constData());
+        const QString store = dir() + "/stop" + QString::number(bad.size());
+        writeFile(path("bad.csv"), chileanCoins(100) + bad + "\n" + chileanCoins(5).mid(10));
+        const ProgramRun run = runProgram(store, {"--import", path("bad.csv")});
+        EXPECT_NE(run.exitCode, 0);
+        EXPECT_TRUE(run.errors.contains("Fatal error")) << qPrintable(run.errors);
+        EXPECT_EQ(OtherConnection(store + "/Pelvane.sqlite").number("SELECT count(*) FROM Coins"),
+                  100);
+    }
+}
+
 // A report from a store that cannot be read writes nothing and says why: not "no coins", not a
 // list with its pictures missing.
 TEST_F(PelvaneTest, AReportFromADamagedStoreWritesNothing) {
