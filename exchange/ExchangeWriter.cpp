@@ -11,8 +11,9 @@
 #include <QFuture>
 #include <QHash>
 
-#include <QtConcurrent/QtConcurrentMap>
+#include <QtConcurrent/QtConcurrentRun>
 #include <deque>
+#include <functional>
 #include <optional>
 
 namespace Exchange {
@@ -30,6 +31,16 @@ Encoded reencode(const QByteArray& bytes) {
     return ImageCoding::base64(encoded);
 }
 
+// A batch's pictures coded on one thread and handed over together: one wake of the writer per
+// batch rather than one per picture.
+QList<Encoded> codeAll(const QList<QByteArray>& pictures) {
+    QList<Encoded> coded;
+    coded.reserve(pictures.size());
+    for (const QByteArray& picture : pictures)
+        coded.append(reencode(picture));
+    return coded;
+}
+
 // Re-encoding pictures dominates the export. They are coded on every core in small batches,
 // several batches ahead of the one being written, so that the cores never wait for the writer
 // and what is held besides the file stays the same whatever the collection's size. Identical
@@ -41,8 +52,10 @@ public:
     static constexpr qsizetype Ahead = 4;  // batches being coded at once
     static constexpr qsizetype Remembered = 1024;
 
-    explicit PictureCoder(const QList<QByteArray>& pictures)
-        : pictures_(pictures) {
+    // `read` gives picture `index`, on this thread, in order.
+    PictureCoder(qsizetype count, std::function<QByteArray(qsizetype)> read)
+        : pictures_(count)
+        , read_(std::move(read)) {
         while (ahead_.size() < Ahead && nextStart_ < pictures_.size())
             startBatch();
     }
@@ -53,12 +66,12 @@ public:
     PictureCoder(const PictureCoder&) = delete;
     PictureCoder& operator=(const PictureCoder&) = delete;
 
-    bool isNull(qsizetype index) const { return pictures_[index].isNull(); }
-    // The text of picture `index`; asked in order.
-    const Encoded& at(qsizetype index) {
+    // The text of picture `index`, nothing for no picture; asked in order.
+    const Encoded* at(qsizetype index) {
         while (index >= doneUpTo_)
             finishBatch();
-        return known_.find(pictures_[index])->text;
+        const QByteArray& picture = pictures_[index];
+        return picture.isNull() ? nullptr : &known_.find(picture)->text;
     }
 
 private:
@@ -69,7 +82,7 @@ private:
     struct Pending {
         qsizetype end = 0;
         QList<QByteArray> distinct; // the batch's pictures not coded before it
-        QFuture<Encoded> future;
+        QFuture<QList<Encoded>> future;
         bool here = false;
     };
 
@@ -77,6 +90,10 @@ private:
         Pending batch;
         batch.end = std::min(nextStart_ + Batch, pictures_.size());
         for (qsizetype i = nextStart_; i < batch.end; ++i) {
+            // Read while the batches before are coded, and let go once written.
+            pictures_[i] = read_(i);
+            if (i >= (Ahead + 1) * Batch)
+                pictures_[i - Ahead * Batch - Batch] = QByteArray();
             const QByteArray& p = pictures_[i];
             if (p.isNull())
                 continue;
@@ -91,7 +108,7 @@ private:
         // Handing one picture to another thread costs more than coding it here.
         batch.here = batch.distinct.size() <= 1;
         if (!batch.here)
-            batch.future = QtConcurrent::mapped(batch.distinct, reencode);
+            batch.future = QtConcurrent::run(codeAll, batch.distinct);
         nextStart_ = batch.end;
         ahead_.push_back(std::move(batch));
     }
@@ -99,7 +116,7 @@ private:
     void finishBatch() {
         Pending batch = std::move(ahead_.front());
         ahead_.pop_front();
-        const QList<Encoded> done = batch.here ? QList<Encoded>() : batch.future.results();
+        const QList<Encoded> done = batch.here ? QList<Encoded>() : batch.future.result();
         for (qsizetype i = 0; i < batch.distinct.size(); ++i)
             known_.find(batch.distinct[i])->text =
                 batch.here ? reencode(batch.distinct[i]) : done[i];
@@ -112,7 +129,8 @@ private:
             startBatch();
     }
 
-    const QList<QByteArray>& pictures_;
+    QList<QByteArray> pictures_;
+    std::function<QByteArray(qsizetype)> read_;
     qsizetype doneUpTo_ = 0, nextStart_ = 0;
     std::deque<Pending> ahead_;
     QHash<QByteArray, Entry> known_;
@@ -121,9 +139,10 @@ private:
 // Stopped here, on the calling thread, so that the message can name the coin to fix.
 void appendPicture(QByteArray& out, PictureCoder& coder, qsizetype index, const Coins& coin,
                    const char* face) {
-    if (coder.isNull(index))
+    const Encoded* coded = coder.at(index);
+    if (!coded)
         return;
-    const Encoded& text = coder.at(index);
+    const Encoded& text = *coded;
     if (!text)
         fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value "
                                   "(the %1 picture of %2 cannot be decoded)")
@@ -184,21 +203,20 @@ Result<QByteArray> exchangeText(ManagedObjectContext& context, const Progress& p
 }
 
 Result<QByteArray> exchangeText(const QList<CoinPtr>& coins, const Progress& progress) {
-    // Picture bytes are read here, on the store's thread; only the coding runs elsewhere.
-    if (!coins.isEmpty() && coins.first()->managedObjectContext())
-        coins.first()->managedObjectContext()->takeReadError(); // an older one is not ours
-    QList<QByteArray> pictures;
-    pictures.reserve(coins.size() * 2);
-    for (const CoinPtr& c : coins) {
-        pictures.append(c->frontImage());
-        pictures.append(c->backImage());
-    }
-    if (!coins.isEmpty() && coins.first()->managedObjectContext())
-        if (auto failure = coins.first()->managedObjectContext()->takeReadError()) {
-            Console::print(QStringLiteral("Could not fetch. %1").arg(failure->description()));
-            return *failure;
-        }
-    PictureCoder coder(pictures);
+    // Picture bytes are read here, on the store's thread, a few batches ahead of the writing;
+    // only the coding runs elsewhere. A read that fails is noticed before its coin is written.
+    ManagedObjectContext* context =
+        coins.isEmpty() ? nullptr : coins.first()->managedObjectContext();
+    if (context)
+        context->takeReadError(); // an older one is not ours
+    std::optional<Error> readFailure;
+    PictureCoder coder(coins.size() * 2, [&](qsizetype index) {
+        const Coins& coin = *coins[index / 2];
+        QByteArray picture = index % 2 ? coin.backImage() : coin.frontImage();
+        if (context && !readFailure)
+            readFailure = context->takeReadError();
+        return picture;
+    });
 
     QByteArray out;
     out.reserve(qsizetype(coins.size()) * (400 + 2 * 4000) + 16);
@@ -206,6 +224,10 @@ Result<QByteArray> exchangeText(const QList<CoinPtr>& coins, const Progress& pro
     out += '\n';
     const int total = int(coins.size());
     for (int i = 0; i < total; ++i) {
+        if (readFailure) {
+            Console::print(QStringLiteral("Could not fetch. %1").arg(readFailure->description()));
+            return *readFailure;
+        }
         const Coins& c = *coins[i];
         // Every field in the table's file order, separated by carets; the record number follows
         // the back picture directly, and the reader never splits it off.
