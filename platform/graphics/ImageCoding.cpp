@@ -211,8 +211,11 @@ public:
         jpeg_create_decompress(&in_);
         if (size)
             jpeg_save_markers(&in_, JPEG_APP0 + 1, 0);
-        if (plain)
-            jpeg_save_markers(&in_, JPEG_APP0 + 2, 0);
+        // A limit of 0 skips a block unseen; a byte of each is kept to know it is there.
+        if (plain) {
+            jpeg_save_markers(&in_, JPEG_APP0 + 1, 1);
+            jpeg_save_markers(&in_, JPEG_APP0 + 2, 1);
+        }
         error_.manager.num_warnings = 0;
         if (setjmp(error_.jump)) {
             jpeg_abort_decompress(&in_);

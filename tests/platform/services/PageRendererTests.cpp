@@ -128,6 +128,8 @@ TEST(PageRenderer, PlainJpegsGoIntoThePdfAsTheyAre) {
                 image.setHeight(100);
                 cursor.insertImage(image);
             }
+        if (line % 25 == 0)
+            cursor.insertText(QStringLiteral("\n"));
     }
     PageRenderer renderer(document, PageRenderer::a4(), PageRenderer::a4());
     ASSERT_GT(renderer.numberOfPages(), 2);

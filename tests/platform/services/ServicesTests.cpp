@@ -217,8 +217,10 @@ TEST(ImageCoding, TheQuickCheckAgreesWithTheDecoder) {
     for (const QByteArray& bytes : inputs) {
         readable += ImageCoding::readable(bytes);
         // What goes into a PDF as it is decodes, at the size it says.
-        if (const std::optional<QSize> size = ImageCoding::plainJpegSize(bytes); size && ++plain)
+        if (const std::optional<QSize> size = ImageCoding::plainJpegSize(bytes)) {
+            ++plain;
             EXPECT_EQ(ImageCoding::decode(bytes).size(), *size);
+        }
         EXPECT_EQ(ImageCoding::readable(bytes), !ImageCoding::decode(bytes).isNull())
             << bytes.size() << " bytes: " << bytes.left(16).toHex().toStdString();
     }
@@ -244,11 +246,18 @@ TEST(ImageCoding, PlainJpegsAreTheOnesAPdfTakesAsTheyAre) {
     };
     EXPECT_EQ(ImageCoding::plainJpegSize(written(image, "jpeg", false)), QSize(40, 30));
     EXPECT_EQ(ImageCoding::plainJpegSize(ImageCoding::coinPictureData(image)), QSize(100, 100));
-    QImage profiled = image;
-    profiled.setColorSpace(QColorSpace::SRgb);
-    const QByteArray withProfile = written(profiled, "jpeg", false);
-    EXPECT_FALSE(ImageCoding::plainJpegSize(withProfile));
-    EXPECT_EQ(ImageCoding::decodedSize(withProfile), QSize(40, 30)); // still measured
+    // A block right after the start: a colour profile, or Exif that may turn the picture.
+    const auto withBlock = [&](char marker, const QByteArray& body) {
+        const int length = int(body.size()) + 2;
+        return written(image, "jpeg", false)
+            .insert(2,
+                    QByteArray("\xFF") + marker + char(length >> 8) + char(length & 0xFF) + body);
+    };
+    const QByteArray profiled = withBlock('\xE2', QByteArray("ICC_PROFILE\0\x01\x01", 14) +
+                                                      QColorSpace(QColorSpace::SRgb).iccProfile());
+    EXPECT_FALSE(ImageCoding::plainJpegSize(profiled));
+    EXPECT_EQ(ImageCoding::decodedSize(profiled), QSize(40, 30)); // still measured
+    EXPECT_FALSE(ImageCoding::plainJpegSize(withBlock('\xE1', QByteArray("Exif\0\0", 6))));
     EXPECT_FALSE(ImageCoding::plainJpegSize(written(image, "jpeg", true)));
     EXPECT_FALSE(ImageCoding::plainJpegSize(
         written(image.convertToFormat(QImage::Format_Grayscale8), "jpeg", false)));

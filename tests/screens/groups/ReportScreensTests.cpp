@@ -220,14 +220,17 @@ TEST_F(ReportTest, TheReportCarriesTheStoredPicturesThemselves) {
     EXPECT_EQ(bytes.count(coinPicture(Qt::blue)), 1);
     EXPECT_TRUE(PdfPages::crossReferencesHold(bytes));
     PdfPages pdf(bytes);
-    ASSERT_EQ(pdf.count(), 1);
-    const QImage page = pdf.pdf->render(0, (pdf.size(0) * 2).toSize());
-    EXPECT_NEAR(redWidth(page) / 2.0, b->width() / 6.0, 2);
+    ASSERT_EQ(pdf.count(), 2);
+    EXPECT_NEAR(redWidth(pdf.pdf->render(0, (pdf.size(0) * 2).toSize())) / 2.0, b->width() / 6.0,
+                2);
     int greens = 0;
-    for (int y = 0; y < page.height(); ++y)
-        for (int x = 0; x < page.width(); ++x)
-            if (const QColor c = page.pixelColor(x, y); c.green() > 200 && c.red() < 60)
-                ++greens;
+    for (int at = 0; at < pdf.count(); ++at) {
+        const QImage page = pdf.pdf->render(at, pdf.size(at).toSize());
+        for (int y = 0; y < page.height(); ++y)
+            for (int x = 0; x < page.width(); ++x)
+                if (const QColor c = page.pixelColor(x, y); c.green() > 200 && c.red() < 60)
+                    ++greens;
+    }
     EXPECT_GT(greens, 100);
 }
 
