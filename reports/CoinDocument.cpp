@@ -10,6 +10,7 @@
 #include <QTextBlockFormat>
 #include <QTextDocument>
 #include <QTextImageFormat>
+#include <QtConcurrent>
 
 namespace {
 // Qt sizes inline pictures in pixels of 1/96 inch, and the pages are laid out in points.
@@ -68,13 +69,29 @@ void CoinDocument::appendLine(const QString& label, const Coins& coin, int attri
         appendLine(label, coin.value(attribute).toString());
 }
 
+void CoinDocument::measurePictures(const QList<CoinPtr>& coins) {
+    QList<QByteArray> distinct;
+    for (const CoinPtr& c : coins)
+        for (const QByteArray& bytes : {c->frontImage(), c->backImage()})
+            if (!bytes.isEmpty() && !pictures_.contains(bytes) && !measured_.contains(bytes)) {
+                measured_.insert(bytes, std::nullopt);
+                distinct.append(bytes);
+            }
+    const QList<std::optional<QSize>> sizes =
+        QtConcurrent::blockingMapped(distinct, &ImageCoding::decodedSize);
+    for (qsizetype i = 0; i < distinct.size(); ++i)
+        measured_[distinct[i]] = sizes[i];
+}
+
 void CoinDocument::appendPicture(const QByteArray& bytes) {
     auto found = pictures_.find(bytes);
     if (found == pictures_.end()) {
         // Each distinct picture is measured once, and kept as its bytes: it is decoded only
         // as its page is drawn.
         Picture picture;
-        const std::optional<QSize> size = ImageCoding::decodedSize(bytes);
+        const auto early = measured_.constFind(bytes);
+        const std::optional<QSize> size =
+            early != measured_.cend() ? *early : ImageCoding::decodedSize(bytes);
         if (size && size->width() > 0) {
             picture.name = QStringLiteral("coin-picture-%1").arg(pictures_.size());
             picture.height = pictureWidth_ * size->height() / size->width();
@@ -107,6 +124,7 @@ std::unique_ptr<QTextDocument> CoinDocument::take() {
 std::unique_ptr<QTextDocument>
 CoinDocument::report(const QString& title, const QList<CoinPtr>& coins, qreal pictureWidth) {
     CoinDocument d(pictureWidth, Medium::Paper);
+    d.measurePictures(coins);
     d.appendTitle(title, 21);
     using A = Coins::Attr;
     for (const CoinPtr& c : coins) {
@@ -151,6 +169,7 @@ std::unique_ptr<QTextDocument> CoinDocument::listing(const QString& title,
                                                      const QList<CoinPtr>& coins,
                                                      const Lines& lines, qreal pictureWidth) {
     CoinDocument d(pictureWidth, Medium::Screen);
+    d.measurePictures(coins);
     d.appendTitle(title, 17);
     for (const CoinPtr& c : coins) {
         lines(d, *c);

@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QTextDocument;
 
@@ -61,6 +62,9 @@ public:
     static QFont blockFont();
 
 private:
+    // Measures the coins' pictures on every core at once, ahead of appending them: a picture is
+    // read through to be measured, which is most of the time a document takes to build.
+    void measurePictures(const QList<CoinPtr>& coins);
     void appendPicture(const QByteArray& bytes);
 
     std::unique_ptr<QTextDocument> document_;
@@ -75,4 +79,5 @@ private:
         qreal height = 0;
     };
     QHash<QByteArray, Picture> pictures_;
+    QHash<QByteArray, std::optional<QSize>> measured_;
 };

@@ -46,6 +46,28 @@ public:
         return true;
     }
 
+    // Whether every object in use starts where the cross-reference table says, and the table
+    // where the end of the file says: a reader that trusts the table finds everything.
+    static bool crossReferencesHold(const QByteArray& pdf) {
+        const qsizetype start = pdf.lastIndexOf("startxref\n");
+        if (start < 0)
+            return false;
+        const qsizetype table = pdf.mid(start + 10, 20).split('\n').value(0).trimmed().toLongLong();
+        if (!pdf.mid(table).startsWith("xref\n0 "))
+            return false;
+        const qsizetype countEnd = pdf.indexOf('\n', table + 7);
+        const int count = pdf.mid(table + 7, countEnd - table - 7).trimmed().toInt();
+        for (int object = 1; object < count; ++object) {
+            const QByteArray entry = pdf.mid(countEnd + 1 + qsizetype(object) * 20, 20);
+            if (entry.size() != 20)
+                return false;
+            if (entry[17] == 'n' && !pdf.mid(entry.left(10).toLongLong())
+                                         .startsWith(QByteArray::number(object) + " 0 obj"))
+                return false;
+        }
+        return count > 1;
+    }
+
 private:
     void readTexts() {
         for (int page = 0; page < pdf->pageCount(); ++page)

@@ -201,13 +201,22 @@ public:
     JpegChecker& operator=(const JpegChecker&) = delete;
 
     // `size` is set to the picture's size where the header alone tells what decode() would
-    // give: no Exif block, which may turn the picture.
-    bool reads(const QByteArray& bytes, QSize* size = nullptr) {
+    // give: no Exif block, which may turn the picture. `plain` asks for more: the size is set
+    // only for a sequential, Huffman-coded colour JPEG read without a single warning and with
+    // no colour profile or Adobe block, one that any PDF reader draws from its own bytes as the
+    // image plugin would.
+    bool reads(const QByteArray& bytes, QSize* size = nullptr, bool plain = false) {
         // As in the recoder: no tables left from the picture before.
         jpeg_destroy_decompress(&in_);
         jpeg_create_decompress(&in_);
         if (size)
             jpeg_save_markers(&in_, JPEG_APP0 + 1, 0);
+        // A limit of 0 skips a block unseen; a byte of each is kept to know it is there.
+        if (plain) {
+            jpeg_save_markers(&in_, JPEG_APP0 + 1, 1);
+            jpeg_save_markers(&in_, JPEG_APP0 + 2, 1);
+        }
+        error_.manager.num_warnings = 0;
         if (setjmp(error_.jump)) {
             jpeg_abort_decompress(&in_);
             return false;
@@ -226,9 +235,13 @@ public:
         JSAMPROW row = row_.data();
         while (in_.output_scanline < in_.output_height)
             jpeg_read_scanlines(&in_, &row, 1);
-        if (size && !in_.marker_list)
-            *size = QSize(int(in_.image_width), int(in_.image_height));
+        const bool sized = !in_.marker_list; // gone once the reading is finished
+        const bool isPlain = in_.num_components == 3 && in_.jpeg_color_space == JCS_YCbCr &&
+                             in_.data_precision == 8 && !in_.progressive_mode && !in_.arith_code &&
+                             !in_.saw_Adobe_marker;
         jpeg_finish_decompress(&in_);
+        if (size && sized && (!plain || (isPlain && error_.manager.num_warnings == 0)))
+            *size = QSize(int(in_.image_width), int(in_.image_height));
         return true;
     }
 
@@ -259,6 +272,16 @@ std::optional<QSize> decodedSize(const QByteArray& bytes) {
     if (image.isNull())
         return std::nullopt;
     return image.size();
+}
+
+std::optional<QSize> plainJpegSize(const QByteArray& bytes) {
+    if (!bytes.startsWith("\xFF\xD8"))
+        return std::nullopt;
+    thread_local JpegChecker checker;
+    QSize size;
+    if (checker.reads(bytes, &size, true) && size.isValid())
+        return size;
+    return std::nullopt;
 }
 
 QByteArray reencodeJpeg(const QByteArray& bytes, double quality) {

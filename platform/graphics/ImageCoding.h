@@ -19,6 +19,10 @@ bool readable(const QByteArray& bytes);
 // The size of decode()'s picture, or nothing when it gives none; a plain JPEG is measured
 // without being drawn.
 std::optional<QSize> decodedSize(const QByteArray& bytes);
+// The size of a JPEG that can go into a PDF as it is and look there as decode() draws it: a
+// plain colour JPEG read through without a warning, nothing in it that decode() would act on
+// (Exif turn, colour profile). Nothing for any other bytes.
+std::optional<QSize> plainJpegSize(const QByteArray& bytes);
 // The picture drawn onto a 100 x 100 canvas, stretched to the whole square whatever its shape.
 QImage redrawnForStorage(const QImage& image);
 // JPEG at a quality from 0 to 1; empty when encoding fails.

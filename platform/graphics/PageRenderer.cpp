@@ -1,8 +1,11 @@
 #include "platform/graphics/PageRenderer.h"
 
+#include "platform/graphics/ImageCoding.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
 #include <QCoreApplication>
+#include <QHash>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
@@ -24,6 +27,109 @@
 #include <thread>
 #include <tuple>
 #include <vector>
+
+namespace {
+// What stands in for a JPEG while a PDF is drawn: one pixel in two colours, which the engine
+// writes as a tiny one-bit image with nothing to code, and which no picture of a document looks
+// like on its own.
+QImage standInImage() {
+    QImage image(1, 1, QImage::Format_Mono);
+    image.setColorTable({qRgb(0, 0, 0), qRgb(255, 255, 255)});
+    image.fill(1);
+    return image;
+}
+
+// How the engine begins the object of a stand-in.
+const QByteArray kStandInHead = QByteArrayLiteral("<<\n/Type /XObject\n/Subtype /Image\n"
+                                                  "/Width 1\n/Height 1\n/BitsPerComponent 1\n"
+                                                  "/ColorSpace /DeviceGray\n");
+
+// The image object of a JPEG, its bytes as they are.
+QByteArray jpegObject(const QByteArray& jpeg, QSize size) {
+    return "<<\n/Type /XObject\n/Subtype /Image\n/Width " + QByteArray::number(size.width()) +
+           "\n/Height " + QByteArray::number(size.height()) +
+           "\n/BitsPerComponent 8\n/ColorSpace /DeviceRGB\n/Length " +
+           QByteArray::number(jpeg.size()) + "\n/Filter /DCTDecode\n>>\nstream\n" + jpeg +
+           "\nendstream\n";
+}
+
+// Replaces the stand-ins' objects, in the order they are written, by the JPEGs and moves every
+// later object's entry in the cross-reference table. The stand-ins' images fill the unit square
+// as any image does, so each JPEG is drawn where its stand-in was.
+bool swapStandIns(QByteArray& pdf, const std::vector<QSize>& sizes,
+                  const std::vector<QByteArray>& jpegs) {
+    struct Swap {
+        qsizetype from, to; // the object's body, from its "<<" to its "endobj"
+        QByteArray with;
+    };
+    std::vector<Swap> swaps;
+    for (qsizetype at = pdf.indexOf(kStandInHead); at >= 0; at = pdf.indexOf(kStandInHead, at)) {
+        const qsizetype end = pdf.indexOf("endobj\n", at);
+        if (end < 0 || swaps.size() == jpegs.size())
+            return false;
+        swaps.push_back({at, end, jpegObject(jpegs[swaps.size()], sizes[swaps.size()])});
+        at = end;
+    }
+    if (swaps.size() != jpegs.size())
+        return false;
+    if (swaps.empty())
+        return true;
+
+    // The table: "xref", "0 COUNT", then twenty bytes an object, its offset first.
+    const qsizetype startxref = pdf.lastIndexOf("startxref\n");
+    if (startxref < 0)
+        return false;
+    bool ok = false;
+    const qsizetype xref =
+        pdf.mid(startxref + 10, pdf.indexOf('\n', startxref + 10) - startxref - 10)
+            .trimmed()
+            .toLongLong(&ok);
+    if (!ok || xref < swaps.back().to || !pdf.mid(xref).startsWith("xref\n0 "))
+        return false;
+    const qsizetype countEnd = pdf.indexOf('\n', xref + 7);
+    const int count = pdf.mid(xref + 7, countEnd - xref - 7).trimmed().toInt(&ok);
+    const qsizetype entries = countEnd + 1;
+    if (!ok || count < 1 || entries + qsizetype(count) * 20 > startxref)
+        return false;
+
+    // Where a byte of the old PDF lands in the new one: moved by the growth of every swap
+    // before it.
+    std::vector<qsizetype> grownBefore(1, 0);
+    for (const Swap& swap : swaps)
+        grownBefore.push_back(grownBefore.back() + swap.with.size() - (swap.to - swap.from));
+    const auto moved = [&](qsizetype offset) {
+        const auto after = std::lower_bound(swaps.begin(), swaps.end(), offset,
+                                            [](const Swap& s, qsizetype o) { return s.from < o; });
+        return offset + grownBefore[std::size_t(after - swaps.begin())];
+    };
+    QByteArray out;
+    out.reserve(pdf.size() + grownBefore.back());
+    qsizetype copied = 0;
+    for (const Swap& swap : swaps) {
+        out.append(pdf.constData() + copied, swap.from - copied);
+        out.append(swap.with);
+        copied = swap.to;
+    }
+    out.append(pdf.constData() + copied, entries - copied);
+    for (int i = 0; i < count; ++i) {
+        const QByteArrayView entry(pdf.constData() + entries + qsizetype(i) * 20, 20);
+        if (entry[17] != 'n') {
+            out.append(entry);
+            continue;
+        }
+        const qsizetype offset = entry.first(10).toLongLong(&ok);
+        if (!ok)
+            return false;
+        out.append(QByteArray::number(moved(offset)).rightJustified(10, '0'));
+        out.append(entry.sliced(10));
+    }
+    const qsizetype tableEnd = entries + qsizetype(count) * 20;
+    out.append(pdf.constData() + tableEnd, startxref - tableEnd);
+    out.append("startxref\n" + QByteArray::number(moved(xref)) + " \n%%EOF\n");
+    pdf = std::move(out);
+    return true;
+}
+} // namespace
 
 // A PDF device in points: the layout measures fonts against it, so a page holds the same
 // lines whatever screen the program runs on.
@@ -77,11 +183,17 @@ public:
             found = m_sizes.emplace(key, m_qt->intrinsicSize(document, position, format)).first;
         return found->second;
     }
-    // Drawn as Qt's handler draws it, with the picture decoded ahead where it was.
+    // Drawn as Qt's handler draws it, with the picture decoded ahead where it was. A plain JPEG
+    // going into a PDF is drawn as a stand-in, swapped for the JPEG's own bytes once the PDF is
+    // whole: the PDF engine would otherwise decode it and code it again as another JPEG.
     void drawObject(QPainter* painter, const QRectF& rect, QTextDocument* document, int position,
                     const QTextFormat& format) override {
-        const QImage image = decoded(position);
-        if (image.isNull()) {
+        const Ready ready = decoded(position);
+        const QImage& image = ready.image;
+        if (ready.plainSize.isValid()) {
+            const QImage& standIn = standInFor(ready.bytes, ready.plainSize);
+            painter->drawImage(rect, standIn, standIn.rect());
+        } else if (image.isNull()) {
             m_qt->drawObject(painter, rect, document, position, format);
         } else if (QThread::currentThread() == qApp->thread()) {
             const QPixmap pixmap = QPixmap::fromImage(image);
@@ -92,13 +204,17 @@ public:
     }
 
     // Starts decoding the document's pictures given as bytes, in the order they are drawn, on
-    // another core: a page then finds its pictures ready. A few are held at a time.
-    void decodeAhead(QTextDocument& document) {
+    // another core: a page then finds its pictures ready. A few are held at a time. With
+    // `intoPdf`, a plain JPEG is only checked: its own bytes go into the PDF.
+    void decodeAhead(QTextDocument& document, bool intoPdf) {
         stopDecoding();
         m_plan.clear();
         m_ready.clear();
+        m_passed.clear();
+        m_standIns.clear();
         m_made = m_drawn = 0;
         m_stop = false;
+        m_intoPdf = intoPdf;
         for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
             for (auto it = block.begin(); !it.atEnd(); ++it) {
                 const QTextFragment fragment = it.fragment();
@@ -124,12 +240,45 @@ public:
             m_decoding.join();
     }
 
+    // Swaps every stand-in in `pdf` for its JPEG; false, with `pdf` as it was, when the PDF does
+    // not hold exactly one stand-in for each.
+    bool putJpegsIn(QByteArray& pdf) const {
+        std::vector<QSize> sizes;
+        std::vector<QByteArray> jpegs;
+        for (const Passed& passed : m_passed) {
+            sizes.push_back(passed.size);
+            jpegs.push_back(passed.bytes);
+        }
+        return swapStandIns(pdf, sizes, jpegs);
+    }
+
 private:
     static constexpr std::size_t kAhead = 32, kBehind = 4;
     struct Planned {
         int position;
         QByteArray bytes;
     };
+    struct Ready {
+        QImage image;
+        QByteArray bytes;
+        QSize plainSize; // valid for a JPEG that goes into the PDF as it is
+    };
+    struct Passed {
+        QImage standIn;
+        QByteArray bytes;
+        QSize size;
+    };
+
+    // One stand-in per distinct picture, so that the engine writes each picture once however
+    // often it is drawn; the engine tells images apart by their cache key.
+    const QImage& standInFor(const QByteArray& bytes, QSize size) {
+        auto found = m_standIns.find(bytes);
+        if (found == m_standIns.end()) {
+            m_passed.push_back({standInImage(), bytes, size});
+            found = m_standIns.insert(bytes, m_passed.size() - 1);
+        }
+        return m_passed[*found].standIn;
+    }
 
     void decodeAll() {
         for (std::size_t i = 0; i < m_plan.size(); ++i) {
@@ -139,19 +288,24 @@ private:
                 if (m_stop)
                     return;
             }
+            Ready ready;
+            ready.bytes = m_plan[i].bytes;
+            if (m_intoPdf)
+                ready.plainSize = ImageCoding::plainJpegSize(ready.bytes).value_or(QSize());
             // As Qt's handler reads the bytes: whatever format they are in.
-            QImage image = QImage::fromData(m_plan[i].bytes);
+            if (!ready.plainSize.isValid())
+                ready.image = QImage::fromData(ready.bytes);
             {
                 const std::lock_guard lock(m_mutex);
-                m_ready.emplace(i, std::move(image));
+                m_ready.emplace(i, std::move(ready));
                 m_made = i + 1;
             }
             m_changed.notify_all();
         }
     }
 
-    // The picture at `position`, decoded ahead, or a null one.
-    QImage decoded(int position) {
+    // The picture at `position`, decoded or checked ahead, or nothing.
+    Ready decoded(int position) {
         const auto at =
             std::lower_bound(m_plan.begin(), m_plan.end(), position,
                              [](const Planned& p, int pos) { return p.position < pos; });
@@ -163,11 +317,11 @@ private:
         m_changed.notify_all();
         m_changed.wait(lock, [&] { return m_made > index || m_stop; });
         const auto found = m_ready.find(index);
-        QImage image = found != m_ready.end() ? found->second : QImage();
+        Ready ready = found != m_ready.end() ? found->second : Ready();
         // A picture cut by a page's edge is drawn again at the top of the next page.
         while (!m_ready.empty() && m_ready.begin()->first + kBehind < index)
             m_ready.erase(m_ready.begin());
-        return image;
+        return ready;
     }
 
     using Key = std::tuple<qreal, qreal, const QPaintDevice*, bool>;
@@ -179,10 +333,14 @@ private:
     std::vector<Planned> m_plan; // by position
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::map<std::size_t, QImage> m_ready;
+    std::map<std::size_t, Ready> m_ready;
     std::size_t m_made = 0, m_drawn = 0;
     bool m_stop = false;
+    bool m_intoPdf = false;
     std::thread m_decoding;
+    // The JPEGs that go into the PDF as they are, in the order their stand-ins were first drawn.
+    std::vector<Passed> m_passed;
+    QHash<QByteArray, std::size_t> m_standIns;
 };
 
 namespace {
@@ -299,6 +457,10 @@ PageRenderer::PageRenderer(QTextDocument& document, const QRectF& paperRect,
     m_document.setPageSize(QSizeF(0, 0));
     m_document.setDocumentMargin(0);
     breakLongRuns(m_document, &m_layoutDevice->writer, m_printable.width());
+    // Each block keeps the glyphs it is laid out with, so that drawing it does not shape its
+    // text a second time.
+    for (QTextBlock block = m_document.begin(); block.isValid(); block = block.next())
+        block.layout()->setCacheEnabled(true);
     m_document.setPageSize(m_printable.size());
 }
 
@@ -330,9 +492,20 @@ void PageRenderer::drawPage(QPainter& painter, int index, const QRectF& bounds) 
 }
 
 QByteArray PageRenderer::pdf(const std::function<void(int, int)>& progress) const {
+    QByteArray bytes = drawPdf(true, progress);
+    // Never seen: a stand-in the PDF does not hold once, as drawn. The pictures are then drawn
+    // the engine's own way.
+    if (!m_pictures->putJpegsIn(bytes))
+        bytes = drawPdf(false, {});
+    writeExactPageBox(bytes, m_paper);
+    return bytes;
+}
+
+QByteArray PageRenderer::drawPdf(bool jpegsAsTheyAre,
+                                 const std::function<void(int, int)>& progress) const {
     PointDevice device(m_paper);
     const int pages = numberOfPages();
-    m_pictures->decodeAhead(m_document);
+    m_pictures->decodeAhead(m_document, jpegsAsTheyAre);
     const auto stop = qScopeGuard([this] { m_pictures->stopDecoding(); });
     QPainter painter(&device.writer);
     for (int page = 0; page < pages; ++page) {
@@ -343,9 +516,7 @@ QByteArray PageRenderer::pdf(const std::function<void(int, int)>& progress) cons
             progress(page + 1, pages);
     }
     painter.end();
-    QByteArray bytes = device.buffer.data();
-    writeExactPageBox(bytes, m_paper);
-    return bytes;
+    return device.buffer.data();
 }
 
 #include "PageRenderer.moc"

@@ -35,6 +35,9 @@ public:
     QRectF paperRect() const { return m_paper; }
 
 private:
+    // Every page drawn into a PDF; with `jpegsAsTheyAre`, plain JPEGs as stand-ins.
+    QByteArray drawPdf(bool jpegsAsTheyAre, const std::function<void(int, int)>& progress) const;
+
     struct PointDevice;
     class Pictures;
     std::unique_ptr<PointDevice> m_layoutDevice;

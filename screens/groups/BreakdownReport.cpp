@@ -48,10 +48,10 @@ void BreakdownTableViewController::ShareCoinButtonClicked() {
     ProgressView_->setProgress(0);
     ProgressView_->show();
     QPointer<BreakdownTableViewController> self(this);
-    // The worker draws a copy of its own, made here and given to it with no thread, so that
-    // nothing of it is ever touched from two threads.
-    QTextDocument* copy = CoinString->clone();
-    copy->moveToThread(nullptr);
+    // The worker is given the document itself, with no thread, and nothing here keeps it: nothing
+    // of it is ever touched from two threads, and it is not copied first.
+    QTextDocument* given = CoinString.release();
+    given->moveToThread(nullptr);
     auto* watcher = new QFutureWatcher<QByteArray>(this);
     connect(watcher, &QFutureWatcher<QByteArray>::finished, this, [this, watcher] {
         watcher->deleteLater();
@@ -61,9 +61,9 @@ void BreakdownTableViewController::ShareCoinButtonClicked() {
         writePdf(watcher->result());
         shareReport();
     });
-    watcher->setFuture(QtConcurrent::run([copy, self] {
-        copy->moveToThread(QThread::currentThread());
-        const std::unique_ptr<QTextDocument> document(copy);
+    watcher->setFuture(QtConcurrent::run([given, self] {
+        given->moveToThread(QThread::currentThread());
+        const std::unique_ptr<QTextDocument> document(given);
         return CoinDocument::pdf(*document, [self](int done, int all) {
             QMetaObject::invokeMethod(
                 qApp,

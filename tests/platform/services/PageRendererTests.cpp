@@ -2,7 +2,9 @@
 #include "TestSupport.h"
 #include "platform/graphics/PageRenderer.h"
 
+#include <QBuffer>
 #include <QImage>
+#include <QImageWriter>
 #include <QPainter>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -75,4 +77,79 @@ TEST(PageRenderer, PrintableRectangleIsTheMarginAndPagesScaleToTheirBounds) {
     EXPECT_GE(ink.left(), 35);
     EXPECT_GE(ink.top(), 35);
     EXPECT_LT(ink.top(), 60);
+}
+
+namespace {
+QByteArray picture(const QColor& colour, const char* format, bool progressive = false) {
+    QImage image(100, 100, QImage::Format_RGB32);
+    image.fill(colour);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, format);
+    writer.setProgressiveScanWrite(progressive);
+    writer.write(image);
+    return bytes;
+}
+
+// The pixels of `image` near `colour`.
+int inkOf(const QImage& image, const QColor& colour) {
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor c = image.pixelColor(x, y);
+            count += std::abs(c.red() - colour.red()) + std::abs(c.green() - colour.green()) +
+                         std::abs(c.blue() - colour.blue()) <
+                     40;
+        }
+    return count;
+}
+} // namespace
+
+// A plain JPEG goes into the PDF as its own bytes, once however often it is drawn; other
+// pictures as the engine writes them; and every object is where the cross-reference table
+// says, after the swap made them longer.
+TEST(PageRenderer, PlainJpegsGoIntoThePdfAsTheyAre) {
+    const QByteArray red = picture(Qt::red, "jpeg");
+    const QByteArray blue = picture(Qt::blue, "jpeg", true); // progressive: not plain
+    const QByteArray green = picture(Qt::green, "png");
+    QTextDocument document;
+    QTextCursor cursor(&document);
+    const QByteArray* pictures[] = {&red, &blue, &green};
+    for (int i = 0; i < 3; ++i)
+        document.addResource(QTextDocument::ImageResource, QUrl(QString::number(i)), *pictures[i]);
+    for (int line = 0; line < 150; ++line) {
+        cursor.insertText(QStringLiteral("Line %1\n").arg(line));
+        if (line % 25 == 0)
+            for (const int i : {0, line / 25 % 3}) {
+                QTextImageFormat image;
+                image.setName(QString::number(i));
+                image.setWidth(100);
+                image.setHeight(100);
+                cursor.insertImage(image);
+            }
+        if (line % 25 == 0)
+            cursor.insertText(QStringLiteral("\n"));
+    }
+    PageRenderer renderer(document, PageRenderer::a4(), PageRenderer::a4());
+    ASSERT_GT(renderer.numberOfPages(), 2);
+    const QByteArray bytes = renderer.pdf();
+    EXPECT_EQ(bytes.count(red), 1);
+    EXPECT_EQ(bytes.count(blue), 0);
+    EXPECT_TRUE(PdfPages::crossReferencesHold(bytes));
+
+    PdfPages pdf(bytes);
+    ASSERT_EQ(pdf.count(), renderer.numberOfPages());
+    EXPECT_TRUE(PdfPages::inOrder(pdf.all(), {"Line 0 ", "Line 75 ", "Line 149"}));
+    int reds = 0, blues = 0, greens = 0;
+    for (int page = 0; page < pdf.count(); ++page) {
+        // One pixel a point: each picture is 75 x 75 (100 pixels of 1/96 inch).
+        const QImage image = pdf.pdf->render(page, QSize(595, 842));
+        reds += inkOf(image, Qt::red);
+        blues += inkOf(image, Qt::blue);
+        greens += inkOf(image, Qt::green);
+    }
+    EXPECT_NEAR(reds, 8 * 75 * 75, 8 * 2 * 76); // twice on the first line
+    EXPECT_NEAR(blues, 2 * 75 * 75, 2 * 2 * 76);
+    EXPECT_NEAR(greens, 2 * 75 * 75, 2 * 2 * 76);
 }

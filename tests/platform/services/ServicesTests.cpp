@@ -213,13 +213,54 @@ TEST(ImageCoding, TheQuickCheckAgreesWithTheDecoder) {
         changed[at] = char(changed[at] ^ 0x5A);
         inputs << changed;
     }
-    int readable = 0;
+    int readable = 0, plain = 0;
     for (const QByteArray& bytes : inputs) {
         readable += ImageCoding::readable(bytes);
+        // What goes into a PDF as it is decodes, at the size it says.
+        if (const std::optional<QSize> size = ImageCoding::plainJpegSize(bytes)) {
+            ++plain;
+            EXPECT_EQ(ImageCoding::decode(bytes).size(), *size);
+        }
         EXPECT_EQ(ImageCoding::readable(bytes), !ImageCoding::decode(bytes).isNull())
             << bytes.size() << " bytes: " << bytes.left(16).toHex().toStdString();
     }
     // Both answers were given many times.
     EXPECT_GT(readable, 20);
     EXPECT_GT(inputs.size() - readable, 20);
+    EXPECT_GT(plain, 0);
+    EXPECT_LT(plain, readable); // a cut picture still decodes, with a warning: not plain
+}
+
+// Only a JPEG that any PDF reader draws from its own bytes as the decoder draws it is plain.
+TEST(ImageCoding, PlainJpegsAreTheOnesAPdfTakesAsTheyAre) {
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(Qt::darkCyan);
+    const auto written = [](const QImage& picture, const char* format, bool progressive) {
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        QImageWriter writer(&buffer, format);
+        writer.setProgressiveScanWrite(progressive);
+        writer.write(picture);
+        return bytes;
+    };
+    EXPECT_EQ(ImageCoding::plainJpegSize(written(image, "jpeg", false)), QSize(40, 30));
+    EXPECT_EQ(ImageCoding::plainJpegSize(ImageCoding::coinPictureData(image)), QSize(100, 100));
+    // A block right after the start: a colour profile, or Exif that may turn the picture.
+    const auto withBlock = [&](char marker, const QByteArray& body) {
+        const int length = int(body.size()) + 2;
+        return written(image, "jpeg", false)
+            .insert(2,
+                    QByteArray("\xFF") + marker + char(length >> 8) + char(length & 0xFF) + body);
+    };
+    const QByteArray profiled = withBlock('\xE2', QByteArray("ICC_PROFILE\0\x01\x01", 14) +
+                                                      QColorSpace(QColorSpace::SRgb).iccProfile());
+    EXPECT_FALSE(ImageCoding::plainJpegSize(profiled));
+    EXPECT_EQ(ImageCoding::decodedSize(profiled), QSize(40, 30)); // still measured
+    EXPECT_FALSE(ImageCoding::plainJpegSize(withBlock('\xE1', QByteArray("Exif\0\0", 6))));
+    EXPECT_FALSE(ImageCoding::plainJpegSize(written(image, "jpeg", true)));
+    EXPECT_FALSE(ImageCoding::plainJpegSize(
+        written(image.convertToFormat(QImage::Format_Grayscale8), "jpeg", false)));
+    EXPECT_FALSE(ImageCoding::plainJpegSize(written(image, "png", false)));
+    EXPECT_FALSE(ImageCoding::plainJpegSize(jpegClaiming(60000, 60000)));
 }

@@ -9,6 +9,7 @@
 #include "screens/ProcessState.h"
 #include "screens/groups/PrintCoinsViewController.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -201,6 +202,38 @@ TEST_F(ReportTest, WithoutTextMessagesOnlyTheAlertComes) {
     EXPECT_FALSE(QFile::exists(documents() + "CoinListByDenomination.pdf"));
 }
 
+// The report carries each coin's picture as it is stored, once however many coins show it,
+// at a sixth of the screen's width; a picture stored in another format is drawn as well.
+TEST_F(ReportTest, TheReportCarriesTheStoredPicturesThemselves) {
+    QImage green(30, 30, QImage::Format_RGB32);
+    green.fill(Qt::green);
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(green.save(&buffer, "PNG"));
+    addCoin("Nickel", 1950, 1, 0.05f, "USA", "D")->setFrontImage(png);
+    ASSERT_TRUE(ctx().save().ok());
+    BreakdownTableViewController* b = openBreakdown(1, "USA");
+    barButton(b, "ShareButton")->click();
+    const QByteArray bytes = readFile(documents() + "CoinListByCountry.pdf");
+    EXPECT_EQ(bytes.count(coinPicture(Qt::red)), 1); // the dime's and the quarter's front
+    EXPECT_EQ(bytes.count(coinPicture(Qt::blue)), 1);
+    EXPECT_TRUE(PdfPages::crossReferencesHold(bytes));
+    PdfPages pdf(bytes);
+    ASSERT_EQ(pdf.count(), 2);
+    EXPECT_NEAR(redWidth(pdf.pdf->render(0, (pdf.size(0) * 2).toSize())) / 2.0, b->width() / 6.0,
+                2);
+    int greens = 0;
+    for (int at = 0; at < pdf.count(); ++at) {
+        const QImage page = pdf.pdf->render(at, pdf.size(at).toSize());
+        for (int y = 0; y < page.height(); ++y)
+            for (int x = 0; x < page.width(); ++x)
+                if (const QColor c = page.pixelColor(x, y); c.green() > 200 && c.red() < 60)
+                    ++greens;
+    }
+    EXPECT_GT(greens, 100);
+}
+
 TEST_F(ReportTest, ALongReportShowsItsProgressAndGivesTheSameFile) {
     for (int i = 0; i < BreakdownTableViewController::ReportInBackgroundFrom; ++i)
         addCoin("Dime", 1700 + i, 1, 0.1f, "USA", "P")->setFrontImage(coinPicture(Qt::green));
@@ -214,6 +247,9 @@ TEST_F(ReportTest, ALongReportShowsItsProgressAndGivesTheSameFile) {
     EXPECT_FALSE(b->ProgressView_->isVisible());
     EXPECT_FLOAT_EQ(b->ProgressView_->progress(), 1.0f);
     PdfPages drawnAside(documents() + "CoinListByDenomination.pdf");
+    const QByteArray aside = readFile(documents() + "CoinListByDenomination.pdf");
+    EXPECT_EQ(aside.count(coinPicture(Qt::green)), 1);
+    EXPECT_TRUE(PdfPages::crossReferencesHold(aside));
 
     auto document =
         CoinDocument::report("Coins Filtered by Denomination: Dime", b->CoinList, b->width() / 6.0);
