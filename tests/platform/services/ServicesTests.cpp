@@ -258,6 +258,11 @@ TEST(ImageCoding, PlainJpegsAreTheOnesAPdfTakesAsTheyAre) {
     EXPECT_FALSE(ImageCoding::plainJpegSize(profiled));
     EXPECT_EQ(ImageCoding::decodedSize(profiled), QSize(40, 30)); // still measured
     EXPECT_FALSE(ImageCoding::plainJpegSize(withBlock('\xE1', QByteArray("Exif\0\0", 6))));
+    // Exif that turns the picture a quarter: measured as the decoder gives it.
+    const QByteArray turned = withBlock(
+        '\xE1',
+        QByteArray("Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0\x06\0\0\0\0\0\0\0", 32));
+    EXPECT_EQ(ImageCoding::decodedSize(turned), ImageCoding::decode(turned).size());
     EXPECT_FALSE(ImageCoding::plainJpegSize(written(image, "jpeg", true)));
     EXPECT_FALSE(ImageCoding::plainJpegSize(
         written(image.convertToFormat(QImage::Format_Grayscale8), "jpeg", false)));
