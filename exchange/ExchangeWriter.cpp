@@ -211,10 +211,13 @@ Result<QByteArray> exchangeText(const QList<CoinPtr>& coins, const Progress& pro
         context->takeReadError(); // an older one is not ours
     std::optional<Error> readFailure;
     PictureCoder coder(coins.size() * 2, [&](qsizetype index) {
-        const Coins& coin = *coins[index / 2];
+        Coins& coin = *coins[index / 2];
         QByteArray picture = index % 2 ? coin.backImage() : coin.frontImage();
         if (context && !readFailure)
             readFailure = context->takeReadError();
+        // The coder holds the bytes until they are written; the coins need not as well.
+        if (index % 2)
+            coin.releaseData();
         return picture;
     });
 

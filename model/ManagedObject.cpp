@@ -149,6 +149,18 @@ void ManagedObject::dropUtf8Text(std::size_t slot) {
     std::erase_if(utf8Texts_, [slot](const auto& entry) { return entry.first == slot; });
 }
 
+void ManagedObject::releaseData() {
+    if (!entity_->hasData() || rowId_ == 0 || state_ == State::Inserted || isDeleted())
+        return;
+    for (std::size_t i = 0; i < entity_->attributes.size(); ++i) {
+        const quint32 bit = 1u << i;
+        if (entity_->attributes[i].type != AttributeType::Data || (dirty_ & bit))
+            continue;
+        data_[std::size_t(entity_->attributes[i].slot)] = QByteArray();
+        dataLoaded_ &= ~bit;
+    }
+}
+
 void ManagedObject::loadDataIfNeeded() const {
     if (!entity_->hasData() || rowId_ == 0 || !context_)
         return;

@@ -41,6 +41,11 @@ public:
     // The bytes a text was given as by setText(), or nullptr.
     const QByteArray* textBytes(int attribute) const;
 
+    // Lets go of the pictures read from the store, which are read again when next asked; one
+    // changed and not saved yet is kept. A pass over many records' pictures then holds a few
+    // at a time.
+    void releaseData();
+
     bool isInserted() const { return state_ == State::Inserted; }
     bool isUpdated() const { return state_ == State::Updated; }
     bool isDeleted() const { return state_ == State::Deleted || state_ == State::Gone; }

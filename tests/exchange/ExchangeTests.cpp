@@ -108,6 +108,27 @@ TEST_F(StoreTest, TheWriterOnEveryCoreWritesWhatOneThreadWrites) {
     }
 }
 
+// The export lets go of the pictures it has read from the store, not of one changed and not
+// saved yet: that one is exported, kept and saved later.
+TEST_F(StoreTest, TheExportKeepsAPictureNotSavedYet) {
+    auto peru = coin("Peru", "1 Sol", 1990);
+    peru->setFrontImage(picture(10));
+    auto chile = coin("Chile", "1 Peso", 1990);
+    chile->setFrontImage(picture(20));
+    ASSERT_TRUE(ctx().save().ok());
+    peru->setFrontImage(picture(30));
+    const QByteArray text = exchangeText(ctx()).value();
+    EXPECT_TRUE(text.contains(ImageCoding::reencodeJpeg(picture(30), 0.6).toBase64()));
+    EXPECT_TRUE(text.contains(ImageCoding::reencodeJpeg(picture(20), 0.6).toBase64()));
+    EXPECT_EQ(peru->frontImage(), picture(30));
+    EXPECT_EQ(chile->frontImage(), picture(20)); // read again from the store
+    ASSERT_TRUE(ctx().save().ok());
+    OtherConnection disk(path("Pelvane.sqlite"));
+    EXPECT_EQ(disk.number("SELECT length(frontImage) FROM Coins_pictures WHERE pk = " +
+                          QByteArray::number(peru->objectID())),
+              picture(30).size());
+}
+
 TEST_F(StoreTest, ReaderMergesByTheFourKeys) {
     const QString file = "some header\n\n\n\n\n\n\n\n\n[PELVANE]\r\n"
                          "Canada^1 Cent^^^19.05^^^^P^a~b^^2^^^1.5^1.0^0.5^2.5e-3^1965^^7\r\n"
