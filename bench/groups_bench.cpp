@@ -138,11 +138,7 @@ void breakdownFigures(const QString& dir, int tab, const char* what, const QStri
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The offscreen platform's notes about the row cells it never shows would bury the figures.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& message) {
-        if (!message.contains(QLatin1String("propagateSizeHints")))
-            std::fprintf(stderr, "%s\n", qPrintable(message));
-    });
+    hideOffscreenNotes();
     QApplication app(argc, argv);
     QTemporaryDir bench, manyValues, oneGroup;
     build(bench.path(), 32000);

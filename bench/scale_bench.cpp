@@ -150,10 +150,7 @@ Figures measure(int n) {
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& message) {
-        if (!message.contains(QLatin1String("propagateSizeHints")))
-            std::fprintf(stderr, "%s\n", qPrintable(message));
-    });
+    hideOffscreenNotes();
     QApplication app(argc, argv);
     Fakes::install();
     AppStoryboard::install();
