@@ -1,6 +1,7 @@
 #pragma once
 // Every test gets a fresh temporary folder with fresh preferences in it, and captured console
 // lines. Tests of the store and screens derive from their own fixtures built on this one.
+#include <QImage>
 #include <QTemporaryDir>
 #include <functional>
 #include <gtest/gtest.h>
@@ -66,3 +67,6 @@ void damagePage(const QString& storeFile, const char* table);
 
 // A JPEG of a few bytes whose header claims width x height pixels.
 QByteArray jpegClaiming(int width, int height);
+
+// `image` written by the image plugin in `format`, progressively where asked.
+QByteArray encodedImage(const QImage& image, const char* format, bool progressive = false);

@@ -2,9 +2,7 @@
 #include "TestSupport.h"
 #include "platform/graphics/PageRenderer.h"
 
-#include <QBuffer>
 #include <QImage>
-#include <QImageWriter>
 #include <QPainter>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -83,13 +81,7 @@ namespace {
 QByteArray picture(const QColor& colour, const char* format, bool progressive = false) {
     QImage image(100, 100, QImage::Format_RGB32);
     image.fill(colour);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, format);
-    writer.setProgressiveScanWrite(progressive);
-    writer.write(image);
-    return bytes;
+    return encodedImage(image, format, progressive);
 }
 
 // The pixels of `image` near `colour`.

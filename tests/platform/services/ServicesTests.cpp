@@ -235,21 +235,12 @@ TEST(ImageCoding, TheQuickCheckAgreesWithTheDecoder) {
 TEST(ImageCoding, PlainJpegsAreTheOnesAPdfTakesAsTheyAre) {
     QImage image(40, 30, QImage::Format_RGB32);
     image.fill(Qt::darkCyan);
-    const auto written = [](const QImage& picture, const char* format, bool progressive) {
-        QByteArray bytes;
-        QBuffer buffer(&bytes);
-        buffer.open(QIODevice::WriteOnly);
-        QImageWriter writer(&buffer, format);
-        writer.setProgressiveScanWrite(progressive);
-        writer.write(picture);
-        return bytes;
-    };
-    EXPECT_EQ(ImageCoding::plainJpegSize(written(image, "jpeg", false)), QSize(40, 30));
+    EXPECT_EQ(ImageCoding::plainJpegSize(encodedImage(image, "jpeg", false)), QSize(40, 30));
     EXPECT_EQ(ImageCoding::plainJpegSize(ImageCoding::coinPictureData(image)), QSize(100, 100));
     // A block right after the start: a colour profile, or Exif that may turn the picture.
     const auto withBlock = [&](char marker, const QByteArray& body) {
         const int length = int(body.size()) + 2;
-        return written(image, "jpeg", false)
+        return encodedImage(image, "jpeg", false)
             .insert(2,
                     QByteArray("\xFF") + marker + char(length >> 8) + char(length & 0xFF) + body);
     };
@@ -263,9 +254,9 @@ TEST(ImageCoding, PlainJpegsAreTheOnesAPdfTakesAsTheyAre) {
         '\xE1',
         QByteArray("Exif\0\0II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0\x06\0\0\0\0\0\0\0", 32));
     EXPECT_EQ(ImageCoding::decodedSize(turned), ImageCoding::decode(turned).size());
-    EXPECT_FALSE(ImageCoding::plainJpegSize(written(image, "jpeg", true)));
+    EXPECT_FALSE(ImageCoding::plainJpegSize(encodedImage(image, "jpeg", true)));
     EXPECT_FALSE(ImageCoding::plainJpegSize(
-        written(image.convertToFormat(QImage::Format_Grayscale8), "jpeg", false)));
-    EXPECT_FALSE(ImageCoding::plainJpegSize(written(image, "png", false)));
+        encodedImage(image.convertToFormat(QImage::Format_Grayscale8), "jpeg", false)));
+    EXPECT_FALSE(ImageCoding::plainJpegSize(encodedImage(image, "png", false)));
     EXPECT_FALSE(ImageCoding::plainJpegSize(jpegClaiming(60000, 60000)));
 }

@@ -9,7 +9,6 @@
 #include "screens/ProcessState.h"
 #include "screens/groups/PrintCoinsViewController.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -207,11 +206,7 @@ TEST_F(ReportTest, WithoutTextMessagesOnlyTheAlertComes) {
 TEST_F(ReportTest, TheReportCarriesTheStoredPicturesThemselves) {
     QImage green(30, 30, QImage::Format_RGB32);
     green.fill(Qt::green);
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    ASSERT_TRUE(green.save(&buffer, "PNG"));
-    addCoin("Nickel", 1950, 1, 0.05f, "USA", "D")->setFrontImage(png);
+    addCoin("Nickel", 1950, 1, 0.05f, "USA", "D")->setFrontImage(encodedImage(green, "png"));
     ASSERT_TRUE(ctx().save().ok());
     BreakdownTableViewController* b = openBreakdown(1, "USA");
     barButton(b, "ShareButton")->click();
