@@ -4,6 +4,7 @@
 #include "model/PersistentContainer.h"
 #include "model/Restore.h"
 #include "model/Snapshots.h"
+#include "model/StoreLock.h"
 #include "platform/core/Console.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/NavigationController.h"
@@ -57,6 +58,14 @@ int backup(const QString& file) {
 }
 
 int restore(const QString& file) {
+    // Nothing else writes from the first check to the last rename.
+    const Result<StoreLock> writing = StoreLock::acquire(
+        storePath(), StoreLock::Writing, QStringLiteral("pelvane --restore %1").arg(file));
+    if (!writing.ok()) {
+        say(QStringLiteral("The restore of %1 from %2 failed: %3")
+                .arg(storePath(), file, writing.error().message));
+        return 1;
+    }
     const Result<Backup::Restored> restored =
         Backup::restore(storePath(), file, &PersistentContainer::upgradeCopy);
     if (!restored.ok()) {
@@ -65,6 +74,11 @@ int restore(const QString& file) {
         return 1;
     }
     const Backup::Restored& r = restored.value();
+    if (r.damaged) {
+        std::printf("Restored %s from %s; the damaged collection was moved to %s\n",
+                    qPrintable(coins(r.coinsAfter)), qPrintable(file), qPrintable(r.snapshot));
+        return 0;
+    }
     std::printf("Restored %s from %s; the collection held %s%s\n", qPrintable(coins(r.coinsAfter)),
                 qPrintable(file), qPrintable(coins(r.coinsBefore)),
                 r.snapshot.isEmpty() ? "" : qPrintable(QStringLiteral(", kept in ") + r.snapshot));

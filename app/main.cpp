@@ -1,16 +1,20 @@
+#include "app/AlreadyOpen.h"
 #include "app/AppDelegate.h"
 #include "app/AppMenuBar.h"
 #include "app/AppStoryboard.h"
 #include "app/LaunchOptions.h"
 #include "app/StoreCommands.h"
 #include "exchange/ExchangeCommands.h"
+#include "model/StoreLock.h"
 #include "platform/core/Files.h"
+#include "platform/core/ProtectedFiles.h"
 #include "platform/core/UserDefaults.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/FatalMessage.h"
 #include "platform/kit/Window.h"
 #include "reports/ReportCommand.h"
 #include "reports/Statistics.h"
+#include "screens/exchange/DamagedStoreBanner.h"
 #include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>
@@ -20,6 +24,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <optional>
 
 namespace {
 // The settings and data folders follow the program's name, unless a data folder is given.
@@ -28,6 +33,18 @@ void prepare(const LaunchOptions& options) {
     QCoreApplication::setOrganizationName(QStringLiteral("Pelvane"));
     if (!options.dataDir.isEmpty())
         useDataDirectory(options.dataDir);
+    // No file the program writes may land on the collection's own.
+    Files::protectStore(StoreCommands::storePath());
+}
+
+// The store's lock for a command's run, or the line that says who holds it.
+std::optional<StoreLock> lockFor(StoreLock::Level level, const QString& holder) {
+    Result<StoreLock> lock = StoreLock::acquire(StoreCommands::storePath(), level, holder);
+    if (lock.ok())
+        return std::move(lock.value());
+    std::fprintf(stderr, "Cannot open the collection %s: %s\n",
+                 qPrintable(StoreCommands::storePath()), qPrintable(lock.error().message));
+    return std::nullopt;
 }
 
 // Export, import and the totals run without a window, so that scripts and backups work with no
@@ -35,6 +52,14 @@ void prepare(const LaunchOptions& options) {
 int runWithoutWindow(int argc, char** argv, const LaunchOptions& options) {
     QCoreApplication app(argc, argv);
     prepare(options);
+    // An import writes as a whole piece of work: one at a time, and never with the window.
+    const std::optional<StoreLock> lock =
+        options.importFile.isEmpty()
+            ? lockFor(StoreLock::Reading, QStringLiteral("pelvane"))
+            : lockFor(StoreLock::Writing,
+                      QStringLiteral("pelvane --import %1").arg(options.importFile));
+    if (!lock)
+        return 1;
     AppDelegate delegate;
     delegate.didFinishLaunching();
     PersistentContainer& store = delegate.persistentContainer();
@@ -77,6 +102,9 @@ int runReport(int argc, char** argv, const LaunchOptions& options) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
     prepare(options);
+    const std::optional<StoreLock> lock = lockFor(StoreLock::Reading, QStringLiteral("pelvane"));
+    if (!lock)
+        return 1;
     AppDelegate delegate;
     delegate.didFinishLaunching();
     return ReportCommand::run(*delegate.persistentContainer().viewContext(),
@@ -123,6 +151,15 @@ int main(int argc, char** argv) {
     QGuiApplication::setDesktopFileName(QStringLiteral("org.pelvane.Pelvane"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/pelvane.svg")));
     prepare(options);
+    // One window on a collection: a second one says where the first is, and goes.
+    Result<StoreLock> windowLock = StoreLock::acquire(
+        StoreCommands::storePath(), StoreLock::Writing, QStringLiteral("Pelvane's window"), 1500);
+    if (!windowLock.ok()) {
+        if (QMessageBox* box =
+                AlreadyOpen::show(StoreCommands::storePath(), windowLock.error().message))
+            QObject::connect(box, &QMessageBox::finished, &app, [] { QCoreApplication::exit(1); });
+        return QApplication::exec();
+    }
     const bool snapshotDue = StoreCommands::snapshotDue();
     AppDelegate delegate;
     delegate.didFinishLaunching();
@@ -135,6 +172,7 @@ int main(int argc, char** argv) {
     AppMenuBar::install(window, menu);
     window.rememberGeometry(QStringLiteral("WindowGeometry"));
     window.show();
+    DamagedStoreBanner::checkSoon(&window, StoreCommands::storePath());
     if (snapshotDue)
         StoreCommands::takeSnapshotSoon(&window);
     if (options.openMenu)

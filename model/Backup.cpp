@@ -1,7 +1,10 @@
 #include "model/Backup.h"
 
+#include "model/Seal.h"
 #include "model/StoreFiles.h"
+#include "model/StoreLock.h"
 #include "model/StoreSchema.h"
+#include "platform/core/Files.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,29 +16,27 @@ using namespace StoreFiles;
 
 namespace Backup {
 
-Result<qint64> write(const QString& storePath, const QString& target, const Progress& progress) {
-    const QFileInfo targetInfo(target);
-    if (targetInfo.exists() && !targetInfo.isFile())
-        return failure(SQLITE_CANTOPEN,
-                       QStringLiteral("Cannot write %1: it is not a regular file").arg(target));
+namespace {
+Result<qint64> copyOf(const QString& storePath, const QString& target, const Progress& progress,
+                      bool overExisting) {
     if (!QFileInfo(storePath).isFile())
         return failure(SQLITE_CANTOPEN,
                        QStringLiteral("There is no collection at %1").arg(storePath));
-    for (const QString& part : {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")})
-        if (sameFile(target, storePath + part))
-            return failure(
-                SQLITE_CANTOPEN,
-                QStringLiteral("Cannot write %1: it is the collection itself").arg(target));
-    if (!targetInfo.absoluteDir().exists())
+    if (!QFileInfo(target).absoluteDir().exists())
         return failure(SQLITE_CANTOPEN,
                        QStringLiteral("Cannot write %1: the folder does not exist").arg(target));
+    // The store's file stays the one this reads from: no restore swaps it meanwhile.
+    const Result<StoreLock> lock =
+        StoreLock::acquire(storePath, StoreLock::Reading, QStringLiteral("a backup"));
+    if (!lock.ok())
+        return lock.error();
+    sweepParts(QFileInfo(target).absolutePath());
     const QString temporary = temporaryBeside(target);
     if (temporary.isEmpty())
         return failure(SQLITE_CANTOPEN,
                        QStringLiteral("Cannot write %1: the folder cannot be written").arg(target));
     auto fail = [&](const Error& e) {
-        for (const char* part : {"", "-journal", "-wal", "-shm"})
-            QFile::remove(temporary + QLatin1String(part));
+        removeWithCompanions(temporary);
         return e;
     };
     if (const auto error = copyStore(storePath, temporary, progress); !error.ok())
@@ -44,9 +45,13 @@ Result<qint64> write(const QString& storePath, const QString& target, const Prog
                     QStringLiteral("Cannot copy the collection: %1").arg(error.error().message)));
     qint64 coins = 0;
     {
-        Connection copy(temporary, Connection::Inspect);
+        Connection copy(temporary, Connection::Create);
         if (!copy.ok())
             return fail(copy.error());
+        if (const Result<void> sealed = Seal::seal(copy.handle()); !sealed.ok())
+            return fail(
+                failure(sealed.error().code,
+                        QStringLiteral("Cannot write %1: %2").arg(target, sealed.error().message)));
         if (auto problem = integrityProblem(copy))
             return fail(
                 failure(SQLITE_CORRUPT,
@@ -56,29 +61,28 @@ Result<qint64> write(const QString& storePath, const QString& target, const Prog
             return fail(counted.error());
         coins = counted.value();
     }
-    if (const auto error = replace(temporary, target); !error.ok())
+    if (const auto error = overExisting ? replace(temporary, target) : placeNew(temporary, target);
+        !error.ok())
         return fail(error.error());
     return coins;
 }
+} // namespace
 
-Result<StoreInfo> inspect(const QString& path) {
-    const QFileInfo info(path);
+Result<qint64> write(const QString& storePath, const QString& target, const Progress& progress) {
+    if (const Result<void> allowed = Files::isWritableTarget(target); !allowed.ok())
+        return failure(SQLITE_CANTOPEN,
+                       QStringLiteral("Cannot write %1: %2").arg(target, allowed.error().message));
+    return copyOf(storePath, target, progress, true);
+}
+
+Result<qint64> writeNew(const QString& storePath, const QString& target) {
+    return copyOf(storePath, target, {}, false);
+}
+
+Result<StoreInfo> checkOpen(const Connection& db, const QString& path) {
     auto refuse = [&](const QString& why) {
         return failure(SQLITE_NOTADB, QStringLiteral("%1 %2").arg(path, why));
     };
-    if (!info.exists())
-        return refuse(QStringLiteral("does not exist"));
-    if (!info.isFile())
-        return refuse(QStringLiteral("is not a regular file"));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return refuse(QStringLiteral("cannot be read: %1").arg(file.errorString()));
-    if (file.read(16) != QByteArray("SQLite format 3\0", 16))
-        return refuse(QStringLiteral("is not a Pelvane backup: it is no SQLite database"));
-    file.close();
-    Connection db(path, Connection::Inspect);
-    if (!db.ok())
-        return refuse(QStringLiteral("cannot be opened: %1").arg(db.error().message));
     const std::optional<QString> id = db.text("PRAGMA application_id");
     const std::optional<QString> version = db.text("PRAGMA user_version");
     if (!id || !version)
@@ -87,7 +91,8 @@ Result<StoreInfo> inspect(const QString& path) {
     out.schemaVersion = version->toInt();
     // Stores written before the id was set are told by their tables alone.
     const bool before = id->toInt() == 0 && out.schemaVersion >= 1 && out.schemaVersion <= 2;
-    if (id->toInt() != StoreSchema::ApplicationId && !before)
+    if (id->toInt() != StoreSchema::ApplicationId && id->toInt() != Seal::SealedApplicationId &&
+        !before)
         return refuse(QStringLiteral("is not a Pelvane backup: it is the database of another "
                                      "program"));
     if (out.schemaVersion > StoreSchema::Version)
@@ -104,11 +109,57 @@ Result<StoreInfo> inspect(const QString& path) {
                              : QStringLiteral("is not a whole Pelvane backup: %1").arg(missing));
     if (auto problem = integrityProblem(db))
         return refuse(QStringLiteral("is damaged: %1").arg(*problem));
+    const Result<Seal::Verdict> verdict = Seal::verify(db.handle());
+    if (!verdict.ok())
+        return refuse(QStringLiteral("is damaged: %1").arg(verdict.error().message));
+    out.sealed = verdict.value() == Seal::Verdict::Whole;
     const Result<qint64> coins = countCoins(db);
     if (!coins.ok())
         return refuse(QStringLiteral("cannot be read: %1").arg(coins.error().message));
     out.coins = coins.value();
     return out;
+}
+
+Result<void> looksLikeStore(const QString& path) {
+    const QFileInfo info(path);
+    auto refuse = [&](const QString& why) {
+        return failure(SQLITE_NOTADB, QStringLiteral("%1 %2").arg(path, why));
+    };
+    if (!info.exists())
+        return refuse(QStringLiteral("does not exist"));
+    if (!info.isFile())
+        return refuse(QStringLiteral("is not a regular file"));
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return refuse(QStringLiteral("cannot be read: %1").arg(file.errorString()));
+    if (file.read(16) != QByteArray("SQLite format 3\0", 16))
+        return refuse(QStringLiteral("is not a Pelvane backup: it is no SQLite database"));
+    return {};
+}
+
+Result<StoreInfo> inspect(const QString& path) {
+    if (const Result<void> looks = looksLikeStore(path); !looks.ok())
+        return looks.error();
+    Connection db(path, Connection::Inspect);
+    if (!db.ok())
+        return failure(SQLITE_NOTADB,
+                       QStringLiteral("%1 cannot be opened: %2").arg(path, db.error().message));
+    return checkOpen(db, path);
+}
+
+std::optional<QString> damageOf(const QString& storePath) {
+    if (!QFileInfo::exists(storePath))
+        return {};
+    Connection db(storePath, Connection::Inspect);
+    if (!db.ok())
+        return db.error().message;
+    db.exec("PRAGMA mmap_size=1073741824");
+    const std::optional<QString> verdict = db.text("PRAGMA quick_check(1)");
+    if (!verdict)
+        return db.error().message;
+    if (*verdict != QLatin1String("ok"))
+        return *verdict;
+    return {};
 }
 
 Result<qint64> coinCount(const QString& storePath) {

@@ -4,7 +4,9 @@
 #include "model/CoinAttributes.h"
 #include "model/Snapshots.h"
 #include "model/Sqlite.h"
+#include "model/StoreFiles.h"
 #include "model/ValueHistory.h"
+#include "platform/core/ProtectedFiles.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -129,7 +131,22 @@ QString PersistentContainer::storePath() const {
 
 void PersistentContainer::loadPersistentStores(const Completion& completion) {
     StoreDescription description{storePath()};
-    const Result<void> opened = open(description.path, true);
+    Files::protectStore(description.path);
+    Result<void> opened;
+    if (!lock_.held()) {
+        Result<StoreLock> lock =
+            StoreLock::acquire(description.path, StoreLock::Reading, QStringLiteral("Pelvane"));
+        if (lock.ok())
+            lock_ = std::move(lock.value());
+        else
+            opened = lock.error();
+    }
+    if (opened.ok()) {
+        // What killed backups and restores left half-written beside the store goes first.
+        StoreFiles::sweepParts(QFileInfo(Files::resolved(description.path)).absolutePath());
+        StoreFiles::sweepParts(Snapshots::folder(description.path));
+        opened = open(description.path, true);
+    }
     if (completion)
         completion(description, opened.ok() ? std::nullopt : std::optional<Error>(opened.error()));
 }
@@ -150,11 +167,17 @@ bool PersistentContainer::storeFileIntact() {
 }
 
 Result<Backup::Restored> PersistentContainer::restoreFrom(const QString& file) {
-    if (const Result<Backup::StoreInfo> checked = Backup::inspect(file); !checked.ok())
-        return checked.error();
+    const Result<std::shared_ptr<Backup::Candidate>> candidate =
+        Backup::prepare(path_, file, &upgradeCopy);
+    if (!candidate.ok())
+        return candidate.error();
+    return restoreFrom(*candidate.value());
+}
+
+Result<Backup::Restored> PersistentContainer::restoreFrom(Backup::Candidate& candidate) {
     context_->reset();
     db_->close();
-    const Result<Backup::Restored> restored = Backup::restore(path_, file, &upgradeCopy);
+    const Result<Backup::Restored> restored = Backup::restore(path_, candidate);
     // Opened again whatever came of it: the restored store, or the one that stayed.
     if (const auto error = open(path_, false); !error.ok())
         return error.error();

@@ -3,6 +3,7 @@
 // the one main context over it.
 #include "model/ManagedObjectContext.h"
 #include "model/Restore.h"
+#include "model/StoreLock.h"
 #include "model/StoreSchema.h"
 #include "platform/core/Error.h"
 
@@ -51,6 +52,8 @@ public:
     // file that fails the checks changes nothing. An error of the reopening is the container's
     // own failure to load.
     Result<Backup::Restored> restoreFrom(const QString& file);
+    // The same for a backup already copied and checked (Backup::prepare).
+    Result<Backup::Restored> restoreFrom(Backup::Candidate& candidate);
 
     // Whether the file at the store's path is still the one open, whole: not deleted, replaced
     // or cut short since it was opened.
@@ -66,6 +69,7 @@ private:
     QString path_;
     quint64 device_ = 0, inode_ = 0;
     qint64 largestSize_ = 0;
+    StoreLock lock_; // the store's file is not swapped while it is open here
     std::unique_ptr<SqliteDatabase> db_;
     std::unique_ptr<ManagedObjectContext> context_;
 };

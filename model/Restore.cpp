@@ -1,84 +1,211 @@
 #include "model/Restore.h"
 
+#include "model/Seal.h"
 #include "model/Snapshots.h"
 #include "model/StoreFiles.h"
+#include "model/StoreLock.h"
+#include "model/StoreSchema.h"
+#include "platform/core/ProtectedFiles.h"
 
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace StoreFiles;
 
 namespace Backup {
 
-Result<Restored> restore(const QString& storePath, const QString& file, const Upgrade& upgrade) {
-    const Result<StoreInfo> info = inspect(file);
-    if (!info.ok())
-        return info.error();
+namespace {
+// A store that cannot be read as a whole collection, as opposed to one that cannot be reached.
+bool isDamage(const Error& e) {
+    switch (e.code & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM:
+    case SQLITE_READONLY:
+    case SQLITE_FULL:
+    case SQLITE_NOMEM:
+        return false;
+    case SQLITE_IOERR:
+        return e.code == SQLITE_IOERR_SHORT_READ;
+    default:
+        return true;
+    }
+}
+
+// The damaged store, its log and its journal, renamed beside it under one new name each; never
+// copied (a copy through SQLite would need it readable) and never deleted.
+Result<QString> moveAside(const QString& real) {
+    const QFileInfo info(real);
+    const QString stamp =
+        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd-HHmmss-zzz"));
+    for (int n = 1; n < 100; ++n) {
+        const QString name = QStringLiteral("%1-damaged-%2%3.sqlite")
+                                 .arg(info.completeBaseName(), stamp,
+                                      n == 1 ? QString() : QStringLiteral("-%1").arg(n));
+        const QString aside = info.absoluteDir().filePath(name);
+        if (QFileInfo::exists(aside) || QFileInfo::exists(aside + QStringLiteral("-wal")))
+            continue;
+        for (const char* part : {"-wal", "-journal"})
+            if (QFileInfo::exists(real + QLatin1String(part)))
+                if (const auto moved =
+                        placeNew(real + QLatin1String(part), aside + QLatin1String(part));
+                    !moved.ok())
+                    return moved.error();
+        if (QFileInfo::exists(real))
+            if (const auto moved = placeNew(real, aside); !moved.ok())
+                return moved.error();
+        QFile::remove(real + QStringLiteral("-shm"));
+        return aside;
+    }
+    return failure(
+        SQLITE_CANTOPEN,
+        QStringLiteral("Cannot find a free name beside %1 for the damaged collection").arg(real));
+}
+} // namespace
+
+Candidate::~Candidate() {
+    if (!copy_.isEmpty())
+        removeWithCompanions(copy_);
+}
+
+Result<std::shared_ptr<Candidate>> prepare(const QString& storePath, const QString& file,
+                                           const Upgrade& upgrade) {
+    if (const Result<void> looks = looksLikeStore(file); !looks.ok())
+        return looks.error();
     if (sameFile(file, storePath))
         return failure(SQLITE_CANTOPEN, QStringLiteral("%1 is the collection itself").arg(file));
-    if (QFileInfo(storePath).exists() && !QFileInfo(storePath).isFile())
-        return failure(SQLITE_CANTOPEN, QStringLiteral("%1 is not a regular file").arg(storePath));
-    Restored out;
-    out.coinsAfter = info.value().coins;
-    const Result<qint64> before = coinCount(storePath);
-    if (!before.ok())
-        return failure(
-            before.error().code,
-            QStringLiteral("Cannot read the collection: %1").arg(before.error().message));
-    out.coinsBefore = before.value();
-
-    const QString temporary = temporaryBeside(storePath);
-    if (temporary.isEmpty())
-        return failure(
-            SQLITE_CANTOPEN,
-            QStringLiteral("Cannot write into %1").arg(QFileInfo(storePath).absolutePath()));
-    auto fail = [&](const Error& e) {
-        for (const char* part : {"", "-journal", "-wal", "-shm"})
-            QFile::remove(temporary + QLatin1String(part));
-        return e;
-    };
-    if (const auto error = copyStore(file, temporary, {}); !error.ok())
-        return fail(failure(error.error().code,
-                            QStringLiteral("Cannot copy %1: %2").arg(file, error.error().message)));
+    const QString real = Files::resolved(storePath);
+    if (QFileInfo(real).exists() && !QFileInfo(real).isFile())
+        return failure(SQLITE_CANTOPEN, QStringLiteral("%1 is not a regular file").arg(real));
+    QDir().mkpath(QFileInfo(real).absolutePath());
+    sweepParts(QFileInfo(real).absolutePath());
+    auto candidate = std::make_shared<Candidate>();
+    candidate->file_ = file;
+    candidate->copy_ = temporaryBeside(real);
+    const QString& copy = candidate->copy_;
+    if (copy.isEmpty())
+        return failure(SQLITE_CANTOPEN,
+                       QStringLiteral("Cannot write into %1").arg(QFileInfo(real).absolutePath()));
+    // The file as it is, and its log: read, never opened by SQLite, so never changed.
+    if (const auto copied = copyBytes(file, copy); !copied.ok())
+        return failure(copied.error().code,
+                       QStringLiteral("Cannot copy %1: %2").arg(file, copied.error().message));
+    if (const QFileInfo log(file + QStringLiteral("-wal")); log.isFile() && log.size() > 0)
+        if (const auto copied = copyBytes(log.filePath(), copy + QStringLiteral("-wal"));
+            !copied.ok())
+            return failure(
+                copied.error().code,
+                QStringLiteral("Cannot copy %1: %2").arg(log.filePath(), copied.error().message));
+    {
+        Connection db(copy, Connection::Create);
+        if (!db.ok() || !db.exec("PRAGMA journal_mode=DELETE"))
+            return failure(SQLITE_NOTADB,
+                           QStringLiteral("%1 cannot be opened: %2").arg(file, db.error().message));
+        const Result<StoreInfo> info = checkOpen(db, file);
+        if (!info.ok())
+            return info.error();
+        candidate->info_ = info.value();
+        if (const Result<void> opened = Seal::unseal(db.handle()); !opened.ok())
+            return opened.error();
+    }
     // An older schema is brought up to date on the copy, never on the file given.
-    if (const auto error = upgrade(temporary); !error.ok())
-        return fail(failure(
-            error.error().code,
-            QStringLiteral("Cannot bring %1 up to date: %2").arg(file, error.error().message)));
-    // Everything in the log goes into the file, and the log goes with the last connection: a
-    // log left behind means another program has the store open, and it would lay its pages
-    // over the restored file. Asked before the snapshot, so that a refusal leaves nothing
-    // behind, and again just before the file is replaced.
-    auto inUse = [&] {
+    if (candidate->info_.schemaVersion < StoreSchema::Version)
+        if (const auto error = upgrade(copy); !error.ok())
+            return failure(
+                error.error().code,
+                QStringLiteral("Cannot bring %1 up to date: %2").arg(file, error.error().message));
+    return candidate;
+}
+
+Result<Restored> restore(const QString& storePath, Candidate& candidate) {
+    if (candidate.copy_.isEmpty())
+        return failure(SQLITE_MISUSE, QStringLiteral("The backup has been restored already"));
+    const Result<StoreLock> lock = StoreLock::acquire(
+        storePath, StoreLock::Replacing, QStringLiteral("a restore from %1").arg(candidate.file_));
+    if (!lock.ok())
+        return lock.error();
+    const QString real = Files::resolved(storePath);
+    Restored out;
+    out.coinsAfter = candidate.info_.coins;
+    struct stat before {};
+    const bool existed = ::stat(QFile::encodeName(real).constData(), &before) == 0;
+    const bool logOnly = !existed && QFileInfo::exists(real + QStringLiteral("-wal"));
+    if (existed || logOnly) {
+        // The log goes into the file first (and with the last connection, away): the file alone
+        // is then the collection, to be kept whole.
         {
-            Connection current(storePath, Connection::Read);
+            Connection current(real, Connection::Read);
             if (current.ok())
                 current.exec("PRAGMA wal_checkpoint(TRUNCATE)");
         }
-        return QFileInfo::exists(storePath + QStringLiteral("-wal"));
-    };
-    const Error busy = failure(
-        SQLITE_BUSY, QStringLiteral("The collection is open in another Pelvane: close it and try "
-                                    "again"));
-    if (QFileInfo(storePath).exists()) {
-        if (inUse())
-            return fail(busy);
-        const Result<QString> snapshot =
-            Snapshots::take(storePath, QStringLiteral("before-restore"));
-        if (!snapshot.ok())
-            return fail(failure(snapshot.error().code,
-                                QStringLiteral("Cannot keep the current collection first: %1")
-                                    .arg(snapshot.error().message)));
-        out.snapshot = snapshot.value();
-        if (inUse())
-            return fail(busy);
+        const Result<qint64> held = coinCount(real);
+        bool damaged = logOnly || (!held.ok() && isDamage(held.error()));
+        if (!held.ok() && !damaged)
+            return failure(
+                held.error().code,
+                QStringLiteral("Cannot read the collection: %1").arg(held.error().message));
+        // Pelvane's own programs wait for the lock; another program that has the file open
+        // keeps its log, and would lay it over the new file.
+        if (!damaged && QFileInfo::exists(real + QStringLiteral("-wal")))
+            return failure(SQLITE_BUSY, QStringLiteral("The collection is open in another "
+                                                       "program: close it and try again"));
+        if (!damaged) {
+            out.coinsBefore = held.value();
+            const Result<QString> snapshot =
+                Snapshots::take(storePath, QStringLiteral("before-restore"));
+            if (snapshot.ok())
+                out.snapshot = snapshot.value();
+            else if (isDamage(snapshot.error()))
+                damaged = true;
+            else
+                return failure(snapshot.error().code,
+                               QStringLiteral("Cannot keep the current collection first: %1")
+                                   .arg(snapshot.error().message));
+        }
+        if (damaged) {
+            const Result<QString> aside = moveAside(real);
+            if (!aside.ok())
+                return failure(aside.error().code,
+                               QStringLiteral("Cannot move the damaged collection aside: %1")
+                                   .arg(aside.error().message));
+            out.snapshot = aside.value();
+            out.damaged = true;
+            out.coinsBefore = 0;
+        }
     }
-    if (const auto error = replace(temporary, storePath); !error.ok())
-        return fail(error.error());
-    QFile::remove(storePath + QStringLiteral("-shm"));
+    pauseForTests("restore-swap");
+    // Nothing of the old file may stay beside the new one: its log would be laid over it.
+    for (const char* part : {"-wal", "-shm", "-journal"})
+        QFile::remove(real + QLatin1String(part));
+    const QByteArray copyName = QFile::encodeName(candidate.copy_);
+    if (existed) {
+        ::chmod(copyName.constData(), before.st_mode & 07777);
+        if (::chown(copyName.constData(), before.st_uid, before.st_gid) != 0) {
+            // Only root may give a file away; the file stays the restorer's.
+        }
+    } else {
+        const mode_t mask = ::umask(0);
+        ::umask(mask);
+        ::chmod(copyName.constData(), 0666 & ~mask);
+    }
+    if (const auto error = replace(candidate.copy_, real); !error.ok())
+        return error.error();
+    candidate.copy_.clear();
     return out;
+}
+
+Result<Restored> restore(const QString& storePath, const QString& file, const Upgrade& upgrade) {
+    const Result<std::shared_ptr<Candidate>> candidate = prepare(storePath, file, upgrade);
+    if (!candidate.ok())
+        return candidate.error();
+    return restore(storePath, *candidate.value());
 }
 
 } // namespace Backup

@@ -1,6 +1,7 @@
 #include "model/Snapshots.h"
 
 #include "model/Backup.h"
+#include "model/StoreFiles.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -57,16 +58,29 @@ Result<QString> take(const QString& storePath, const QString& occasion, const QD
     if (!QDir().mkpath(dir))
         return Error::because(14, QStringLiteral("Cannot make the folder %1").arg(dir));
     QString name = kPrefix + today.toString(QStringLiteral("yyyy-MM-dd"));
-    // A snapshot taken for an occasion never replaces one taken earlier that day.
+    // A snapshot taken for an occasion never replaces one taken earlier, even in the same
+    // second; the daily one takes the time too when the day has one already.
+    const QString time = QTime::currentTime().toString(QStringLiteral("HHmmss-zzz"));
     if (!occasion.isEmpty())
-        name += QLatin1Char('-') + occasion + QLatin1Char('-') +
-                QTime::currentTime().toString(QStringLiteral("HHmmss"));
-    const QString path = QDir(dir).filePath(name + QStringLiteral(".sqlite"));
-    const Result<qint64> written = Backup::write(storePath, path);
-    if (!written.ok())
-        return written.error();
-    prune(storePath, today);
-    return path;
+        name += QLatin1Char('-') + occasion + QLatin1Char('-') + time;
+    for (int n = 1;; ++n) {
+        QString candidate = name;
+        if (occasion.isEmpty() && n > 1)
+            candidate += QLatin1Char('-') + time;
+        if (n > 2)
+            candidate += QStringLiteral("-%1").arg(n);
+        const QString path = QDir(dir).filePath(candidate + QStringLiteral(".sqlite"));
+        if (QFileInfo::exists(path) && n < 100)
+            continue;
+        const Result<qint64> written = Backup::writeNew(storePath, path);
+        // Taken by another snapshot between the look and the rename: the next name.
+        if (!written.ok() && QFileInfo::exists(path) && n < 100)
+            continue;
+        if (!written.ok())
+            return written.error();
+        prune(storePath, today);
+        return path;
+    }
 }
 
 QList<QDate> kept(QList<QDate> dates) {
@@ -110,12 +124,8 @@ void prune(const QString& storePath, const QDate& today) {
     for (const Entry& e : all)
         if (e.date <= today && !keep.contains(e.date))
             QFile::remove(e.path);
-    // Copies a stopped program left half-written; one being written now is younger than this.
-    const QDir dir(folder(storePath));
-    for (const QFileInfo& part :
-         dir.entryInfoList({QStringLiteral(".Pelvane-*.part*")}, QDir::Files | QDir::Hidden))
-        if (part.lastModified().secsTo(QDateTime::currentDateTime()) > 60 * 60)
-            QFile::remove(part.absoluteFilePath());
+    // Copies a stopped program left half-written.
+    StoreFiles::sweepParts(folder(storePath));
 }
 
 } // namespace Snapshots

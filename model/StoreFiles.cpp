@@ -3,13 +3,17 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
+#include <QMutex>
 #include <QTemporaryFile>
 #include <QUrl>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <sqlite3.h>
+#include <sys/file.h>
 #include <unistd.h>
 
 namespace StoreFiles {
@@ -73,6 +77,30 @@ bool syncFile(const QString& path) {
 }
 } // namespace
 
+namespace {
+// The copies being written by this process, each locked (flock) for as long as it is written:
+// a copy nobody holds is what a stopped program left, and goes at the next sweep.
+QMutex partsMutex;
+QHash<QString, int> heldParts;
+
+void holdPart(const QString& path) {
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return;
+    ::flock(fd, LOCK_EX | LOCK_NB);
+    QMutexLocker lock(&partsMutex);
+    heldParts.insert(path, fd);
+}
+
+void letGoPart(const QString& path) {
+    QMutexLocker lock(&partsMutex);
+    if (const auto it = heldParts.constFind(path); it != heldParts.cend()) {
+        ::close(it.value());
+        heldParts.erase(it);
+    }
+}
+} // namespace
+
 Error systemError(const QString& doing) {
     return failure(SQLITE_IOERR, QStringLiteral("%1: %2").arg(
                                      doing, QString::fromLocal8Bit(std::strerror(errno))));
@@ -84,8 +112,26 @@ Result<void> replace(const QString& from, const QString& to) {
         return systemError(QStringLiteral("Cannot write %1").arg(to));
     if (::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
         return systemError(QStringLiteral("Cannot replace %1").arg(to));
+    letGoPart(from);
     syncFile(QFileInfo(to).absolutePath());
     return {};
+}
+
+Result<void> placeNew(const QString& from, const QString& to) {
+    if (!syncFile(from))
+        return systemError(QStringLiteral("Cannot write %1").arg(to));
+    if (::renameat2(AT_FDCWD, QFile::encodeName(from).constData(), AT_FDCWD,
+                    QFile::encodeName(to).constData(), RENAME_NOREPLACE) != 0)
+        return systemError(QStringLiteral("Cannot write %1").arg(to));
+    letGoPart(from);
+    syncFile(QFileInfo(to).absolutePath());
+    return {};
+}
+
+void removeWithCompanions(const QString& path) {
+    letGoPart(path);
+    for (const char* part : {"", "-journal", "-wal", "-shm"})
+        QFile::remove(path + QLatin1String(part));
 }
 
 // A name beside the target for the copy being made; the file is created empty.
@@ -94,7 +140,24 @@ QString temporaryBeside(const QString& target) {
     QTemporaryFile file(info.absoluteDir().filePath(QLatin1Char('.') + info.fileName() +
                                                     QStringLiteral(".XXXXXX.part")));
     file.setAutoRemove(false);
-    return file.open() ? file.fileName() : QString();
+    if (!file.open())
+        return {};
+    holdPart(file.fileName());
+    return file.fileName();
+}
+
+void sweepParts(const QString& folder) {
+    const QDir dir(folder);
+    for (const QFileInfo& part :
+         dir.entryInfoList({QStringLiteral(".*.??????.part")}, QDir::Files | QDir::Hidden)) {
+        const QByteArray name = QFile::encodeName(part.absoluteFilePath());
+        const int fd = ::open(name.constData(), O_RDONLY | O_CLOEXEC);
+        if (fd < 0)
+            continue;
+        if (::flock(fd, LOCK_EX | LOCK_NB) == 0)
+            removeWithCompanions(part.absoluteFilePath());
+        ::close(fd);
+    }
 }
 
 namespace {
@@ -129,6 +192,19 @@ bool copyFile(const QString& from, const QString& to, const Progress& progress) 
     return true;
 }
 } // namespace
+
+Result<void> copyBytes(const QString& from, const QString& to) {
+    if (!copyFile(from, to, {}))
+        return systemError(QStringLiteral("Cannot copy %1").arg(from));
+    return {};
+}
+
+void pauseForTests(const char* point) {
+    const QByteArray asked = qgetenv("PELVANE_TEST_PAUSE");
+    const qsizetype colon = asked.lastIndexOf(':');
+    if (colon > 0 && asked.left(colon) == point)
+        ::usleep(useconds_t(asked.mid(colon + 1).toInt()) * 1000);
+}
 
 // Page by page from one database into another, as of one moment: should another connection
 // write to the source meanwhile, SQLite starts the copy again.

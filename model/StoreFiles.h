@@ -48,12 +48,24 @@ private:
 bool sameFile(const QString& a, const QString& b);
 // A new empty file beside the target for the copy being made; empty when none can be made.
 QString temporaryBeside(const QString& target);
+// Removes the copies a stopped program left half-written in the folder (".NAME.XXXXXX.part",
+// with their journals): those no running program holds.
+void sweepParts(const QString& folder);
 // Renames `from` over `to` for good: synced first, and the folder after.
 Result<void> replace(const QString& from, const QString& to);
+// The same where nothing may be at `to` yet: an existing file there is never replaced.
+Result<void> placeNew(const QString& from, const QString& to);
+// Removes a database file and the journal, log and index beside it.
+void removeWithCompanions(const QString& path);
 // The store at `sourcePath` as of one moment, into the new file `destination`, standing alone
 // (no log beside it).
 Result<void> copyStore(const QString& sourcePath, const QString& destination,
                        const Progress& progress);
+// The bytes of one file into another, as they are.
+Result<void> copyBytes(const QString& from, const QString& to);
+// Holds the program at a named point for as long as PELVANE_TEST_PAUSE ("point:milliseconds")
+// says: lets a test run another program between two steps of a long one.
+void pauseForTests(const char* point);
 // SQLite's verdict on the open database when it is not "ok".
 std::optional<QString> integrityProblem(const Connection& db);
 Result<qint64> countCoins(const Connection& db);

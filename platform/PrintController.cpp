@@ -1,5 +1,7 @@
 #include "platform/PrintController.h"
 
+#include "platform/core/Files.h"
+
 #include "platform/graphics/PageRenderer.h"
 
 #include <QPainter>
@@ -37,6 +39,11 @@ void picturesInPoints(QTextDocument& document) {
 } // namespace
 
 Result<void> PrintController::print(const QTextDocument& document, QPrinter& printer) {
+    // Printing to a file is a file the program writes like any other.
+    if (!printer.outputFileName().isEmpty())
+        if (const Result<void> allowed = Files::isWritableTarget(printer.outputFileName());
+            !allowed.ok())
+            return allowed;
     // A copy: the shown document keeps its own layout.
     std::unique_ptr<QTextDocument> copy(document.clone());
     picturesInPoints(*copy);

@@ -12,6 +12,12 @@
 # collection's pieces and value.
 # Export trials: an export over an earlier file, killed at a random moment; the file is then
 # the earlier one or the whole new one, never torn.
+# Backup trials: a backup over an earlier backup, killed at a random moment; the file is then the
+# earlier backup or the whole new one, and the next backup leaves no half-written copy behind.
+# Restore trials: a restore killed at a random moment; the collection is then the one before or
+# the backup, whole. Writer trials: an import started while a restore runs and killed at a
+# random moment; it waited for the restore, so the store is the backup with a leading part of
+# the import's coins, as in the import trials.
 # Exits 1 when any trial fails; the failed trial's files are kept and named.
 set -euo pipefail
 
@@ -63,6 +69,8 @@ grep -o '^Trialand^Coin [0-9]*' "$WORK/import.csv" | cut -d'^' -f2 > "$WORK/new-
 cp -r "$WORK/base" "$WORK/whole"
 "$PELVANE" --data-dir "$WORK/whole" --import "$WORK/import.csv" > /dev/null
 "$PELVANE" --data-dir "$WORK/whole" --export "$WORK/after.csv"
+"$PELVANE" --data-dir "$WORK/base" --backup "$WORK/base.bak" > /dev/null
+"$PELVANE" --data-dir "$WORK/whole" --backup "$WORK/whole.bak" > /dev/null
 keyed "$WORK/before.csv" > "$WORK/before.keyed"
 keyed "$WORK/after.csv" > "$WORK/after.keyed"
 start=$(date +%s%N)
@@ -71,6 +79,13 @@ import_ms=$(( ($(date +%s%N) - start) / 1000000 + 50 ))
 start=$(date +%s%N)
 "$PELVANE" --data-dir "$WORK/whole" --export "$WORK/timing.csv"
 export_ms=$(( ($(date +%s%N) - start) / 1000000 + 20 ))
+start=$(date +%s%N)
+"$PELVANE" --data-dir "$WORK/whole" --backup "$WORK/timing.bak" > /dev/null
+backup_ms=$(( ($(date +%s%N) - start) / 1000000 + 20 ))
+cp -r "$WORK/whole" "$WORK/timing-restore"
+start=$(date +%s%N)
+"$PELVANE" --data-dir "$WORK/timing-restore" --restore "$WORK/base.bak" > /dev/null
+restore_ms=$(( ($(date +%s%N) - start) / 1000000 + 20 ))
 
 # Starts a command, kills it with SIGKILL after a random part of `ms` milliseconds.
 kill_at_random() {
@@ -145,8 +160,54 @@ for ((t = 1; t <= TRIALS; t++)); do
     echo "export trial $t failed: the file is torn (kept as $WORK/torn-$t.csv)"
     failed=$((failed + 1)); keep=1
   fi
+
+  # A backup killed over an earlier one leaves the earlier one or the whole new one.
+  cp "$WORK/base.bak" "$WORK/target.bak"
+  kill_at_random "$backup_ms" "$PELVANE" --data-dir "$WORK/whole" --backup "$WORK/target.bak"
+  if ! cmp -s "$WORK/target.bak" "$WORK/base.bak" && ! cmp -s "$WORK/target.bak" "$WORK/whole.bak"; then
+    cp "$WORK/target.bak" "$WORK/torn-$t.bak"
+    echo "backup trial $t failed: the backup is torn (kept as $WORK/torn-$t.bak)"
+    failed=$((failed + 1)); keep=1
+  fi
+  "$PELVANE" --data-dir "$WORK/whole" --backup "$WORK/target.bak" > /dev/null
+  if [ -n "$(find "$WORK" -maxdepth 1 -name '.target.bak.*.part*')" ]; then
+    echo "backup trial $t failed: a killed backup's copy was left behind"
+    failed=$((failed + 1)); keep=1
+  fi
+
+  # A restore killed at a random moment leaves the collection as it was or the backup, whole.
+  dir="$WORK/restore-$t"
+  cp -r "$WORK/whole" "$dir"
+  kill_at_random "$restore_ms" "$PELVANE" --data-dir "$dir" --restore "$WORK/base.bak"
+  if ! "$CHECK" "$dir/Pelvane.sqlite" > /dev/null 2>&1 \
+     || ! "$PELVANE" --data-dir "$dir" --export "$dir/out.csv" > /dev/null 2>&1 \
+     || { ! cmp -s "$dir/out.csv" "$WORK/before.csv" && ! cmp -s "$dir/out.csv" "$WORK/after.csv"; } \
+     || [ -n "$(find "$dir" -maxdepth 1 -name '.*.part*')" ]; then
+    echo "restore trial $t failed: the collection is neither the one before nor the backup, or a copy was left (kept in $dir)"
+    failed=$((failed + 1)); keep=1
+  else
+    rm -rf "$dir"
+  fi
+
+  # An import started during a restore waits for it; killed at a random moment, it leaves the
+  # backup with a leading part of its coins.
+  dir="$WORK/writer-$t"
+  cp -r "$WORK/whole" "$dir"
+  PELVANE_TEST_PAUSE=restore-swap:200 "$PELVANE" --data-dir "$dir" --restore "$WORK/base.bak" > /dev/null 2>&1 &
+  restoring=$!
+  sleep 0.05
+  kill_at_random $((restore_ms + 200 + import_ms)) "$PELVANE" --data-dir "$dir" --import "$WORK/import.csv"
+  wait "$restoring" || { echo "writer trial $t failed: the restore did not finish"; failed=$((failed + 1)); keep=1; }
+  problem=$(check_import "$dir")
+  if [ -n "$problem" ]; then
+    echo "writer trial $t failed: $problem (kept in $dir)"
+    failed=$((failed + 1)); keep=1
+  else
+    rm -rf "$dir"
+  fi
 done
 
-echo "crash trials: $TRIALS imports and $TRIALS exports killed, $failed failed" \
-     "(new coins saved before the kill: $saved_total in all; import ${import_ms} ms, export ${export_ms} ms)"
+echo "crash trials: $TRIALS imports, exports, backups, restores and imports during a restore killed, $failed failed" \
+     "(new coins saved before the kill: $saved_total in all; import ${import_ms} ms, export ${export_ms} ms," \
+     "backup ${backup_ms} ms, restore ${restore_ms} ms)"
 [ "$failed" -eq 0 ]

@@ -70,6 +70,36 @@ qint64 OtherConnection::number(const QByteArray& sql) {
     return n;
 }
 
+QByteArray storeDump(const QString& storeFile) {
+    OtherConnection db(storeFile);
+    QByteArray out;
+    sqlite3_stmt* tables = nullptr;
+    // A copy's checksum is about the copy, not part of the collection it holds.
+    sqlite3_prepare_v2(
+        db.handle(),
+        "SELECT name FROM sqlite_master WHERE type='table' AND name <> 'Seal' ORDER BY name", -1,
+        &tables, nullptr);
+    while (sqlite3_step(tables) == SQLITE_ROW) {
+        const QByteArray table = reinterpret_cast<const char*>(sqlite3_column_text(tables, 0));
+        out += "== " + table + '\n';
+        sqlite3_stmt* rows = nullptr;
+        sqlite3_prepare_v2(db.handle(), "SELECT * FROM \"" + table + "\" ORDER BY 1", -1, &rows,
+                           nullptr);
+        while (sqlite3_step(rows) == SQLITE_ROW) {
+            for (int c = 0; c < sqlite3_column_count(rows); ++c)
+                out += QByteArray::number(sqlite3_column_type(rows, c)) + ':' +
+                       QByteArray(static_cast<const char*>(sqlite3_column_blob(rows, c)),
+                                  sqlite3_column_bytes(rows, c))
+                           .toBase64() +
+                       '|';
+            out += '\n';
+        }
+        sqlite3_finalize(rows);
+    }
+    sqlite3_finalize(tables);
+    return out;
+}
+
 void damagePage(const QString& storeFile, const char* table) {
     qint64 page = 0, pageSize = 0;
     {

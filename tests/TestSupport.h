@@ -61,6 +61,9 @@ private:
     struct sqlite3* db_ = nullptr;
 };
 
+// Every row of every table of a store, as text: two stores with the same dump hold the same.
+QByteArray storeDump(const QString& storeFile);
+
 // Overwrites the first page of a table (or index) of a closed store file with bytes that are no
 // page, as a failing disk would: every read that reaches it fails.
 void damagePage(const QString& storeFile, const char* table);

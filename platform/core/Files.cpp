@@ -1,5 +1,7 @@
 #include "platform/core/Files.h"
 
+#include "platform/core/ProtectedFiles.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -69,6 +71,8 @@ Result<void> writeAll(QIODevice& device, const QByteArray& bytes) {
 
 Result<void> isWritableTarget(const QString& path) {
     // Renaming a new file over a device node or a pipe would replace it, even for root.
+    if (const QString why = protectedReason(path); !why.isEmpty())
+        return writing(path, why);
     const QFileInfo info(path);
     if (!info.exists() || info.isFile())
         return {};

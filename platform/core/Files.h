@@ -24,7 +24,8 @@ void setPicturesDirectory(const QString& dir);
 Result<void> writeAtomically(const QString& path, const QByteArray& bytes);
 // The same for a copy of a file, read as it is written: the target may be the source itself.
 Result<void> copyAtomically(const QString& from, const QString& to);
-// Whether a file may be written at the path: nothing there yet, or a regular file.
+// Whether a file may be written at the path: nothing there yet, or a regular file, and none of
+// the collection's own files (ProtectedFiles.h).
 Result<void> isWritableTarget(const QString& path);
 // All the bytes to an open device, or the device's reason when it takes no more.
 Result<void> writeAll(QIODevice& device, const QByteArray& bytes);

@@ -9,6 +9,7 @@
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/Views.h"
 #include "screens/Application.h"
+#include "screens/exchange/RestoreFlow.h"
 
 #include <QDate>
 #include <QDir>
@@ -154,55 +155,5 @@ void ImportExportViewController::RestoreFromBackup() {
 }
 
 void ImportExportViewController::checkBeforeRestoring(const QString& file) {
-    setBusy(true);
-    const QString store = Application::delegate().persistentContainer().storePath();
-    // Checking a large file reads all of it: not on the window's thread.
-    inBackground<std::pair<Outcome, qint64>>(
-        this,
-        [store, file] {
-            const Result<Backup::StoreInfo> info = Backup::inspect(file);
-            const Result<qint64> current = Backup::coinCount(store);
-            if (!info.ok())
-                return std::pair{Outcome{false, info.error().message}, qint64(0)};
-            return std::pair{Outcome{true, coins(info.value().coins)},
-                             current.ok() ? current.value() : qint64(0)};
-        },
-        [this, file](const std::pair<Outcome, qint64>& checked) {
-            setBusy(false);
-            const auto& [outcome, held] = checked;
-            if (!outcome.first) {
-                present(AlertController::okAlert(QStringLiteral("Restore Failed"), outcome.second));
-                return;
-            }
-            auto* ask = new AlertController(
-                QStringLiteral("Restore From Backup?"),
-                QStringLiteral("The backup holds %1; the collection holds %2. The collection as "
-                               "it is now is kept as a snapshot in Backups/.")
-                    .arg(outcome.second, coins(held)));
-            ask->addAction(QStringLiteral("Restore"), AlertController::ActionStyle::Destructive,
-                           [this, file] { restore(file); });
-            ask->addAction(QStringLiteral("Cancel"), AlertController::ActionStyle::Cancel);
-            present(ask);
-        });
-}
-
-void ImportExportViewController::restore(const QString& file) {
-    // The store is closed and opened again on this thread: nothing else may use it meanwhile.
-    const Result<Backup::Restored> restored =
-        Application::delegate().persistentContainer().restoreFrom(file);
-    if (!restored.ok()) {
-        present(
-            AlertController::okAlert(QStringLiteral("Restore Failed"), restored.error().message));
-        return;
-    }
-    // Every screen behind this one showed the collection that is gone.
-    NavigationController* nav = navigationController();
-    const QString done = QStringLiteral("Restored %1.").arg(coins(restored.value().coinsAfter));
-    if (!nav) {
-        present(AlertController::okAlert(QStringLiteral("Restore Complete"), done));
-        return;
-    }
-    nav->popToRootViewController(false);
-    if (ViewController* root = nav->topViewController())
-        root->present(AlertController::okAlert(QStringLiteral("Restore Complete"), done));
+    RestoreFlow::start(this, file, [this](bool busy) { setBusy(busy); });
 }

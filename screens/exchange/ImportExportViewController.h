@@ -27,7 +27,6 @@ public:
 private:
     void backUpTo(const QString& file);
     void checkBeforeRestoring(const QString& file);
-    void restore(const QString& file);
     void setBusy(bool busy);
     bool busy_ = false;
 };

@@ -9,63 +9,17 @@
 #include <sqlite3.h>
 #include <sys/stat.h>
 
-namespace {
-const QString kSample = QStringLiteral(PELVANE_SOURCE_DIR "/samples/Pelvane-sample.csv");
-
-// Every row of every table of a store, as text: two stores with the same dump hold the same.
-QByteArray dump(const QString& storeFile) {
-    OtherConnection db(storeFile);
-    QByteArray out;
-    sqlite3_stmt* tables = nullptr;
-    sqlite3_prepare_v2(db.handle(),
-                       "SELECT name FROM sqlite_master WHERE type='table' ORDER BY name", -1,
-                       &tables, nullptr);
-    while (sqlite3_step(tables) == SQLITE_ROW) {
-        const QByteArray table = reinterpret_cast<const char*>(sqlite3_column_text(tables, 0));
-        out += "== " + table + '\n';
-        sqlite3_stmt* rows = nullptr;
-        sqlite3_prepare_v2(db.handle(), "SELECT * FROM \"" + table + "\" ORDER BY 1", -1, &rows,
-                           nullptr);
-        while (sqlite3_step(rows) == SQLITE_ROW) {
-            for (int c = 0; c < sqlite3_column_count(rows); ++c)
-                out += QByteArray::number(sqlite3_column_type(rows, c)) + ':' +
-                       QByteArray(static_cast<const char*>(sqlite3_column_blob(rows, c)),
-                                  sqlite3_column_bytes(rows, c))
-                           .toBase64() +
-                       '|';
-            out += '\n';
-        }
-        sqlite3_finalize(rows);
-    }
-    sqlite3_finalize(tables);
-    return out;
-}
-
-// A store in its own data folder holding the sample, and what the exchange file cannot carry.
-QString collection(const QString& folder) {
-    EXPECT_EQ(runProgram(folder, {"--import", kSample}).exitCode, 0);
-    const QString store = folder + "/Pelvane.sqlite";
-    OtherConnection db(store);
-    EXPECT_EQ(db.exec("UPDATE Coins SET descrip = 'O''Brien''s \"harp\", 1,2', value = 0.1, "
-                      "totalValue = 1e-7 WHERE pk = 1;"
-                      "INSERT INTO Coins (country, denomination, year, mintMark) "
-                      "SELECT country, denomination, year, mintMark FROM Coins WHERE pk = 1"),
-              SQLITE_OK);
-    return store;
-}
-} // namespace
-
 // A backup is the store, exact: texts the exchange file changes, doubles, both pictures, and two
 // coins that share every import key come back as they were, in a new folder or over a collection
 // that changed, which is kept as a snapshot first.
 TEST_F(PelvaneTest, BackupAndRestoreAreExact) {
-    const QString store = collection(path("a"));
+    const QString store = sampleCollection(path("a"));
     // A change still in the log of a program that has the store open goes with the backup.
     auto writer = std::make_unique<OtherConnection>(store);
     ASSERT_EQ(writer->exec("PRAGMA wal_autocheckpoint=0;"
                            "UPDATE Coins SET notes = 'only in the log' WHERE pk = 2"),
               SQLITE_OK);
-    const QByteArray original = dump(store);
+    const QByteArray original = storeDump(store);
     ASSERT_TRUE(original.contains("Coins_pictures"));
     ASSERT_TRUE(original.contains(QByteArray("only in the log").toBase64()));
 
@@ -76,27 +30,27 @@ TEST_F(PelvaneTest, BackupAndRestoreAreExact) {
     writer.reset();
     // And one of a store nobody has open, copied as its file.
     ASSERT_EQ(runProgram(path("a"), {"--backup", path("closed.sqlite")}).exitCode, 0);
-    EXPECT_EQ(dump(path("closed.sqlite")), original);
+    EXPECT_EQ(storeDump(path("closed.sqlite")), original);
 
     run = runProgram(path("b"), {"--restore", path("copy.sqlite")});
     EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
-    EXPECT_EQ(dump(path("b/Pelvane.sqlite")), original);
+    EXPECT_EQ(storeDump(path("b/Pelvane.sqlite")), original);
     EXPECT_EQ(OtherConnection(path("b/Pelvane.sqlite")).number("PRAGMA application_id"),
               0x50656C76);
 
     // Over a collection that changed since: that one is kept.
     ASSERT_EQ(OtherConnection(store).exec("DELETE FROM Coins WHERE pk > 10"), SQLITE_OK);
-    const QByteArray changed = dump(store);
+    const QByteArray changed = storeDump(store);
     run = runProgram(path("a"), {"--restore", path("copy.sqlite")});
     EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
     EXPECT_TRUE(run.output.startsWith("Restored 41 coins from " + path("copy.sqlite") +
                                       "; the collection held 10 coins, kept in " +
                                       path("a/Backups/Pelvane-")))
         << qPrintable(run.output);
-    EXPECT_EQ(dump(store), original);
+    EXPECT_EQ(storeDump(store), original);
     const QStringList kept = QDir(path("a/Backups")).entryList({"*before-restore*.sqlite"});
     ASSERT_EQ(kept.size(), 1);
-    EXPECT_EQ(dump(path("a/Backups/") + kept.first()), changed);
+    EXPECT_EQ(storeDump(path("a/Backups/") + kept.first()), changed);
 
     run = runProgram(path("a"), {"--backups"});
     EXPECT_EQ(run.exitCode, 0);
@@ -115,7 +69,7 @@ TEST_F(PelvaneTest, BackupAndRestoreAreExact) {
 
 // What is no whole Pelvane store is refused with the reason, and the collection stays as it was.
 TEST_F(PelvaneTest, RestoreRefusesWhatIsNoWholeBackup) {
-    const QString store = collection(path("a"));
+    const QString store = sampleCollection(path("a"));
     ASSERT_EQ(runProgram(path("a"), {"--backup", path("good.sqlite")}).exitCode, 0);
     const QByteArray before = readFile(store);
 
@@ -171,14 +125,15 @@ TEST_F(PelvaneTest, RestoreRefusesWhatIsNoWholeBackup) {
     }
     EXPECT_FALSE(QDir(path("a/Backups")).exists()); // nothing was about to be replaced
 
-    // A program that has the collection open would write over the restored file.
+    // Another program that has the collection open (not one of Pelvane's, which wait for the
+    // lock) would lay its log over the restored file.
     {
         OtherConnection window(store);
         ASSERT_EQ(window.number("SELECT count(*) FROM Coins"), 41);
         const ProgramRun run = runProgram(path("a"), {"--restore", path("good.sqlite")});
         EXPECT_EQ(run.exitCode, 1);
         EXPECT_EQ(run.errors, "The restore of " + store + " from " + path("good.sqlite") +
-                                  " failed: The collection is open in another Pelvane: close "
+                                  " failed: The collection is open in another program: close "
                                   "it and try again\n");
     }
     EXPECT_EQ(readFile(store), before);
@@ -188,7 +143,7 @@ TEST_F(PelvaneTest, RestoreRefusesWhatIsNoWholeBackup) {
 // A backup is written only to a regular file, never over the collection itself, and never as an
 // empty collection over a backup that holds coins (a mistyped data folder).
 TEST_F(PelvaneTest, BackupKeepsWhatItMustNotReplace) {
-    collection(path("a"));
+    sampleCollection(path("a"));
     ASSERT_EQ(::mkfifo(qPrintable(path("fifo")), 0600), 0);
     QDir().mkpath(path("folder"));
     for (const QString& target : {path("fifo"), path("folder")}) {
@@ -204,7 +159,7 @@ TEST_F(PelvaneTest, BackupKeepsWhatItMustNotReplace) {
 
     ProgramRun run = runProgram(path("a"), {"--backup", path("a/Pelvane.sqlite")});
     EXPECT_EQ(run.exitCode, 1);
-    EXPECT_TRUE(run.errors.contains("it is the collection itself")) << qPrintable(run.errors);
+    EXPECT_TRUE(run.errors.contains("it is the collection's own file")) << qPrintable(run.errors);
 
     ASSERT_EQ(runProgram(path("a"), {"--backup", path("full.sqlite")}).exitCode, 0);
     const QByteArray full = readFile(path("full.sqlite"));

@@ -4,6 +4,8 @@
 #include <QProcessEnvironment>
 #include <gtest/gtest.h>
 
+#include "TestSupport.h"
+
 struct ProgramRun {
     int exitCode = -1; // -1: it did not end by itself (a crash, or the fatal stop's abort)
     QString output, errors;
@@ -32,4 +34,19 @@ inline ProgramRun runProgram(const QStringList& arguments, const QStringList& pr
 inline ProgramRun runProgram(const QString& dataDir, const QStringList& arguments,
                              const QStringList& prefix = {}) {
     return runProgram(QStringList{QStringLiteral("--data-dir"), dataDir} + arguments, prefix);
+}
+
+inline const QString kSampleFile = QStringLiteral(PELVANE_SOURCE_DIR "/samples/Pelvane-sample.csv");
+
+// A store in its own data folder holding the sample, and what the exchange file cannot carry.
+inline QString sampleCollection(const QString& folder) {
+    EXPECT_EQ(runProgram(folder, {"--import", kSampleFile}).exitCode, 0);
+    const QString store = folder + "/Pelvane.sqlite";
+    OtherConnection db(store);
+    EXPECT_EQ(db.exec("UPDATE Coins SET descrip = 'O''Brien''s \"harp\", 1,2', value = 0.1, "
+                      "totalValue = 1e-7 WHERE pk = 1;"
+                      "INSERT INTO Coins (country, denomination, year, mintMark) "
+                      "SELECT country, denomination, year, mintMark FROM Coins WHERE pk = 1"),
+              0);
+    return store;
 }

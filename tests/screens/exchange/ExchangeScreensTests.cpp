@@ -2,13 +2,16 @@
 #include "exchange/ExchangeReader.h"
 #include "exchange/ExchangeWriter.h"
 #include "model/Backup.h"
+#include "model/Snapshots.h"
 #include "platform/kit/Views.h"
+#include "screens/exchange/DamagedStoreBanner.h"
 #include "screens/exchange/ExportViewController.h"
 #include "screens/exchange/ImportExportViewController.h"
 #include "screens/exchange/ImportViewController.h"
 
 #include <QDate>
 #include <QDir>
+#include <QLabel>
 
 #include <QTimer>
 #include <QToolButton>
@@ -263,4 +266,51 @@ TEST_F(ExchangeScreenTest, BackUpAndRestoreThroughTheButtons) {
     EXPECT_EQ(top(), menu); // no screen left showing the collection that went
     EXPECT_EQ(coinsHeld(), 2);
     EXPECT_EQ(QDir(dir() + "/Backups").entryList({"*before-restore*"}).size(), 1);
+}
+
+// A collection file damaged under the window: a moment after it shows, the banner says so and
+// offers the newest snapshot that passes the checks (a newer one with a byte changed is passed
+// over); Restore Snapshot… asks, then puts it back and moves the damaged file aside whole.
+TEST_F(ExchangeScreenTest, DamagedStoreBannerOffersTheNewestWholeSnapshot) {
+    addCoin("1 Cent", 1909);
+    addCoin("5 Cents", 1910);
+    const QString store = delegate->persistentContainer().storePath();
+    const Result<QString> whole = Snapshots::take(store);
+    ASSERT_TRUE(whole.ok());
+    addCoin("10 Cents", 1911);
+    const Result<QString> changed = Snapshots::take(store, QStringLiteral("before-restore"));
+    ASSERT_TRUE(changed.ok());
+    QByteArray bytes = readFile(changed.value());
+    bytes[bytes.indexOf("10 Cents") + 1] = 'X';
+    writeFile(changed.value(), bytes);
+    OtherConnection(store).exec("PRAGMA wal_checkpoint(TRUNCATE)");
+    damagePage(store, "Coins_denomination_year_mintMark");
+    const QByteArray damaged = readFile(store);
+
+    DamagedStoreBanner::checkSoon(window.get(), store);
+    ASSERT_TRUE(waitUntil([this] { return window->banner() != nullptr; }, 5000));
+    auto* title = window->banner()->findChild<QLabel*>("DamagedTitle");
+    ASSERT_TRUE(title);
+    EXPECT_EQ(title->text(), "Your collection file is damaged");
+    EXPECT_TRUE(
+        window->banner()->findChild<QLabel*>("DamagedDetail")->text().contains("holds 2 coins"));
+    auto* restore = window->banner()->findChild<QPushButton*>("RestoreSnapshotButton");
+    ASSERT_TRUE(restore);
+    QTest::mouseClick(restore, Qt::LeftButton);
+    EXPECT_EQ(alertShown(),
+              "Restore From Backup? / The backup holds 2 coins; the collection cannot "
+              "be read. Its file is moved aside whole, not deleted, and the backup "
+              "takes its place.");
+    AlertController::current()->triggerAction("Restore");
+    EXPECT_TRUE(alertText().startsWith("Restore Complete / Restored 2 coins. The damaged "
+                                       "collection file was kept as " +
+                                       dir() + "/Pelvane-damaged-"))
+        << qPrintable(alertText());
+    EXPECT_EQ(ctx().count(FetchRequest(QStringLiteral("Coins"))).value(), 2);
+    const QStringList aside = QDir(dir()).entryList({"Pelvane-damaged-*.sqlite"});
+    ASSERT_EQ(aside.size(), 1);
+    EXPECT_EQ(readFile(dir() + "/" + aside.first()), damaged);
+    QApplication::processEvents();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(window->banner(), nullptr);
 }
