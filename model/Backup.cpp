@@ -30,9 +30,10 @@ Result<qint64> write(const QString& storePath, const QString& target, const Prog
         return failure(SQLITE_CANTOPEN,
                        QStringLiteral("Cannot write %1: the folder does not exist").arg(target));
     const QString temporary = temporaryBeside(target);
-    if (temporary.isEmpty())
-        return failure(SQLITE_CANTOPEN,
-                       QStringLiteral("Cannot write %1: the folder cannot be written").arg(target));
+    if (temporary.isEmpty()) {
+        const int why = errno;
+        return systemError(QStringLiteral("Cannot write %1").arg(target), why);
+    }
     auto fail = [&](const Error& e) {
         for (const char* part : {"", "-journal", "-wal", "-shm"})
             QFile::remove(temporary + QLatin1String(part));
