@@ -155,9 +155,19 @@ LaunchOptions parseLaunchOptions(const QStringList& given) {
         launch.error = usageError(parser.errorText());
         return launch;
     }
-    for (qsizetype i = 0; i < options().size(); ++i)
-        if (parser.isSet(parserOptions[i]))
-            options()[i].apply(launch, parser.value(parserOptions[i]));
+    for (qsizetype i = 0; i < options().size(); ++i) {
+        if (!parser.isSet(parserOptions[i]))
+            continue;
+        const Option& option = options()[i];
+        // An empty value (a script's unset variable) names nothing; taken as absent, it would
+        // open the window where a command was meant.
+        if (!option.valueName.isEmpty() && parser.values(parserOptions[i]).contains(QString())) {
+            launch.error = usageError(QStringLiteral("--%1 needs a %2, and the one given is empty.")
+                                          .arg(option.names.last(), option.valueName));
+            return launch;
+        }
+        option.apply(launch, parser.value(parserOptions[i]));
+    }
     // The only free argument is the group a report is for (--report year 1964).
     if (!launch.report.isEmpty()) {
         if (!negativeReportValue.isEmpty())

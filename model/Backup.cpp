@@ -32,9 +32,10 @@ Result<qint64> copyOf(const QString& storePath, const QString& target, const Pro
         return lock.error();
     sweepParts(QFileInfo(target).absolutePath());
     const QString temporary = temporaryBeside(target);
-    if (temporary.isEmpty())
-        return failure(SQLITE_CANTOPEN,
-                       QStringLiteral("Cannot write %1: the folder cannot be written").arg(target));
+    if (temporary.isEmpty()) {
+        const int why = errno;
+        return systemError(QStringLiteral("Cannot write %1").arg(target), why);
+    }
     auto fail = [&](const Error& e) {
         removeWithCompanions(temporary);
         return e;

@@ -2,6 +2,7 @@
 
 #include "model/Backup.h"
 #include "model/StoreFiles.h"
+#include "platform/core/Console.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -44,10 +45,19 @@ QList<Entry> list(const QString& storePath) {
 bool due(const QString& storePath, const QDateTime& now) {
     if (!QFileInfo(storePath).isFile())
         return false;
-    const QList<Entry> all = list(storePath);
-    if (all.isEmpty())
+    // One dated after now (taken while the clock was ahead, or copied in) would hold every
+    // snapshot back until its date came: it does not count as the last one taken.
+    QDateTime newest;
+    for (const Entry& e : list(storePath)) {
+        if (e.modified > now || e.date > now.date()) {
+            Console::log(QStringLiteral("Snapshot %1 is dated in the future; ignored").arg(e.path));
+            continue;
+        }
+        if (!newest.isValid())
+            newest = e.modified;
+    }
+    if (!newest.isValid())
         return true;
-    const QDateTime newest = all.first().modified;
     if (newest.secsTo(now) < 24 * 60 * 60)
         return false;
     return std::max(modified(storePath), modified(storePath + QStringLiteral("-wal"))) > newest;

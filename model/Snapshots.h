@@ -23,7 +23,8 @@ QString folder(const QString& storePath);
 // The snapshots in the folder, newest first.
 QList<Entry> list(const QString& storePath);
 // Whether the daily snapshot is due: none younger than a day, and the store changed since the
-// newest one.
+// newest one. Snapshots dated after `now` (by their file or their name) are left out, each said
+// on the console.
 bool due(const QString& storePath, const QDateTime& now = QDateTime::currentDateTime());
 // Takes one now: "Pelvane-YYYY-MM-DD.sqlite", or with "-<occasion>" before the extension. Older
 // snapshots beyond the calendar are deleted afterwards. The snapshot's path.

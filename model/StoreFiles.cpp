@@ -5,15 +5,17 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QMutex>
-#include <QTemporaryFile>
 #include <QUrl>
 
 #include <cerrno>
+#include <climits>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <sqlite3.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace StoreFiles {
@@ -101,9 +103,9 @@ void letGoPart(const QString& path) {
 }
 } // namespace
 
-Error systemError(const QString& doing) {
+Error systemError(const QString& doing, int error) {
     return failure(SQLITE_IOERR, QStringLiteral("%1: %2").arg(
-                                     doing, QString::fromLocal8Bit(std::strerror(errno))));
+                                     doing, QString::fromLocal8Bit(std::strerror(error))));
 }
 
 // Renames `from` over `to` for good: synced first, and the folder after.
@@ -134,16 +136,37 @@ void removeWithCompanions(const QString& path) {
         QFile::remove(path + QLatin1String(part));
 }
 
-// A name beside the target for the copy being made; the file is created empty.
+// A name beside the target for the copy being made; the file is created empty. On failure errno
+// says why: a target whose name is too long is refused before anything is made.
 QString temporaryBeside(const QString& target) {
     const QFileInfo info(target);
-    QTemporaryFile file(info.absoluteDir().filePath(QLatin1Char('.') + info.fileName() +
-                                                    QStringLiteral(".XXXXXX.part")));
-    file.setAutoRemove(false);
-    if (!file.open())
+    const QByteArray folder = QFile::encodeName(info.absolutePath());
+    const long longest = ::pathconf(folder.constData(), _PC_NAME_MAX);
+    const qsizetype nameMax = longest > 0 ? qsizetype(longest) : NAME_MAX;
+    QByteArray name = QFile::encodeName(info.fileName());
+    if (name.size() > nameMax) {
+        errno = ENAMETOOLONG;
         return {};
-    holdPart(file.fileName());
-    return file.fileName();
+    }
+    // "." and ".XXXXXX.part" around the name, and room for the "-journal" SQLite puts beside
+    // the copy: a long name is cut, never inside a character, so that the temporary can exist
+    // wherever the target can.
+    static constexpr char kSuffix[] = ".XXXXXX.part";
+    static constexpr char kJournal[] = "-journal";
+    const qsizetype room = nameMax - 1 - qsizetype(sizeof kSuffix - 1 + sizeof kJournal - 1);
+    if (name.size() > room) {
+        qsizetype cut = room;
+        while (cut > 0 && (uchar(name[cut]) & 0xC0) == 0x80)
+            --cut;
+        name.truncate(cut);
+    }
+    QByteArray path = folder + "/." + name + kSuffix;
+    const int fd = ::mkostemps(path.data(), 5, O_CLOEXEC);
+    if (fd < 0)
+        return {};
+    ::close(fd);
+    holdPart(QFile::decodeName(path));
+    return QFile::decodeName(path);
 }
 
 void sweepParts(const QString& folder) {
@@ -161,41 +184,81 @@ void sweepParts(const QString& folder) {
 }
 
 namespace {
+// All of the bytes, however few each write takes; 0, or the errno of the write that failed.
+int writeAll(int fd, const char* data, qint64 size) {
+    while (size > 0) {
+        const ssize_t n = ::write(fd, data, size_t(size));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0)
+            return errno;
+        if (n == 0)
+            return EIO;
+        data += n;
+        size -= n;
+    }
+    return 0;
+}
+
 // The bytes of one file into another, a few megabytes at a time, by the kernel where it can.
-bool copyFile(const QString& from, const QString& to, const Progress& progress) {
-    QFile in(from), out(to);
-    if (!in.open(QIODevice::ReadOnly) || !out.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return false;
-    const qint64 total = in.size();
+// 0, or the errno of the call that failed.
+int copyFile(const QString& from, const QString& to, const Progress& progress) {
+    struct Descriptor {
+        int fd;
+        ~Descriptor() {
+            if (fd >= 0)
+                ::close(fd);
+        }
+    };
+    const Descriptor in{::open(QFile::encodeName(from).constData(), O_RDONLY | O_CLOEXEC)};
+    if (in.fd < 0)
+        return errno;
+    const Descriptor out{
+        ::open(QFile::encodeName(to).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)};
+    if (out.fd < 0)
+        return errno;
+    struct stat info {};
+    if (::fstat(in.fd, &info) != 0)
+        return errno;
+    const qint64 total = info.st_size;
     constexpr qint64 kChunk = 16 << 20;
     QByteArray buffer;
     for (qint64 done = 0;;) {
-        ssize_t n = buffer.isEmpty()
-                        ? ::copy_file_range(in.handle(), nullptr, out.handle(), nullptr, kChunk, 0)
-                        : -1;
+        ssize_t n = -1;
+        if (buffer.isEmpty()) {
+            n = ::copy_file_range(in.fd, nullptr, out.fd, nullptr, kChunk, 0);
+            if (n < 0 && errno == EINTR)
+                continue;
+            // Anything but "not between these two files" is the copy's own failure (a full
+            // disk); a short copy is followed by the call that says why it stopped.
+            if (n < 0 && errno != EXDEV && errno != ENOSYS && errno != EINVAL &&
+                errno != EOPNOTSUPP && errno != EPERM)
+                return errno;
+        }
         if (n < 0) {
-            // Not between these two file systems: through a buffer.
             if (buffer.isEmpty())
                 buffer.resize(kChunk);
-            n = ::read(in.handle(), buffer.data(), kChunk);
-            if (n > 0 && ::write(out.handle(), buffer.constData(), size_t(n)) != n)
-                return false;
+            n = ::read(in.fd, buffer.data(), kChunk);
+            if (n < 0 && errno == EINTR)
+                continue;
+            if (n < 0)
+                return errno;
+            if (const int error = writeAll(out.fd, buffer.constData(), n))
+                return error;
         }
-        if (n < 0)
-            return false;
         if (n == 0)
             break;
         done += n;
         if (progress)
             progress(int(done / 4096), int(total / 4096));
     }
-    return true;
+    return 0;
 }
 } // namespace
 
 Result<void> copyBytes(const QString& from, const QString& to) {
-    if (!copyFile(from, to, {}))
-        return systemError(QStringLiteral("Cannot copy %1").arg(from));
+    if (const int error = copyFile(from, to, {}))
+        return systemError(QStringLiteral("Cannot copy %1").arg(from), error);
     return {};
 }
 
@@ -213,11 +276,12 @@ Result<void> copyStore(const QString& sourcePath, const QString& destination,
     // Nothing writes to a store whose folder cannot be written: its file and its log, as they
     // are, are the store. They are copied, and the copy takes the log in when it is opened.
     if (const QFileInfo info(sourcePath); !QFileInfo(info.absolutePath()).isWritable()) {
-        if (!copyFile(sourcePath, destination, progress))
-            return systemError(QStringLiteral("Cannot copy %1").arg(sourcePath));
-        if (const QFileInfo log(sourcePath + QStringLiteral("-wal"));
-            log.size() > 0 && !copyFile(log.filePath(), destination + QStringLiteral("-wal"), {}))
-            return systemError(QStringLiteral("Cannot copy %1").arg(log.filePath()));
+        if (const int error = copyFile(sourcePath, destination, progress))
+            return systemError(QStringLiteral("Cannot copy %1").arg(sourcePath), error);
+        if (const QFileInfo log(sourcePath + QStringLiteral("-wal")); log.size() > 0)
+            if (const int error =
+                    copyFile(log.filePath(), destination + QStringLiteral("-wal"), {}))
+                return systemError(QStringLiteral("Cannot copy %1").arg(log.filePath()), error);
         Connection copy(destination, Connection::Create);
         if (!copy.ok() || !copy.exec("PRAGMA journal_mode=DELETE"))
             return copy.error();
@@ -233,10 +297,10 @@ Result<void> copyStore(const QString& sourcePath, const QString& destination,
         return source.error();
     if (const QFileInfo log(sourcePath + QStringLiteral("-wal"));
         !log.exists() || log.size() == 0) {
-        const bool copied = copyFile(sourcePath, destination, progress);
+        const int error = copyFile(sourcePath, destination, progress);
         source.exec("COMMIT");
-        if (!copied)
-            return systemError(QStringLiteral("Cannot copy %1").arg(sourcePath));
+        if (error)
+            return systemError(QStringLiteral("Cannot copy %1").arg(sourcePath), error);
         Connection copy(destination, Connection::Create);
         if (!copy.ok() || !copy.exec("PRAGMA journal_mode=DELETE"))
             return copy.error();

@@ -4,6 +4,7 @@
 #include "platform/core/Error.h"
 
 #include <QString>
+#include <cerrno>
 #include <functional>
 #include <optional>
 
@@ -15,8 +16,8 @@ namespace StoreFiles {
 using Progress = std::function<void(int done, int total)>;
 
 Error failure(int code, const QString& message);
-// The system's reason for the last failed call, after what was being done.
-Error systemError(const QString& doing);
+// The system's reason for a failed call (by default the last one), after what was being done.
+Error systemError(const QString& doing, int error = errno);
 
 // One connection, closed whatever way the function leaves.
 class Connection {
@@ -46,7 +47,8 @@ private:
 
 // Whether two paths name one file.
 bool sameFile(const QString& a, const QString& b);
-// A new empty file beside the target for the copy being made; empty when none can be made.
+// A new empty file beside the target for the copy being made; empty when none can be made,
+// with errno saying why.
 QString temporaryBeside(const QString& target);
 // Removes the copies a stopped program left half-written in the folder (".NAME.XXXXXX.part",
 // with their journals): those no running program holds.

@@ -66,7 +66,8 @@ QStringList tables();
 struct Event {
     qint64 pk = 0;
     QDateTime time;
-    QDate day;       // the calendar day the change was saved on, where it was saved
+    QDate day;       // the calendar day the change was saved on, where it was saved; never
+                     // before the day of the event saved before it
     qint64 coin = 0; // the coin's row in the store
     QString denomination, country;
     int year = 0;

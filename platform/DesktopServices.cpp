@@ -241,8 +241,15 @@ void DesktopDocumentPicker::save(QWidget* parent, const QString& suggestedPath,
 void DesktopDocumentPicker::open(QWidget* parent, const QStringList& nameFilters,
                                  std::function<void(QString)> picked,
                                  std::function<void()> cancelled) {
+    openIn(parent, QDir::homePath(), nameFilters, std::move(picked), std::move(cancelled));
+}
+
+void DesktopDocumentPicker::openIn(QWidget* parent, const QString& folder,
+                                   const QStringList& nameFilters,
+                                   std::function<void(QString)> picked,
+                                   std::function<void()> cancelled) {
     QFileDialog* dialog =
-        fileDialog(parent, QDir::homePath(), nameFilters, std::move(picked), std::move(cancelled));
+        fileDialog(parent, folder, nameFilters, std::move(picked), std::move(cancelled));
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->open();
 }

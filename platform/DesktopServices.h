@@ -52,6 +52,8 @@ class DesktopDocumentPicker : public DocumentPicker {
 public:
     void open(QWidget* parent, const QStringList& nameFilters, std::function<void(QString)> picked,
               std::function<void()> cancelled) override;
+    void openIn(QWidget* parent, const QString& folder, const QStringList& nameFilters,
+                std::function<void(QString)> picked, std::function<void()> cancelled) override;
     void save(QWidget* parent, const QString& suggestedPath, const QStringList& nameFilters,
               std::function<void(QString)> picked, std::function<void()> cancelled) override;
 };

@@ -83,6 +83,10 @@ public:
     virtual void open(QWidget* parent, const QStringList& nameFilters,
                       std::function<void(QString path)> picked,
                       std::function<void()> cancelled) = 0;
+    // The same, starting in `folder` (which exists) rather than where the platform would.
+    virtual void openIn(QWidget* parent, const QString& folder, const QStringList& nameFilters,
+                        std::function<void(QString path)> picked,
+                        std::function<void()> cancelled) = 0;
     // Where to write a new file, starting from the suggested path.
     virtual void save(QWidget* parent, const QString& suggestedPath, const QStringList& nameFilters,
                       std::function<void(QString path)> picked,

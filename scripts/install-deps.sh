@@ -15,7 +15,7 @@ packages=(
   fonts-liberation fonts-wqy-microhei
   xvfb xauth poppler-utils
   appstream desktop-file-utils
-  dpkg-dev file
+  dpkg-dev file faketime
   clang-format
 )
 

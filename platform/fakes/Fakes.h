@@ -57,18 +57,30 @@ struct FakeDocumentPicker : DocumentPicker {
     QString next; // the path the user picks; empty: cancelled
     int presented = 0;
     QString suggested; // what the last save dialog offered
-    void open(QWidget*, const QStringList&, std::function<void(QString)> picked,
+    QString folder;    // where the last open dialog started; empty: where the platform would
+    void open(QWidget* parent, const QStringList& filters, std::function<void(QString)> picked,
               std::function<void()> cancelled) override {
+        openIn(parent, QString(), filters, std::move(picked), std::move(cancelled));
+    }
+    void openIn(QWidget*, const QString& start, const QStringList&,
+                std::function<void(QString)> picked, std::function<void()> cancelled) override {
+        folder = start;
+        answer(picked, cancelled);
+    }
+    void save(QWidget*, const QString& suggestedPath, const QStringList&,
+              std::function<void(QString)> picked, std::function<void()> cancelled) override {
+        suggested = suggestedPath;
+        answer(picked, cancelled);
+    }
+
+private:
+    void answer(const std::function<void(QString)>& picked,
+                const std::function<void()>& cancelled) {
         ++presented;
         if (!next.isEmpty() && picked)
             picked(next);
         else if (cancelled)
             cancelled();
-    }
-    void save(QWidget* parent, const QString& suggestedPath, const QStringList& filters,
-              std::function<void(QString)> picked, std::function<void()> cancelled) override {
-        suggested = suggestedPath;
-        open(parent, filters, std::move(picked), std::move(cancelled));
     }
 };
 

@@ -2,6 +2,7 @@
 
 #include "model/Backup.h"
 #include "model/PersistentContainer.h"
+#include "model/Snapshots.h"
 #include "platform/Platform.h"
 #include "platform/core/Files.h"
 #include "platform/kit/AlertController.h"
@@ -145,13 +146,18 @@ void ImportExportViewController::backUpTo(const QString& file) {
 void ImportExportViewController::RestoreFromBackup() {
     if (busy_)
         return;
+    // A restore often puts a snapshot back, and their folder lies beside the store, inside a
+    // hidden one the dialog would not show: it starts there.
+    const QString snapshots =
+        Snapshots::folder(Application::delegate().persistentContainer().storePath());
+    const QString start = QDir().mkpath(snapshots) ? snapshots : QDir::homePath();
     QPointer<ImportExportViewController> self(this);
-    Platform::documentPicker().open(this, kBackupFilters,
-                                    [self](const QString& file) {
-                                        if (self)
-                                            self->checkBeforeRestoring(file);
-                                    },
-                                    {});
+    Platform::documentPicker().openIn(this, start, kBackupFilters,
+                                      [self](const QString& file) {
+                                          if (self)
+                                              self->checkBeforeRestoring(file);
+                                      },
+                                      {});
 }
 
 void ImportExportViewController::checkBeforeRestoring(const QString& file) {

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 #include <sqlite3.h>
 #include <sys/stat.h>
@@ -169,4 +170,52 @@ TEST_F(PelvaneTest, BackupKeepsWhatItMustNotReplace) {
     EXPECT_TRUE(run.errors.contains("the collection is empty and the backup holds 41 coins"))
         << qPrintable(run.errors);
     EXPECT_EQ(readFile(path("full.sqlite")), full);
+}
+
+// A backup that cannot be written says the real cause and leaves nothing in the target's
+// folder: a disk that fills up while the copy is made, a name longer than a folder takes. A long
+// name that a folder does take is written, its temporary name beside it cut to fit.
+TEST_F(PelvaneTest, ABackupThatCannotBeWrittenSaysWhy) {
+    const QString store = sampleCollection(path("a"));
+    QDir().mkpath(path("out"));
+    const QString longest = path("out/") + QString(255 - 7, 'b') + ".sqlite";
+    ProgramRun run = runProgram(path("a"), {"--backup", longest});
+    EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
+    EXPECT_EQ(QDir(path("out")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{QFileInfo(longest).fileName()});
+    // Two-byte characters: the temporary name is cut between them, never inside one.
+    const QString accented = path("out/x") + QString(123, QChar(0xe9)) + ".sqlite";
+    run = runProgram(path("a"), {"--backup", accented});
+    EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
+    EXPECT_TRUE(QFileInfo(accented).isFile());
+    QFile::remove(accented);
+
+    const QString tooLong = path("out/") + QString(256 - 7, 'c') + ".sqlite";
+    run = runProgram(path("a"), {"--backup", tooLong});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors, "The backup of " + store + " to " + tooLong + " failed: Cannot write " +
+                              tooLong + ": File name too long\n");
+    EXPECT_EQ(QDir(path("out")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{QFileInfo(longest).fileName()});
+
+    // A disk smaller than the collection, in a mount namespace of its own; what the folder
+    // holds is listed before the namespace goes.
+    const QString unshare = QStandardPaths::findExecutable(QStringLiteral("unshare"));
+    if (unshare.isEmpty() || QProcess::execute(unshare, {"-rm", "true"}) != 0)
+        GTEST_SKIP() << "no mount namespaces here";
+    constexpr qint64 kDisk = 64 * 1024;
+    ASSERT_GT(QFileInfo(store).size(), 2 * kDisk);
+    QDir().mkpath(path("small"));
+    const QString target = path("small/backup.sqlite");
+    run = runProgram(path("a"), {"--backup", target},
+                     {unshare, "-rm", "sh", "-c",
+                      QStringLiteral("mount -t tmpfs -o size=%1 tmpfs \"$0\" || exit 99; \"$@\"; "
+                                     "status=$?; echo \"left:$(ls -A \"$0\")\"; exit $status")
+                          .arg(kDisk),
+                      path("small")});
+    EXPECT_EQ(run.exitCode, 1) << qPrintable(run.errors);
+    EXPECT_TRUE(run.errors.startsWith("The backup of " + store + " to " + target + " failed: "))
+        << qPrintable(run.errors);
+    EXPECT_TRUE(run.errors.endsWith(": No space left on device\n")) << qPrintable(run.errors);
+    EXPECT_EQ(run.output, "left:\n");
 }

@@ -267,3 +267,43 @@ TEST_F(PelvaneTest, TheWindowTakesTheDailySnapshotInTheBackground) {
     window.process.terminate();
     window.process.waitForFinished();
 }
+
+// A snapshot dated in the future, by its file's time or by its name, holds no daily snapshot
+// back: each is said once and left where it is.
+TEST_F(PelvaneTest, ASnapshotDatedInTheFutureHoldsNoneBack) {
+    const QString store = dir() + "/store";
+    ASSERT_EQ(runProgram(store, {"--import", kSample}).exitCode, 0);
+    const QDate today = QDate::currentDate();
+    const QDateTime now = QDateTime::currentDateTime();
+    QDir().mkpath(store + "/Backups");
+    // Written while the clock was a year ahead; and one named for a date to come, an hour old.
+    const QString ahead =
+        store + "/Backups/Pelvane-" + today.addDays(-2).toString(Qt::ISODate) + ".sqlite";
+    const QString named =
+        store + "/Backups/Pelvane-" + today.addYears(3).toString(Qt::ISODate) + ".sqlite";
+    for (const auto& [file, time] :
+         {std::pair{ahead, now.addDays(365)}, std::pair{named, now.addSecs(-3600)}}) {
+        ASSERT_TRUE(QFile::copy(store + "/Pelvane.sqlite", file));
+        QFile f(file);
+        ASSERT_TRUE(f.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(f.setFileTime(time, QFileDevice::FileModificationTime));
+    }
+    const QString snapshot = store + "/Backups/Pelvane-" + today.toString(Qt::ISODate) + ".sqlite";
+    Running window({"--data-dir", store}, true);
+    QByteArray errors;
+    EXPECT_TRUE(waitUntil(
+        [&] {
+            errors += window.process.readAllStandardError();
+            return errors.contains("Snapshot taken: " + snapshot.toUtf8());
+        },
+        20000))
+        << errors.constData();
+    window.process.terminate();
+    window.process.waitForFinished();
+    errors += window.process.readAllStandardError();
+    for (const QString& file : {ahead, named}) {
+        EXPECT_EQ(errors.count("Snapshot " + file.toUtf8() + " is dated in the future; ignored"), 1)
+            << errors.constData();
+        EXPECT_TRUE(QFile::exists(file));
+    }
+}

@@ -1,6 +1,8 @@
 #include "Program.h"
 #include "TestSupport.h"
 
+#include <QFileInfo>
+
 // Backups and scripts run the program where there is no display at all.
 TEST_F(PelvaneTest, ExportAndImportRunWithoutADisplay) {
     auto run = [&](const QStringList& arguments) {
@@ -44,4 +46,31 @@ TEST_F(PelvaneTest, CommandLineAnswersHelpAndVersionAndRefusesTheUnknown) {
     EXPECT_TRUE(runProgram(QStringList{"--colour"}).errors.contains("Unknown option 'colour'"));
     EXPECT_TRUE(runProgram(QStringList{"--restore", "a", "--import", "b"})
                     .errors.contains("--import and --restore cannot be combined."));
+}
+
+// An option given an empty value (a script's variable left unset) is a usage error naming the
+// option: never the window, and nothing written.
+TEST_F(PelvaneTest, AnEmptyValueIsAUsageError) {
+    const QString store = dir() + "/store";
+    for (const char* option : {"--backup", "--restore", "--value-history", "--export", "--import",
+                               "--pdf", "--data-dir", "--grab", "--report"}) {
+        for (const QStringList& given :
+             {QStringList{option, ""}, QStringList{QString(option) + "="}}) {
+            const QStringList arguments =
+                QString(option) == "--data-dir" ? given : QStringList{"--data-dir", store} + given;
+            const ProgramRun r = runProgram(arguments);
+            EXPECT_EQ(r.exitCode, 2) << qPrintable(arguments.join(' '));
+            EXPECT_TRUE(r.output.isEmpty()) << qPrintable(r.output);
+            EXPECT_TRUE(r.errors.startsWith(QString("pelvane: %1 needs a ").arg(option)))
+                << qPrintable(r.errors);
+            EXPECT_TRUE(r.errors.contains("Usage: pelvane [options]")) << qPrintable(r.errors);
+        }
+    }
+    EXPECT_FALSE(QFileInfo::exists(store));
+    // An empty one among others too: the command does not run with the one that is not.
+    const ProgramRun r = runProgram(store, {"--export", "", "--export", dir() + "/coins.csv"});
+    EXPECT_EQ(r.exitCode, 2);
+    EXPECT_TRUE(r.errors.startsWith("pelvane: --export needs a FILE, and the one given is empty."))
+        << qPrintable(r.errors);
+    EXPECT_FALSE(QFileInfo::exists(dir() + "/coins.csv"));
 }

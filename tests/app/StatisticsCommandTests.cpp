@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 namespace {
 // The three figures worked out from an exchange file itself: its lines, quantities (field 11)
@@ -104,4 +105,46 @@ TEST_F(PelvaneTest, ValueHistoryWritesOneRowPerDayOfChanges) {
     r = runProgram(store, {"--value-history", csv, "--stats"});
     EXPECT_EQ(r.exitCode, 2);
     EXPECT_TRUE(runProgram(QStringList{"--help"}).output.contains("--value-history FILE"));
+}
+
+// The clock set back between imports: the days follow the order the changes were saved in, so
+// no day shows fewer pieces or less value than the changes allow, and the last row is still
+// what --stats sums.
+TEST_F(PelvaneTest, ValueHistoryFollowsTheChangesWhenTheClockIsSetBack) {
+    const QString faketime = QStandardPaths::findExecutable("faketime");
+    if (faketime.isEmpty())
+        GTEST_SKIP() << "faketime is not installed";
+    const QString store = dir() + "/store";
+    // Country, denomination, year, quantity and value of each coin on its line; every key is
+    // given, since an empty one matches no stored coin.
+    auto importAt = [&](const char* when, const QList<QStringList>& coins) {
+        QByteArray file = "[PELVANE]\n";
+        for (const QStringList& c : coins) {
+            QList<QByteArray> fields(21);
+            fields[0] = c[0].toUtf8();
+            fields[1] = c[1].toUtf8();
+            fields[8] = "M";
+            fields[18] = c[2].toUtf8();
+            fields[11] = c[3].toUtf8();
+            fields[16] = c[4].toUtf8();
+            file += fields.join('^') + '\n';
+        }
+        const QString path = dir() + "/import.csv";
+        writeFile(path, file);
+        const ProgramRun r = runProgram(store, {"--import", path}, {faketime, when});
+        EXPECT_EQ(r.exitCode, 0) << when << ": " << r.errors.toStdString();
+    };
+    importAt("2026-06-01 12:00:00",
+             {{"Chile", "10 Pesos", "1990", "5", "2.0"}, {"Peru", "1 Sol", "1991", "2", "1.5"}});
+    // A month back: four pieces fewer of the first coin, each worth more.
+    importAt("2026-05-01 12:00:00", {{"Chile", "10 Pesos", "1990", "1", "3.0"}});
+    importAt("2026-05-20 12:00:00", {{"Peru", "1 Sol", "1991", "4", "1.5"}});
+    // And forward again.
+    importAt("2026-06-03 12:00:00", {{"Rome", "1 As", "-5", "1", "4.0"}});
+
+    const QString csv = dir() + "/history.csv";
+    const ProgramRun r = runProgram(store, {"--value-history", csv});
+    ASSERT_EQ(r.exitCode, 0) << r.errors.toStdString();
+    EXPECT_EQ(readFile(csv), "date,pieces,total_value\n2026-06-01,5,9.00\n2026-06-03,6,13.00\n");
+    EXPECT_EQ(runProgram(store, {"--stats"}).output, "Coins: 3\nPieces: 6\nTotal value: 13.00\n");
 }

@@ -12,6 +12,7 @@
 #include <QDate>
 #include <QDir>
 #include <QLabel>
+#include <QFileInfo>
 
 #include <QTimer>
 #include <QToolButton>
@@ -313,4 +314,21 @@ TEST_F(ExchangeScreenTest, DamagedStoreBannerOffersTheNewestWholeSnapshot) {
     QApplication::processEvents();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(window->banner(), nullptr);
+}
+
+// Restore From Backup… opens its dialog in the snapshot folder beside the store, made when
+// there is none yet: hidden away with the store, it could not be reached otherwise.
+TEST_F(ExchangeScreenTest, RestoreOpensInTheSnapshotFolder) {
+    addCoin("1 Cent", 1909);
+    menu->performSegue("ImportExport");
+    auto* screen = topAs<ImportExportViewController>();
+    ASSERT_TRUE(screen);
+    const QString snapshots = dir() + "/Backups";
+    ASSERT_FALSE(QFileInfo::exists(snapshots));
+    QTest::mouseClick(screen->RestoreButton, Qt::LeftButton); // and cancelled
+    EXPECT_EQ(fakes.documentPicker->presented, 1);
+    EXPECT_EQ(fakes.documentPicker->folder, snapshots);
+    EXPECT_TRUE(QFileInfo(snapshots).isDir());
+    EXPECT_EQ(AlertController::current(), nullptr);
+    EXPECT_FALSE(screen->isBusy());
 }
