@@ -1,4 +1,5 @@
 #include "TestSupport.h"
+#include "platform/core/Files.h"
 #include "platform/core/NativeFiles.h"
 #include "platform/core/NativeNames.h"
 
@@ -88,4 +89,32 @@ TEST_F(PelvaneTest, FileWorkReachesNamesThatAreNotUtf8) {
               Files::fromNativeName(base + "/caf\xe9/d\xe8/") + a.value().path.section('/', -1));
     EXPECT_TRUE(Files::remove(a.value().path));
     EXPECT_FALSE(Files::status(a.value().path).exists);
+
+    ASSERT_TRUE(Files::writeAtomically(folder + "/out.csv", "whole").ok());
+    EXPECT_EQ(contentOf(base + "/caf\xe9/d\xe8/out.csv"), "whole");
+    ASSERT_TRUE(Files::copyAtomically(folder + "/out.csv", folder + "/copy.csv").ok());
+    EXPECT_EQ(contentOf(base + "/caf\xe9/d\xe8/copy.csv"), "whole");
+    EXPECT_EQ(Files::readText(folder + "/copy.csv").value(), "whole");
+}
+
+// An atomic write replaces what a symbolic link names and leaves the link; the file keeps its
+// permissions, and a new one gets those of any new file.
+TEST_F(PelvaneTest, AtomicWritesKeepLinksAndPermissions) {
+    const QByteArray real = QFile::encodeName(path("real.csv"));
+    ASSERT_TRUE(Files::writeAtomically(path("real.csv"), "earlier").ok());
+    ASSERT_EQ(::chmod(real.constData(), 0640), 0);
+    ASSERT_EQ(::symlink("real.csv", QFile::encodeName(path("link.csv")).constData()), 0);
+    ASSERT_TRUE(Files::writeAtomically(path("link.csv"), "later").ok());
+    EXPECT_TRUE(S_ISLNK([&] {
+        struct stat st {};
+        ::lstat(QFile::encodeName(path("link.csv")).constData(), &st);
+        return st.st_mode;
+    }()));
+    EXPECT_EQ(contentOf(real), "later");
+    EXPECT_EQ(modeOf(real) & 07777, 0640u);
+
+    const mode_t mask = ::umask(022);
+    ::umask(mask);
+    ASSERT_TRUE(Files::writeAtomically(path("new.csv"), "new").ok());
+    EXPECT_EQ(modeOf(QFile::encodeName(path("new.csv"))) & 07777, 0666u & ~mask);
 }
