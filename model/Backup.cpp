@@ -2,10 +2,9 @@
 
 #include "model/StoreFiles.h"
 #include "model/StoreSchema.h"
+#include "platform/core/NativeFiles.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #include <sqlite3.h>
 
@@ -14,11 +13,11 @@ using namespace StoreFiles;
 namespace Backup {
 
 Result<qint64> write(const QString& storePath, const QString& target, const Progress& progress) {
-    const QFileInfo targetInfo(target);
-    if (targetInfo.exists() && !targetInfo.isFile())
+    const Files::Status targetInfo = Files::status(target);
+    if (targetInfo.exists && !targetInfo.isFile)
         return failure(SQLITE_CANTOPEN,
                        QStringLiteral("Cannot write %1: it is not a regular file").arg(target));
-    if (!QFileInfo(storePath).isFile())
+    if (!Files::status(storePath).isFile)
         return failure(SQLITE_CANTOPEN,
                        QStringLiteral("There is no collection at %1").arg(storePath));
     for (const QString& part : {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")})
@@ -26,7 +25,7 @@ Result<qint64> write(const QString& storePath, const QString& target, const Prog
             return failure(
                 SQLITE_CANTOPEN,
                 QStringLiteral("Cannot write %1: it is the collection itself").arg(target));
-    if (!targetInfo.absoluteDir().exists())
+    if (!Files::status(Files::folderOf(target)).exists)
         return failure(SQLITE_CANTOPEN,
                        QStringLiteral("Cannot write %1: the folder does not exist").arg(target));
     const QString temporary = temporaryBeside(target);
@@ -35,7 +34,7 @@ Result<qint64> write(const QString& storePath, const QString& target, const Prog
                        QStringLiteral("Cannot write %1: the folder cannot be written").arg(target));
     auto fail = [&](const Error& e) {
         for (const char* part : {"", "-journal", "-wal", "-shm"})
-            QFile::remove(temporary + QLatin1String(part));
+            Files::remove(temporary + QLatin1String(part));
         return e;
     };
     if (const auto error = copyStore(storePath, temporary, progress); !error.ok())
@@ -62,17 +61,17 @@ Result<qint64> write(const QString& storePath, const QString& target, const Prog
 }
 
 Result<StoreInfo> inspect(const QString& path) {
-    const QFileInfo info(path);
+    const Files::Status info = Files::status(path);
     auto refuse = [&](const QString& why) {
         return failure(SQLITE_NOTADB, QStringLiteral("%1 %2").arg(path, why));
     };
-    if (!info.exists())
+    if (!info.exists)
         return refuse(QStringLiteral("does not exist"));
-    if (!info.isFile())
+    if (!info.isFile)
         return refuse(QStringLiteral("is not a regular file"));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return refuse(QStringLiteral("cannot be read: %1").arg(file.errorString()));
+    QFile file;
+    if (const Result<void> opened = Files::open(file, path, QIODevice::ReadOnly); !opened.ok())
+        return refuse(QStringLiteral("cannot be read: %1").arg(opened.error().message));
     if (file.read(16) != QByteArray("SQLite format 3\0", 16))
         return refuse(QStringLiteral("is not a Pelvane backup: it is no SQLite database"));
     file.close();
@@ -112,7 +111,7 @@ Result<StoreInfo> inspect(const QString& path) {
 }
 
 Result<qint64> coinCount(const QString& storePath) {
-    if (!QFileInfo(storePath).exists())
+    if (!Files::status(storePath).exists)
         return qint64(0);
     Connection db(storePath, Connection::Read);
     if (!db.ok())

@@ -2,9 +2,7 @@
 
 #include "model/Snapshots.h"
 #include "model/StoreFiles.h"
-
-#include <QFile>
-#include <QFileInfo>
+#include "platform/core/NativeFiles.h"
 
 #include <sqlite3.h>
 
@@ -18,7 +16,7 @@ Result<Restored> restore(const QString& storePath, const QString& file, const Up
         return info.error();
     if (sameFile(file, storePath))
         return failure(SQLITE_CANTOPEN, QStringLiteral("%1 is the collection itself").arg(file));
-    if (QFileInfo(storePath).exists() && !QFileInfo(storePath).isFile())
+    if (Files::status(storePath).exists && !Files::status(storePath).isFile)
         return failure(SQLITE_CANTOPEN, QStringLiteral("%1 is not a regular file").arg(storePath));
     Restored out;
     out.coinsAfter = info.value().coins;
@@ -31,12 +29,11 @@ Result<Restored> restore(const QString& storePath, const QString& file, const Up
 
     const QString temporary = temporaryBeside(storePath);
     if (temporary.isEmpty())
-        return failure(
-            SQLITE_CANTOPEN,
-            QStringLiteral("Cannot write into %1").arg(QFileInfo(storePath).absolutePath()));
+        return failure(SQLITE_CANTOPEN,
+                       QStringLiteral("Cannot write into %1").arg(Files::folderOf(storePath)));
     auto fail = [&](const Error& e) {
         for (const char* part : {"", "-journal", "-wal", "-shm"})
-            QFile::remove(temporary + QLatin1String(part));
+            Files::remove(temporary + QLatin1String(part));
         return e;
     };
     if (const auto error = copyStore(file, temporary, {}); !error.ok())
@@ -57,12 +54,12 @@ Result<Restored> restore(const QString& storePath, const QString& file, const Up
             if (current.ok())
                 current.exec("PRAGMA wal_checkpoint(TRUNCATE)");
         }
-        return QFileInfo::exists(storePath + QStringLiteral("-wal"));
+        return Files::status(storePath + QStringLiteral("-wal")).exists;
     };
     const Error busy = failure(
         SQLITE_BUSY, QStringLiteral("The collection is open in another Pelvane: close it and try "
                                     "again"));
-    if (QFileInfo(storePath).exists()) {
+    if (Files::status(storePath).exists) {
         if (inUse())
             return fail(busy);
         const Result<QString> snapshot =
@@ -77,7 +74,7 @@ Result<Restored> restore(const QString& storePath, const QString& file, const Up
     }
     if (const auto error = replace(temporary, storePath); !error.ok())
         return fail(error.error());
-    QFile::remove(storePath + QStringLiteral("-shm"));
+    Files::remove(storePath + QStringLiteral("-shm"));
     return out;
 }
 

@@ -1,6 +1,7 @@
 #include "model/Sqlite.h"
 
 #include "platform/core/Error.h"
+#include "platform/core/NativeNames.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -241,4 +242,10 @@ SqliteStatement& SqliteDatabase::cached(const QString& sql) {
 void SqliteDatabase::resetAll() {
     for (auto& stmt : cache_)
         stmt->reset();
+}
+
+QByteArray sqliteFileUri(const QString& path) {
+    const QByteArray name = Files::nativeName(path).toPercentEncoding("/");
+    // An absolute name after an empty authority: "file:///folder/file".
+    return (path.startsWith(QLatin1Char('/')) ? QByteArray("file://") : QByteArray("file:")) + name;
 }

@@ -1,10 +1,10 @@
 #include "model/StoreFiles.h"
 
-#include <QDir>
+#include "model/Sqlite.h"
+#include "platform/core/NativeFiles.h"
+#include "platform/core/NativeNames.h"
+
 #include <QFile>
-#include <QFileInfo>
-#include <QTemporaryFile>
-#include <QUrl>
 
 #include <cerrno>
 #include <cstring>
@@ -19,11 +19,10 @@ Error failure(int code, const QString& message) {
 }
 
 Connection::Connection(const QString& path, Mode mode) {
-    const QFileInfo info(path);
-    if (mode == Read && !(info.isWritable() && QFileInfo(info.absolutePath()).isWritable()))
+    if (mode == Read && !(Files::isWritable(path) && Files::isWritable(Files::folderOf(path))))
         mode = Inspect;
-    const QByteArray name = mode == Inspect ? QUrl::fromLocalFile(path).toEncoded() + "?mode=ro"
-                                            : QFile::encodeName(path);
+    const QByteArray name =
+        mode == Inspect ? sqliteFileUri(path) + "?mode=ro" : Files::nativeName(path);
     const int flags = mode == Inspect ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI
                       : mode == Read  ? SQLITE_OPEN_READWRITE
                                       : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
@@ -57,14 +56,14 @@ bool Connection::exec(const char* sql) const {
 }
 
 bool sameFile(const QString& a, const QString& b) {
-    const QString ca = QFileInfo(a).canonicalFilePath();
-    return !ca.isEmpty() && ca == QFileInfo(b).canonicalFilePath();
+    const QString ca = Files::canonicalName(a);
+    return !ca.isEmpty() && ca == Files::canonicalName(b);
 }
 
 namespace {
 // The file's bytes on the disk before it takes another's name, and the name in the folder after.
 bool syncFile(const QString& path) {
-    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const int fd = ::open(Files::nativeName(path).constData(), O_RDONLY | O_CLOEXEC);
     if (fd < 0)
         return false;
     const bool ok = ::fsync(fd) == 0;
@@ -82,26 +81,29 @@ Error systemError(const QString& doing) {
 Result<void> replace(const QString& from, const QString& to) {
     if (!syncFile(from))
         return systemError(QStringLiteral("Cannot write %1").arg(to));
-    if (::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
+    if (::rename(Files::nativeName(from).constData(), Files::nativeName(to).constData()) != 0)
         return systemError(QStringLiteral("Cannot replace %1").arg(to));
-    syncFile(QFileInfo(to).absolutePath());
+    syncFile(Files::folderOf(to));
     return {};
 }
 
 // A name beside the target for the copy being made; the file is created empty.
 QString temporaryBeside(const QString& target) {
-    const QFileInfo info(target);
-    QTemporaryFile file(info.absoluteDir().filePath(QLatin1Char('.') + info.fileName() +
-                                                    QStringLiteral(".XXXXXX.part")));
-    file.setAutoRemove(false);
-    return file.open() ? file.fileName() : QString();
+    const Result<Files::NewFile> file = Files::createUnique(
+        Files::folderOf(target) + QStringLiteral("/.") +
+        target.mid(target.lastIndexOf(QLatin1Char('/')) + 1) + QStringLiteral(".XXXXXX.part"));
+    if (!file.ok())
+        return {};
+    ::close(file.value().fd);
+    return file.value().path;
 }
 
 namespace {
 // The bytes of one file into another, a few megabytes at a time, by the kernel where it can.
 bool copyFile(const QString& from, const QString& to, const Progress& progress) {
-    QFile in(from), out(to);
-    if (!in.open(QIODevice::ReadOnly) || !out.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    QFile in, out;
+    if (!Files::open(in, from, QIODevice::ReadOnly).ok() ||
+        !Files::open(out, to, QIODevice::WriteOnly | QIODevice::Truncate).ok())
         return false;
     const qint64 total = in.size();
     constexpr qint64 kChunk = 16 << 20;
@@ -136,12 +138,12 @@ Result<void> copyStore(const QString& sourcePath, const QString& destination,
                        const Progress& progress) {
     // Nothing writes to a store whose folder cannot be written: its file and its log, as they
     // are, are the store. They are copied, and the copy takes the log in when it is opened.
-    if (const QFileInfo info(sourcePath); !QFileInfo(info.absolutePath()).isWritable()) {
+    if (!Files::isWritable(Files::folderOf(sourcePath))) {
         if (!copyFile(sourcePath, destination, progress))
             return systemError(QStringLiteral("Cannot copy %1").arg(sourcePath));
-        if (const QFileInfo log(sourcePath + QStringLiteral("-wal"));
-            log.size() > 0 && !copyFile(log.filePath(), destination + QStringLiteral("-wal"), {}))
-            return systemError(QStringLiteral("Cannot copy %1").arg(log.filePath()));
+        if (const Files::Status log = Files::status(sourcePath + QStringLiteral("-wal"));
+            log.size > 0 && !copyFile(log.path, destination + QStringLiteral("-wal"), {}))
+            return systemError(QStringLiteral("Cannot copy %1").arg(log.path));
         Connection copy(destination, Connection::Create);
         if (!copy.ok() || !copy.exec("PRAGMA journal_mode=DELETE"))
             return copy.error();
@@ -155,8 +157,8 @@ Result<void> copyStore(const QString& sourcePath, const QString& destination,
     // It is then copied as it is, several times faster than page by page.
     if (!source.exec("BEGIN") || !source.text("SELECT count(*) FROM sqlite_master"))
         return source.error();
-    if (const QFileInfo log(sourcePath + QStringLiteral("-wal"));
-        !log.exists() || log.size() == 0) {
+    if (const Files::Status log = Files::status(sourcePath + QStringLiteral("-wal"));
+        !log.exists || log.size == 0) {
         const bool copied = copyFile(sourcePath, destination, progress);
         source.exec("COMMIT");
         if (!copied)

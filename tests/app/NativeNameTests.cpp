@@ -58,8 +58,8 @@ void putFile(const QByteArray& file, const QByteArray& content) {
 } // namespace
 
 // Each command that writes a file writes it under the very bytes it was given: an export, a
-// value history and a report to names that differ only in a Latin-1 letter give one file each,
-// as an ASCII name would. The check that guards a full file reads that same file.
+// value history, a report and a backup to names that differ only in a Latin-1 letter give one
+// file each, as an ASCII name would. The checks that guard a full file read that same file.
 TEST_F(PelvaneTest, OutputsKeepTheBytesOfTheirNames) {
     const QByteArray data = bytes(path("data"));
     ASSERT_EQ(runProgram(path("data"), {"--import", kSample}).exitCode, 0);
@@ -74,9 +74,11 @@ TEST_F(PelvaneTest, OutputsKeepTheBytesOfTheirNames) {
         const QByteArray exported = out + "/caf" + letter + ".csv";
         const QByteArray history = out + "/history" + letter + ".csv";
         const QByteArray pdf = out + "/Pérou" + letter + ".pdf";
+        const QByteArray backup = out + "/copy" + letter + ".sqlite";
         for (const QList<QByteArray>& command : {QList<QByteArray>{"--export", exported},
                                                  {"--value-history", history},
-                                                 {"--report", "country", "Peru", "--pdf", pdf}}) {
+                                                 {"--report", "country", "Peru", "--pdf", pdf},
+                                                 {"--backup", backup}}) {
             const ProgramRun run =
                 runProgramWithBytes(QList<QByteArray>{"--data-dir", data} + command);
             EXPECT_EQ(run.exitCode, 0) << command.first().constData() << qPrintable(run.errors);
@@ -84,9 +86,11 @@ TEST_F(PelvaneTest, OutputsKeepTheBytesOfTheirNames) {
         EXPECT_EQ(contentOf(exported), contentOf(bytes(path("plain.csv"))));
         EXPECT_EQ(contentOf(history), contentOf(bytes(path("plain-history.csv"))));
         EXPECT_TRUE(contentOf(pdf).startsWith("%PDF-"));
+        EXPECT_TRUE(contentOf(backup).startsWith(QByteArray("SQLite format 3\0", 16)));
         expected << "caf" + QByteArray(letter) + ".csv"
                  << "history" + QByteArray(letter) + ".csv"
-                 << "Pérou" + QByteArray(letter) + ".pdf";
+                 << "Pérou" + QByteArray(letter) + ".pdf"
+                 << "copy" + QByteArray(letter) + ".sqlite";
     }
     std::sort(expected.begin(), expected.end());
     EXPECT_EQ(namesIn(out), expected);
@@ -97,19 +101,22 @@ TEST_F(PelvaneTest, OutputsKeepTheBytesOfTheirNames) {
     ProgramRun run = runProgramWithBytes({"--data-dir", empty, "--export", out + "/caf\xe9.csv"});
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_TRUE(run.errors.contains("the file holds 40 coins")) << qPrintable(run.errors);
+    run = runProgramWithBytes({"--data-dir", empty, "--backup", out + "/copy\xe9.sqlite"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains("the backup holds 40 coins")) << qPrintable(run.errors);
     EXPECT_EQ(contentOf(out + "/caf\xe9.csv"), contentOf(bytes(path("plain.csv"))));
     EXPECT_EQ(namesIn(out), expected);
 }
 
-// Files given to read are read under their bytes: an import from a Latin-1 name; a name that
-// differs in that letter is another file, which is missing.
+// Files given to read are read under their bytes: an import from a Latin-1 name, and a restore
+// from a backup so named; a name that differs in that letter is another file, which is missing.
 TEST_F(PelvaneTest, InputsAreReadByTheBytesOfTheirNames) {
     const QByteArray out = bytes(path("out"));
     ASSERT_EQ(::mkdir(out.constData(), 0755), 0);
     const RemovedAtEnd removed{path("out")};
     const QByteArray sample = out + "/P\xe9rou.csv";
     putFile(sample, contentOf(bytes(kSample)));
-    const QByteArray first = bytes(path("first"));
+    const QByteArray first = bytes(path("first")), second = bytes(path("second"));
 
     ProgramRun run = runProgramWithBytes({"--data-dir", first, "--import", sample});
     EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
@@ -117,5 +124,16 @@ TEST_F(PelvaneTest, InputsAreReadByTheBytesOfTheirNames) {
     run = runProgramWithBytes({"--data-dir", first, "--import", out + "/P\xe8rou.csv"});
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_TRUE(run.errors.contains("No such file or directory")) << qPrintable(run.errors);
-    EXPECT_EQ(namesIn(out), QList<QByteArray>{"P\xe9rou.csv"});
+
+    ASSERT_EQ(
+        runProgramWithBytes({"--data-dir", first, "--backup", out + "/b\xe9.sqlite"}).exitCode, 0);
+    run = runProgramWithBytes({"--data-dir", second, "--restore", out + "/b\xe8.sqlite"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains("does not exist")) << qPrintable(run.errors);
+    run = runProgramWithBytes({"--data-dir", second, "--restore", out + "/b\xe9.sqlite"});
+    EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
+    EXPECT_TRUE(run.output.startsWith("Restored 40 coins from ")) << qPrintable(run.output);
+    run = runProgram(path("second"), {"--stats"});
+    EXPECT_TRUE(run.output.startsWith("Coins: 40\n")) << qPrintable(run.output);
+    EXPECT_EQ(namesIn(out), (QList<QByteArray>{"P\xe9rou.csv", "b\xe9.sqlite"}));
 }
