@@ -1,6 +1,7 @@
 #include "model/Snapshots.h"
 
 #include "model/Backup.h"
+#include "platform/core/NativeFiles.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -15,8 +16,8 @@ constexpr int kDays = 7, kWeeks = 4, kMonths = 6;
 const QString kPrefix = QStringLiteral("Pelvane-");
 
 QDateTime modified(const QString& path) {
-    const QFileInfo info(path);
-    return info.exists() ? info.lastModified() : QDateTime();
+    const Files::Status info = Files::status(path);
+    return info.exists ? info.modified : QDateTime();
 }
 } // namespace
 
@@ -26,13 +27,12 @@ QString folder(const QString& storePath) {
 
 QList<Entry> list(const QString& storePath) {
     QList<Entry> out;
-    const QDir dir(folder(storePath));
-    for (const QFileInfo& info :
-         dir.entryInfoList({kPrefix + QStringLiteral("*.sqlite")}, QDir::Files)) {
+    for (const Files::Status& info :
+         Files::filesIn(folder(storePath), {kPrefix + QStringLiteral("*.sqlite")})) {
         const QDate date = QDate::fromString(info.fileName().mid(kPrefix.size(), 10),
                                              QStringLiteral("yyyy-MM-dd"));
         if (date.isValid())
-            out.append({info.absoluteFilePath(), date, info.size(), info.lastModified()});
+            out.append({info.path, date, info.size, info.modified});
     }
     std::sort(out.begin(), out.end(), [](const Entry& a, const Entry& b) {
         return a.modified != b.modified ? a.modified > b.modified : a.path > b.path;
@@ -41,7 +41,7 @@ QList<Entry> list(const QString& storePath) {
 }
 
 bool due(const QString& storePath, const QDateTime& now) {
-    if (!QFileInfo(storePath).isFile())
+    if (!Files::status(storePath).isFile)
         return false;
     const QList<Entry> all = list(storePath);
     if (all.isEmpty())
@@ -54,7 +54,7 @@ bool due(const QString& storePath, const QDateTime& now) {
 
 Result<QString> take(const QString& storePath, const QString& occasion, const QDate& today) {
     const QString dir = folder(storePath);
-    if (!QDir().mkpath(dir))
+    if (!Files::makePath(dir))
         return Error::because(14, QStringLiteral("Cannot make the folder %1").arg(dir));
     QString name = kPrefix + today.toString(QStringLiteral("yyyy-MM-dd"));
     // A snapshot taken for an occasion never replaces one taken earlier that day.
@@ -109,13 +109,12 @@ void prune(const QString& storePath, const QDate& today) {
     const QList<QDate> keep = kept(dates);
     for (const Entry& e : all)
         if (e.date <= today && !keep.contains(e.date))
-            QFile::remove(e.path);
+            Files::remove(e.path);
     // Copies a stopped program left half-written; one being written now is younger than this.
-    const QDir dir(folder(storePath));
-    for (const QFileInfo& part :
-         dir.entryInfoList({QStringLiteral(".Pelvane-*.part*")}, QDir::Files | QDir::Hidden))
-        if (part.lastModified().secsTo(QDateTime::currentDateTime()) > 60 * 60)
-            QFile::remove(part.absoluteFilePath());
+    for (const Files::Status& part :
+         Files::filesIn(folder(storePath), {QStringLiteral(".Pelvane-*.part*")}))
+        if (part.modified.secsTo(QDateTime::currentDateTime()) > 60 * 60)
+            Files::remove(part.path);
 }
 
 } // namespace Snapshots

@@ -137,3 +137,44 @@ TEST_F(PelvaneTest, InputsAreReadByTheBytesOfTheirNames) {
     EXPECT_TRUE(run.output.startsWith("Coins: 40\n")) << qPrintable(run.output);
     EXPECT_EQ(namesIn(out), (QList<QByteArray>{"P\xe9rou.csv", "b\xe9.sqlite"}));
 }
+
+// A data folder named in Latin-1 holds the collection, its snapshots, its documents and its
+// preferences; nothing goes to a folder of a similar name, and the folder whose name differs in
+// that letter is another collection.
+TEST_F(PelvaneTest, DataFolderKeepsTheBytesOfItsName) {
+    const QByteArray parent = bytes(path("parent"));
+    ASSERT_EQ(::mkdir(parent.constData(), 0755), 0);
+    const RemovedAtEnd removed{path("parent")};
+    const QByteArray data = parent + "/coins\xe9";
+    ProgramRun run = runProgramWithBytes({"--data-dir", data, "--import", bytes(kSample)});
+    ASSERT_EQ(run.exitCode, 0) << qPrintable(run.errors);
+    EXPECT_TRUE(namesIn(data).contains("Pelvane.sqlite"));
+    run = runProgramWithBytes({"--data-dir", data, "--stats"});
+    EXPECT_TRUE(run.output.startsWith("Coins: 40\n")) << qPrintable(run.output);
+    run = runProgramWithBytes({"--data-dir", parent + "/coins\xe8", "--stats"});
+    EXPECT_TRUE(run.output.startsWith("Coins: 0\n")) << qPrintable(run.output);
+
+    // The report without --pdf goes to the documents folder inside it.
+    run = runProgramWithBytes({"--data-dir", data, "--report", "country", "Peru"});
+    EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
+    EXPECT_TRUE(contentOf(data + "/Documents/CoinListByCountry.pdf").startsWith("%PDF-"));
+    // A restore keeps the collection as a snapshot in its Backups folder, which lists it.
+    ASSERT_EQ(
+        runProgramWithBytes({"--data-dir", data, "--backup", bytes(path("b.sqlite"))}).exitCode, 0);
+    run = runProgramWithBytes({"--data-dir", data, "--restore", bytes(path("b.sqlite"))});
+    EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
+    const QList<QByteArray> snapshots = namesIn(data + "/Backups");
+    ASSERT_EQ(snapshots.size(), 1);
+    EXPECT_TRUE(snapshots.first().contains("before-restore")) << snapshots.first().constData();
+    run = runProgramWithBytes({"--data-dir", data, "--backups"});
+    EXPECT_TRUE(run.output.contains(QString::fromUtf8(snapshots.first())))
+        << qPrintable(run.output);
+    // A window session keeps its preferences there too, and saves its picture by name.
+    run = runProgramWithBytes({"--data-dir", data, "--grab", parent + "/shot\xe9.png"},
+                              {"env", "QT_QPA_PLATFORM=offscreen"});
+    EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
+    EXPECT_TRUE(contentOf(parent + "/shot\xe9.png").startsWith("\x89PNG"));
+    EXPECT_TRUE(namesIn(data).contains("Pelvane.ini"));
+
+    EXPECT_EQ(namesIn(parent), (QList<QByteArray>{"coins\xe8", "coins\xe9", "shot\xe9.png"}));
+}
