@@ -144,6 +144,11 @@ Result<void> open(QFile& file, const QString& path, QIODevice::OpenMode mode) {
     const int fd = ::open(nativeName(path).constData(), flags, 0666);
     if (fd < 0)
         return systemReason();
+    // A folder opens for reading, but holds no bytes: refused, as QFile refuses it.
+    if (struct stat st{}; !writes && ::fstat(fd, &st) == 0 && S_ISDIR(st.st_mode)) {
+        ::close(fd);
+        return Error::because(ErrorCode::CantOpen, qt_error_string(EISDIR));
+    }
     if (!file.open(fd, mode & ~(QIODevice::Truncate | QIODevice::NewOnly | QIODevice::ExistingOnly),
                    QFileDevice::AutoCloseHandle)) {
         const QString why = file.errorString();

@@ -75,6 +75,9 @@ TEST_F(PelvaneTest, FileWorkReachesNamesThatAreNotUtf8) {
     ASSERT_FALSE(opened.ok());
     EXPECT_EQ(opened.error().message, "No such file or directory");
     EXPECT_FALSE(Files::status(folder + "/missing").exists);
+    const Result<QString> aFolder = Files::readText(folder);
+    ASSERT_FALSE(aFolder.ok());
+    EXPECT_EQ(aFolder.error().message, "Is a directory");
 
     // New files are new, each of its own, private until renamed.
     const Result<Files::NewFile> a = Files::createUnique(folder + "/.new.XXXXXX.part");
