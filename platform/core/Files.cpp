@@ -120,6 +120,9 @@ public:
     Result<void> open() {
         struct stat existing {};
         const bool replaces = ::stat(nativeName(target_).constData(), &existing) == 0;
+        // A file this process may not write is not replaced, though its folder would allow it.
+        if (replaces && ::access(nativeName(target_).constData(), W_OK) != 0)
+            return Error::because(ErrorCode::CantOpen, qt_error_string(errno));
         const Result<NewFile> made = createUnique(target_ + QStringLiteral(".XXXXXX"), 0666);
         if (!made.ok())
             return made.error();
