@@ -2,6 +2,7 @@
 
 #include "model/PersistentContainer.h"
 #include "platform/core/Files.h"
+#include "platform/core/NativeFiles.h"
 #include "platform/core/UserDefaults.h"
 
 #include <QCommandLineParser>
@@ -206,10 +207,12 @@ LaunchOptions parseLaunchOptions(const QStringList& given) {
 }
 
 void useDataDirectory(const QString& dir) {
-    const QString absolute = QDir(dir).absolutePath();
-    QDir().mkpath(absolute);
+    const QString absolute = Files::absoluteName(dir);
+    Files::makePath(absolute);
     PersistentContainer::setDefaultDirectory(absolute);
-    UserDefaults::useFile(QDir(absolute).filePath(QStringLiteral("Pelvane.ini")));
+    // The preferences are read and written by Qt, which is given a name it can reach the
+    // folder by.
+    UserDefaults::useFile(QDir(Files::nameForQt(absolute)).filePath(QStringLiteral("Pelvane.ini")));
     Files::setDocumentsDirectory(QDir(absolute).filePath(QStringLiteral("Documents")));
     Files::setPicturesDirectory(QDir(absolute).filePath(QStringLiteral("Pictures")));
 }

@@ -6,12 +6,12 @@
 #include "model/Snapshots.h"
 #include "model/StoreLock.h"
 #include "platform/core/Console.h"
+#include "platform/core/NativeFiles.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/ViewController.h"
 #include "platform/kit/Window.h"
 
-#include <QFileInfo>
 #include <QFutureWatcher>
 #include <QLocale>
 #include <QTimer>
@@ -38,7 +38,7 @@ QString storePath() {
 int backup(const QString& file) {
     // A mistyped data folder must not put an empty collection over a full backup.
     if (const Result<qint64> held = Backup::coinCount(file);
-        QFileInfo(file).isFile() && held.ok() && held.value() > 0) {
+        Files::status(file).isFile && held.ok() && held.value() > 0) {
         const Result<qint64> ours = Backup::coinCount(storePath());
         if (ours.ok() && ours.value() == 0) {
             say(QStringLiteral("Not writing %1: the collection is empty and the backup holds %2. "

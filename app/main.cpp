@@ -7,6 +7,7 @@
 #include "exchange/ExchangeCommands.h"
 #include "model/StoreLock.h"
 #include "platform/core/Files.h"
+#include "platform/core/NativeNames.h"
 #include "platform/core/ProtectedFiles.h"
 #include "platform/core/UserDefaults.h"
 #include "platform/kit/Appearance.h"
@@ -18,6 +19,7 @@
 #include "screens/menu/MainMenuViewController.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QMessageBox>
@@ -114,9 +116,11 @@ int runReport(int argc, char** argv, const LaunchOptions& options) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // File names are bytes, not always UTF-8: each is kept as given, so that it names the same
+    // file when it goes back to the system.
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
-        arguments << QString::fromLocal8Bit(argv[i]);
+        arguments << Files::fromNativeName(QByteArray(argv[i]));
     // A stopped run of the program starts it again like this to show why it stopped.
     if (arguments.size() == 3 && arguments[1] == QLatin1String(FatalMessage::kOption)) {
         QApplication app(argc, argv);
@@ -179,7 +183,19 @@ int main(int argc, char** argv) {
         menu->HandleButtonClick();
     if (!options.grabFile.isEmpty()) {
         QTimer::singleShot(700, &window, [&window, file = options.grabFile] {
-            window.grab().save(file);
+            // In the format the name's suffix gives (PNG without one), written as every output.
+            const qsizetype dot = file.lastIndexOf(QLatin1Char('.'));
+            const QByteArray format = dot > file.lastIndexOf(QLatin1Char('/'))
+                                          ? file.mid(dot + 1).toLatin1()
+                                          : QByteArray("png");
+            QBuffer picture;
+            picture.open(QIODevice::WriteOnly);
+            if (!window.grab().save(&picture, format.constData()))
+                std::fprintf(stderr, "Cannot save the picture as %s\n", format.constData());
+            else if (const Result<void> written = Files::writeAtomically(file, picture.data());
+                     !written.ok())
+                std::fprintf(stderr, "Cannot write %s: %s\n", qPrintable(file),
+                             qPrintable(written.error().message));
             QApplication::quit();
         });
     }

@@ -5,9 +5,9 @@
 #include "model/ManagedObjectContext.h"
 #include "model/PersistentContainer.h"
 #include "platform/core/Files.h"
+#include "platform/core/NativeFiles.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <cstdio>
 
@@ -22,8 +22,8 @@ void say(const QString& line) {
 namespace {
 // The coins an exchange file at the path holds: its lines after the marker.
 qsizetype coinsInFile(const QString& file) {
-    QFile in(file);
-    if (!QFileInfo(file).isFile() || !in.open(QIODevice::ReadOnly))
+    QFile in;
+    if (!Files::status(file).isFile || !Files::open(in, file, QIODevice::ReadOnly).ok())
         return 0;
     const QByteArray text = in.readAll();
     const qsizetype marker = text.indexOf(Marker);
@@ -73,14 +73,13 @@ int runExport(ManagedObjectContext& context, const QString& file, const QString&
 
 int runImport(ManagedObjectContext& context, const QString& file, PersistentContainer* store) {
     // A device or a pipe may never end (/dev/zero): only a file of known size is read.
-    const QFileInfo info(file);
-    if (info.exists() && !info.isFile()) {
+    if (const Files::Status info = Files::status(file); info.exists && !info.isFile) {
         say(QStringLiteral("Cannot read %1: it is not a regular file").arg(file));
         return 1;
     }
-    QFile in(file);
-    if (!in.open(QIODevice::ReadOnly)) {
-        say(QStringLiteral("Cannot read %1: %2").arg(file, in.errorString()));
+    QFile in;
+    if (const Result<void> opened = Files::open(in, file, QIODevice::ReadOnly); !opened.ok()) {
+        say(QStringLiteral("Cannot read %1: %2").arg(file, opened.error().message));
         return 1;
     }
     std::optional<QByteArray> text = utf8Text(in.readAll());

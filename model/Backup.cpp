@@ -5,10 +5,9 @@
 #include "model/StoreLock.h"
 #include "model/StoreSchema.h"
 #include "platform/core/Files.h"
+#include "platform/core/NativeFiles.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #include <sqlite3.h>
 
@@ -19,10 +18,10 @@ namespace Backup {
 namespace {
 Result<qint64> copyOf(const QString& storePath, const QString& target, const Progress& progress,
                       bool overExisting) {
-    if (!QFileInfo(storePath).isFile())
+    if (!Files::status(storePath).isFile)
         return failure(SQLITE_CANTOPEN,
                        QStringLiteral("There is no collection at %1").arg(storePath));
-    if (!QFileInfo(target).absoluteDir().exists())
+    if (!Files::status(Files::folderOf(target)).isDir)
         return failure(SQLITE_CANTOPEN,
                        QStringLiteral("Cannot write %1: the folder does not exist").arg(target));
     // The store's file stays the one this reads from: no restore swaps it meanwhile.
@@ -30,7 +29,7 @@ Result<qint64> copyOf(const QString& storePath, const QString& target, const Pro
         StoreLock::acquire(storePath, StoreLock::Reading, QStringLiteral("a backup"));
     if (!lock.ok())
         return lock.error();
-    sweepParts(QFileInfo(target).absolutePath());
+    sweepParts(Files::folderOf(target));
     const QString temporary = temporaryBeside(target);
     if (temporary.isEmpty()) {
         const int why = errno;
@@ -122,17 +121,17 @@ Result<StoreInfo> checkOpen(const Connection& db, const QString& path) {
 }
 
 Result<void> looksLikeStore(const QString& path) {
-    const QFileInfo info(path);
+    const Files::Status info = Files::status(path);
     auto refuse = [&](const QString& why) {
         return failure(SQLITE_NOTADB, QStringLiteral("%1 %2").arg(path, why));
     };
-    if (!info.exists())
+    if (!info.exists)
         return refuse(QStringLiteral("does not exist"));
-    if (!info.isFile())
+    if (!info.isFile)
         return refuse(QStringLiteral("is not a regular file"));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return refuse(QStringLiteral("cannot be read: %1").arg(file.errorString()));
+    QFile file;
+    if (const Result<void> opened = Files::open(file, path, QIODevice::ReadOnly); !opened.ok())
+        return refuse(QStringLiteral("cannot be read: %1").arg(opened.error().message));
     if (file.read(16) != QByteArray("SQLite format 3\0", 16))
         return refuse(QStringLiteral("is not a Pelvane backup: it is no SQLite database"));
     return {};
@@ -149,7 +148,7 @@ Result<StoreInfo> inspect(const QString& path) {
 }
 
 std::optional<QString> damageOf(const QString& storePath) {
-    if (!QFileInfo::exists(storePath))
+    if (!Files::status(storePath).exists)
         return {};
     Connection db(storePath, Connection::Inspect);
     if (!db.ok())
@@ -164,7 +163,7 @@ std::optional<QString> damageOf(const QString& storePath) {
 }
 
 Result<qint64> coinCount(const QString& storePath) {
-    if (!QFileInfo(storePath).exists())
+    if (!Files::status(storePath).exists)
         return qint64(0);
     Connection db(storePath, Connection::Read);
     if (!db.ok())

@@ -6,10 +6,11 @@
 #include "model/Sqlite.h"
 #include "model/StoreFiles.h"
 #include "model/ValueHistory.h"
+#include "platform/core/NativeFiles.h"
+#include "platform/core/NativeNames.h"
 #include "platform/core/ProtectedFiles.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <sqlite3.h>
@@ -143,7 +144,7 @@ void PersistentContainer::loadPersistentStores(const Completion& completion) {
     }
     if (opened.ok()) {
         // What killed backups and restores left half-written beside the store goes first.
-        StoreFiles::sweepParts(QFileInfo(Files::resolved(description.path)).absolutePath());
+        StoreFiles::sweepParts(Files::folderOf(Files::resolved(description.path)));
         StoreFiles::sweepParts(Snapshots::folder(description.path));
         opened = open(description.path, true);
     }
@@ -159,7 +160,7 @@ bool PersistentContainer::storeFileIntact() {
     if (!db_ || isMemory(path_))
         return true;
     struct stat now {};
-    if (::stat(QFile::encodeName(path_).constData(), &now) != 0 || quint64(now.st_dev) != device_ ||
+    if (::stat(Files::nativeName(path_).constData(), &now) != 0 || quint64(now.st_dev) != device_ ||
         quint64(now.st_ino) != inode_ || qint64(now.st_size) < largestSize_)
         return false;
     largestSize_ = qint64(now.st_size);
@@ -230,18 +231,18 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
             db_.reset();
         return e;
     };
-    QDir().mkpath(QFileInfo(path).absolutePath());
+    Files::makePath(Files::folderOf(path));
     // An empty file where a store was (a disk that lost it) is not taken for a new store:
     // filling it with an empty collection would let the next export replace the last backup.
-    if (const QFileInfo file(path);
-        file.isFile() && file.size() == 0 && !QFileInfo::exists(path + QLatin1String("-wal")))
+    if (const Files::Status file = Files::status(path);
+        file.isFile && file.size == 0 && !Files::status(path + QLatin1String("-wal")).exists)
         return failure(SQLITE_NOTADB, QStringLiteral("the store file is empty"));
     if (!db_)
         db_ = std::make_unique<SqliteDatabase>();
     if (!db_->open(path))
         return failure(db_->errorCode(), db_->errorMessage());
     struct stat file {};
-    if (::stat(QFile::encodeName(path).constData(), &file) == 0) {
+    if (::stat(Files::nativeName(path).constData(), &file) == 0) {
         device_ = quint64(file.st_dev);
         inode_ = quint64(file.st_ino);
         largestSize_ = qint64(file.st_size);

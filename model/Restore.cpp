@@ -5,12 +5,11 @@
 #include "model/StoreFiles.h"
 #include "model/StoreLock.h"
 #include "model/StoreSchema.h"
+#include "platform/core/NativeFiles.h"
+#include "platform/core/NativeNames.h"
 #include "platform/core/ProtectedFiles.h"
 
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 #include <sqlite3.h>
 #include <sys/stat.h>
@@ -21,6 +20,12 @@ using namespace StoreFiles;
 namespace Backup {
 
 namespace {
+// "Pelvane" of "Pelvane.sqlite".
+QString baseName(const QString& fileName) {
+    const qsizetype dot = fileName.lastIndexOf(QLatin1Char('.'));
+    return dot > 0 ? fileName.left(dot) : fileName;
+}
+
 // A store that cannot be read as a whole collection, as opposed to one that cannot be reached.
 bool isDamage(const Error& e) {
     switch (e.code & 0xff) {
@@ -42,26 +47,26 @@ bool isDamage(const Error& e) {
 // The damaged store, its log and its journal, renamed beside it under one new name each; never
 // copied (a copy through SQLite would need it readable) and never deleted.
 Result<QString> moveAside(const QString& real) {
-    const QFileInfo info(real);
+    const Files::Status info = Files::status(real);
     const QString stamp =
         QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd-HHmmss-zzz"));
     for (int n = 1; n < 100; ++n) {
         const QString name = QStringLiteral("%1-damaged-%2%3.sqlite")
-                                 .arg(info.completeBaseName(), stamp,
+                                 .arg(baseName(info.fileName()), stamp,
                                       n == 1 ? QString() : QStringLiteral("-%1").arg(n));
-        const QString aside = info.absoluteDir().filePath(name);
-        if (QFileInfo::exists(aside) || QFileInfo::exists(aside + QStringLiteral("-wal")))
+        const QString aside = Files::folderOf(real) + QLatin1Char('/') + name;
+        if (Files::status(aside).exists || Files::status(aside + QStringLiteral("-wal")).exists)
             continue;
         for (const char* part : {"-wal", "-journal"})
-            if (QFileInfo::exists(real + QLatin1String(part)))
+            if (Files::status(real + QLatin1String(part)).exists)
                 if (const auto moved =
                         placeNew(real + QLatin1String(part), aside + QLatin1String(part));
                     !moved.ok())
                     return moved.error();
-        if (QFileInfo::exists(real))
+        if (Files::status(real).exists)
             if (const auto moved = placeNew(real, aside); !moved.ok())
                 return moved.error();
-        QFile::remove(real + QStringLiteral("-shm"));
+        Files::remove(real + QStringLiteral("-shm"));
         return aside;
     }
     return failure(
@@ -82,27 +87,27 @@ Result<std::shared_ptr<Candidate>> prepare(const QString& storePath, const QStri
     if (sameFile(file, storePath))
         return failure(SQLITE_CANTOPEN, QStringLiteral("%1 is the collection itself").arg(file));
     const QString real = Files::resolved(storePath);
-    if (QFileInfo(real).exists() && !QFileInfo(real).isFile())
+    if (Files::status(real).exists && !Files::status(real).isFile)
         return failure(SQLITE_CANTOPEN, QStringLiteral("%1 is not a regular file").arg(real));
-    QDir().mkpath(QFileInfo(real).absolutePath());
-    sweepParts(QFileInfo(real).absolutePath());
+    Files::makePath(Files::folderOf(real));
+    sweepParts(Files::folderOf(real));
     auto candidate = std::make_shared<Candidate>();
     candidate->file_ = file;
     candidate->copy_ = temporaryBeside(real);
     const QString& copy = candidate->copy_;
     if (copy.isEmpty())
         return failure(SQLITE_CANTOPEN,
-                       QStringLiteral("Cannot write into %1").arg(QFileInfo(real).absolutePath()));
+                       QStringLiteral("Cannot write into %1").arg(Files::folderOf(real)));
     // The file as it is, and its log: read, never opened by SQLite, so never changed.
     if (const auto copied = copyBytes(file, copy); !copied.ok())
         return failure(copied.error().code,
                        QStringLiteral("Cannot copy %1: %2").arg(file, copied.error().message));
-    if (const QFileInfo log(file + QStringLiteral("-wal")); log.isFile() && log.size() > 0)
-        if (const auto copied = copyBytes(log.filePath(), copy + QStringLiteral("-wal"));
-            !copied.ok())
+    if (const Files::Status log = Files::status(file + QStringLiteral("-wal"));
+        log.isFile && log.size > 0)
+        if (const auto copied = copyBytes(log.path, copy + QStringLiteral("-wal")); !copied.ok())
             return failure(
                 copied.error().code,
-                QStringLiteral("Cannot copy %1: %2").arg(log.filePath(), copied.error().message));
+                QStringLiteral("Cannot copy %1: %2").arg(log.path, copied.error().message));
     {
         Connection db(copy, Connection::Create);
         if (!db.ok() || !db.exec("PRAGMA journal_mode=DELETE"))
@@ -135,8 +140,8 @@ Result<Restored> restore(const QString& storePath, Candidate& candidate) {
     Restored out;
     out.coinsAfter = candidate.info_.coins;
     struct stat before {};
-    const bool existed = ::stat(QFile::encodeName(real).constData(), &before) == 0;
-    const bool logOnly = !existed && QFileInfo::exists(real + QStringLiteral("-wal"));
+    const bool existed = ::stat(Files::nativeName(real).constData(), &before) == 0;
+    const bool logOnly = !existed && Files::status(real + QStringLiteral("-wal")).exists;
     if (existed || logOnly) {
         // The log goes into the file first (and with the last connection, away): the file alone
         // is then the collection, to be kept whole.
@@ -153,7 +158,7 @@ Result<Restored> restore(const QString& storePath, Candidate& candidate) {
                 QStringLiteral("Cannot read the collection: %1").arg(held.error().message));
         // Pelvane's own programs wait for the lock; another program that has the file open
         // keeps its log, and would lay it over the new file.
-        if (!damaged && QFileInfo::exists(real + QStringLiteral("-wal")))
+        if (!damaged && Files::status(real + QStringLiteral("-wal")).exists)
             return failure(SQLITE_BUSY, QStringLiteral("The collection is open in another "
                                                        "program: close it and try again"));
         if (!damaged) {
@@ -183,8 +188,8 @@ Result<Restored> restore(const QString& storePath, Candidate& candidate) {
     pauseForTests("restore-swap");
     // Nothing of the old file may stay beside the new one: its log would be laid over it.
     for (const char* part : {"-wal", "-shm", "-journal"})
-        QFile::remove(real + QLatin1String(part));
-    const QByteArray copyName = QFile::encodeName(candidate.copy_);
+        Files::remove(real + QLatin1String(part));
+    const QByteArray copyName = Files::nativeName(candidate.copy_);
     if (existed) {
         ::chmod(copyName.constData(), before.st_mode & 07777);
         if (::chown(copyName.constData(), before.st_uid, before.st_gid) != 0) {

@@ -3,6 +3,7 @@
 #include "model/Backup.h"
 #include "model/StoreFiles.h"
 #include "platform/core/Console.h"
+#include "platform/core/NativeFiles.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -17,8 +18,8 @@ constexpr int kDays = 7, kWeeks = 4, kMonths = 6;
 const QString kPrefix = QStringLiteral("Pelvane-");
 
 QDateTime modified(const QString& path) {
-    const QFileInfo info(path);
-    return info.exists() ? info.lastModified() : QDateTime();
+    const Files::Status info = Files::status(path);
+    return info.exists ? info.modified : QDateTime();
 }
 } // namespace
 
@@ -28,13 +29,12 @@ QString folder(const QString& storePath) {
 
 QList<Entry> list(const QString& storePath) {
     QList<Entry> out;
-    const QDir dir(folder(storePath));
-    for (const QFileInfo& info :
-         dir.entryInfoList({kPrefix + QStringLiteral("*.sqlite")}, QDir::Files)) {
+    for (const Files::Status& info :
+         Files::filesIn(folder(storePath), {kPrefix + QStringLiteral("*.sqlite")})) {
         const QDate date = QDate::fromString(info.fileName().mid(kPrefix.size(), 10),
                                              QStringLiteral("yyyy-MM-dd"));
         if (date.isValid())
-            out.append({info.absoluteFilePath(), date, info.size(), info.lastModified()});
+            out.append({info.path, date, info.size, info.modified});
     }
     std::sort(out.begin(), out.end(), [](const Entry& a, const Entry& b) {
         return a.modified != b.modified ? a.modified > b.modified : a.path > b.path;
@@ -43,7 +43,7 @@ QList<Entry> list(const QString& storePath) {
 }
 
 bool due(const QString& storePath, const QDateTime& now) {
-    if (!QFileInfo(storePath).isFile())
+    if (!Files::status(storePath).isFile)
         return false;
     // One dated after now (taken while the clock was ahead, or copied in) would hold every
     // snapshot back until its date came: it does not count as the last one taken.
@@ -65,7 +65,7 @@ bool due(const QString& storePath, const QDateTime& now) {
 
 Result<QString> take(const QString& storePath, const QString& occasion, const QDate& today) {
     const QString dir = folder(storePath);
-    if (!QDir().mkpath(dir))
+    if (!Files::makePath(dir))
         return Error::because(14, QStringLiteral("Cannot make the folder %1").arg(dir));
     QString name = kPrefix + today.toString(QStringLiteral("yyyy-MM-dd"));
     // A snapshot taken for an occasion never replaces one taken earlier, even in the same
@@ -80,11 +80,11 @@ Result<QString> take(const QString& storePath, const QString& occasion, const QD
         if (n > 2)
             candidate += QStringLiteral("-%1").arg(n);
         const QString path = QDir(dir).filePath(candidate + QStringLiteral(".sqlite"));
-        if (QFileInfo::exists(path) && n < 100)
+        if (Files::status(path).exists && n < 100)
             continue;
         const Result<qint64> written = Backup::writeNew(storePath, path);
         // Taken by another snapshot between the look and the rename: the next name.
-        if (!written.ok() && QFileInfo::exists(path) && n < 100)
+        if (!written.ok() && Files::status(path).exists && n < 100)
             continue;
         if (!written.ok())
             return written.error();
@@ -133,7 +133,7 @@ void prune(const QString& storePath, const QDate& today) {
     const QList<QDate> keep = kept(dates);
     for (const Entry& e : all)
         if (e.date <= today && !keep.contains(e.date))
-            QFile::remove(e.path);
+            Files::remove(e.path);
     // Copies a stopped program left half-written.
     StoreFiles::sweepParts(folder(storePath));
 }

@@ -1,11 +1,11 @@
 #include "model/Sqlite.h"
 
 #include "platform/core/Error.h"
+#include "platform/core/Files.h"
+#include "platform/core/NativeFiles.h"
+#include "platform/core/NativeNames.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
-#include <QUrl>
 
 #include <sqlite3.h>
 #include <sys/statvfs.h>
@@ -146,8 +146,8 @@ namespace {
 // Whether the file, or the folder that would hold its journal, refuses writing. A folder that
 // refuses new files leaves a store in WAL mode unreadable unless it is opened as immutable.
 bool writable(const QString& path, bool* folderWritable) {
-    const QByteArray file = QFile::encodeName(path);
-    const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
+    const QByteArray file = Files::nativeName(path);
+    const QByteArray folder = Files::nativeName(Files::folderOf(path));
     *folderWritable = ::access(folder.constData(), W_OK) == 0 && !onReadOnlyMedium(folder);
     return *folderWritable &&
            (::access(file.constData(), F_OK) != 0 || ::access(file.constData(), W_OK) == 0);
@@ -168,28 +168,28 @@ bool SqliteDatabase::open(const QString& path) {
     bool folderWritable = true;
     const bool canWrite = writable(path, &folderWritable);
     if (canWrite) {
-        const int rc = sqlite3_open_v2(path.toUtf8().constData(), &db_,
+        const int rc = sqlite3_open_v2(Files::nativeName(path).constData(), &db_,
                                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
         if (rc != SQLITE_OK)
             return false;
-    } else if (const QFileInfo log(path + QLatin1String("-wal"));
-               !folderWritable && log.isFile() && log.size() > 0) {
+    } else if (const Files::Status log = Files::status(path + QLatin1String("-wal"));
+               !folderWritable && log.isFile && log.size > 0) {
         // The last writer stopped before its log went into the file (a crash), and the log
         // can only be read where a shared-memory file can be made beside it: read a copy of
         // both, so that nothing the log holds is missed.
         copy_ = std::make_unique<QTemporaryDir>();
-        const QString file = copy_->filePath(QFileInfo(path).fileName());
-        if (!copy_->isValid() || !QFile::copy(path, file) ||
-            !QFile::copy(log.filePath(), file + QLatin1String("-wal")))
+        const QString file = copy_->filePath(path.mid(path.lastIndexOf(QLatin1Char('/')) + 1));
+        if (!copy_->isValid() || !Files::copyAtomically(path, file).ok() ||
+            !Files::copyAtomically(log.path, file + QLatin1String("-wal")).ok())
             return false;
-        if (sqlite3_open_v2(QFile::encodeName(file).constData(), &db_, SQLITE_OPEN_READWRITE,
+        if (sqlite3_open_v2(Files::nativeName(file).constData(), &db_, SQLITE_OPEN_READWRITE,
                             nullptr) != SQLITE_OK)
             return false;
         readOnly_ = true;
     } else {
         // Immutable: no lock, journal or shared-memory file is made, since none can be.
-        const QByteArray uri = QUrl::fromLocalFile(path).toEncoded() +
-                               (folderWritable ? QByteArray() : QByteArray("?immutable=1"));
+        const QByteArray uri =
+            sqliteFileUri(path) + (folderWritable ? QByteArray() : QByteArray("?immutable=1"));
         const int rc =
             sqlite3_open_v2(uri.constData(), &db_, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr);
         if (rc != SQLITE_OK)
@@ -241,4 +241,10 @@ SqliteStatement& SqliteDatabase::cached(const QString& sql) {
 void SqliteDatabase::resetAll() {
     for (auto& stmt : cache_)
         stmt->reset();
+}
+
+QByteArray sqliteFileUri(const QString& path) {
+    const QByteArray name = Files::nativeName(path).toPercentEncoding("/");
+    // An absolute name after an empty authority: "file:///folder/file".
+    return (path.startsWith(QLatin1Char('/')) ? QByteArray("file://") : QByteArray("file:")) + name;
 }

@@ -81,3 +81,7 @@ private:
     std::unique_ptr<QTemporaryDir> copy_;
     QHash<QString, std::shared_ptr<SqliteStatement>> cache_;
 };
+
+// The "file:" address SQLite opens a file by (SQLITE_OPEN_URI), made of the name's own bytes, so
+// that a name that is not UTF-8 opens the file it names. Options follow after "?".
+QByteArray sqliteFileUri(const QString& path);

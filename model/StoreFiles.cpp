@@ -1,8 +1,10 @@
 #include "model/StoreFiles.h"
 
-#include <QDir>
+#include "model/Sqlite.h"
+#include "platform/core/NativeFiles.h"
+#include "platform/core/NativeNames.h"
+
 #include <QFile>
-#include <QFileInfo>
 #include <QHash>
 #include <QMutex>
 #include <QUrl>
@@ -25,11 +27,10 @@ Error failure(int code, const QString& message) {
 }
 
 Connection::Connection(const QString& path, Mode mode) {
-    const QFileInfo info(path);
-    if (mode == Read && !(info.isWritable() && QFileInfo(info.absolutePath()).isWritable()))
+    if (mode == Read && !(Files::isWritable(path) && Files::isWritable(Files::folderOf(path))))
         mode = Inspect;
-    const QByteArray name = mode == Inspect ? QUrl::fromLocalFile(path).toEncoded() + "?mode=ro"
-                                            : QFile::encodeName(path);
+    const QByteArray name =
+        mode == Inspect ? sqliteFileUri(path) + "?mode=ro" : Files::nativeName(path);
     const int flags = mode == Inspect ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI
                       : mode == Read  ? SQLITE_OPEN_READWRITE
                                       : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
@@ -63,14 +64,14 @@ bool Connection::exec(const char* sql) const {
 }
 
 bool sameFile(const QString& a, const QString& b) {
-    const QString ca = QFileInfo(a).canonicalFilePath();
-    return !ca.isEmpty() && ca == QFileInfo(b).canonicalFilePath();
+    const QString ca = Files::canonicalName(a);
+    return !ca.isEmpty() && ca == Files::canonicalName(b);
 }
 
 namespace {
 // The file's bytes on the disk before it takes another's name, and the name in the folder after.
 bool syncFile(const QString& path) {
-    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const int fd = ::open(Files::nativeName(path).constData(), O_RDONLY | O_CLOEXEC);
     if (fd < 0)
         return false;
     const bool ok = ::fsync(fd) == 0;
@@ -86,7 +87,7 @@ QMutex partsMutex;
 QHash<QString, int> heldParts;
 
 void holdPart(const QString& path) {
-    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    const int fd = ::open(Files::nativeName(path).constData(), O_RDONLY | O_CLOEXEC);
     if (fd < 0)
         return;
     ::flock(fd, LOCK_EX | LOCK_NB);
@@ -112,38 +113,37 @@ Error systemError(const QString& doing, int error) {
 Result<void> replace(const QString& from, const QString& to) {
     if (!syncFile(from))
         return systemError(QStringLiteral("Cannot write %1").arg(to));
-    if (::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
+    if (::rename(Files::nativeName(from).constData(), Files::nativeName(to).constData()) != 0)
         return systemError(QStringLiteral("Cannot replace %1").arg(to));
     letGoPart(from);
-    syncFile(QFileInfo(to).absolutePath());
+    syncFile(Files::folderOf(to));
     return {};
 }
 
 Result<void> placeNew(const QString& from, const QString& to) {
     if (!syncFile(from))
         return systemError(QStringLiteral("Cannot write %1").arg(to));
-    if (::renameat2(AT_FDCWD, QFile::encodeName(from).constData(), AT_FDCWD,
-                    QFile::encodeName(to).constData(), RENAME_NOREPLACE) != 0)
+    if (::renameat2(AT_FDCWD, Files::nativeName(from).constData(), AT_FDCWD,
+                    Files::nativeName(to).constData(), RENAME_NOREPLACE) != 0)
         return systemError(QStringLiteral("Cannot write %1").arg(to));
     letGoPart(from);
-    syncFile(QFileInfo(to).absolutePath());
+    syncFile(Files::folderOf(to));
     return {};
 }
 
 void removeWithCompanions(const QString& path) {
     letGoPart(path);
     for (const char* part : {"", "-journal", "-wal", "-shm"})
-        QFile::remove(path + QLatin1String(part));
+        Files::remove(path + QLatin1String(part));
 }
 
 // A name beside the target for the copy being made; the file is created empty. On failure errno
 // says why: a target whose name is too long is refused before anything is made.
 QString temporaryBeside(const QString& target) {
-    const QFileInfo info(target);
-    const QByteArray folder = QFile::encodeName(info.absolutePath());
+    const QByteArray folder = Files::nativeName(Files::folderOf(target));
     const long longest = ::pathconf(folder.constData(), _PC_NAME_MAX);
     const qsizetype nameMax = longest > 0 ? qsizetype(longest) : NAME_MAX;
-    QByteArray name = QFile::encodeName(info.fileName());
+    QByteArray name = Files::nativeName(Files::status(target).fileName());
     if (name.size() > nameMax) {
         errno = ENAMETOOLONG;
         return {};
@@ -165,20 +165,17 @@ QString temporaryBeside(const QString& target) {
     if (fd < 0)
         return {};
     ::close(fd);
-    holdPart(QFile::decodeName(path));
-    return QFile::decodeName(path);
+    holdPart(Files::fromNativeName(path));
+    return Files::fromNativeName(path);
 }
 
 void sweepParts(const QString& folder) {
-    const QDir dir(folder);
-    for (const QFileInfo& part :
-         dir.entryInfoList({QStringLiteral(".*.??????.part")}, QDir::Files | QDir::Hidden)) {
-        const QByteArray name = QFile::encodeName(part.absoluteFilePath());
-        const int fd = ::open(name.constData(), O_RDONLY | O_CLOEXEC);
+    for (const Files::Status& part : Files::filesIn(folder, {QStringLiteral(".*.??????.part")})) {
+        const int fd = ::open(Files::nativeName(part.path).constData(), O_RDONLY | O_CLOEXEC);
         if (fd < 0)
             continue;
         if (::flock(fd, LOCK_EX | LOCK_NB) == 0)
-            removeWithCompanions(part.absoluteFilePath());
+            removeWithCompanions(part.path);
         ::close(fd);
     }
 }
@@ -210,11 +207,11 @@ int copyFile(const QString& from, const QString& to, const Progress& progress) {
                 ::close(fd);
         }
     };
-    const Descriptor in{::open(QFile::encodeName(from).constData(), O_RDONLY | O_CLOEXEC)};
+    const Descriptor in{::open(Files::nativeName(from).constData(), O_RDONLY | O_CLOEXEC)};
     if (in.fd < 0)
         return errno;
     const Descriptor out{
-        ::open(QFile::encodeName(to).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)};
+        ::open(Files::nativeName(to).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666)};
     if (out.fd < 0)
         return errno;
     struct stat info {};
@@ -275,13 +272,13 @@ Result<void> copyStore(const QString& sourcePath, const QString& destination,
                        const Progress& progress) {
     // Nothing writes to a store whose folder cannot be written: its file and its log, as they
     // are, are the store. They are copied, and the copy takes the log in when it is opened.
-    if (const QFileInfo info(sourcePath); !QFileInfo(info.absolutePath()).isWritable()) {
+    if (!Files::isWritable(Files::folderOf(sourcePath))) {
         if (const int error = copyFile(sourcePath, destination, progress))
             return systemError(QStringLiteral("Cannot copy %1").arg(sourcePath), error);
-        if (const QFileInfo log(sourcePath + QStringLiteral("-wal")); log.size() > 0)
-            if (const int error =
-                    copyFile(log.filePath(), destination + QStringLiteral("-wal"), {}))
-                return systemError(QStringLiteral("Cannot copy %1").arg(log.filePath()), error);
+        if (const Files::Status log = Files::status(sourcePath + QStringLiteral("-wal"));
+            log.size > 0)
+            if (const int error = copyFile(log.path, destination + QStringLiteral("-wal"), {}))
+                return systemError(QStringLiteral("Cannot copy %1").arg(log.path), error);
         Connection copy(destination, Connection::Create);
         if (!copy.ok() || !copy.exec("PRAGMA journal_mode=DELETE"))
             return copy.error();
@@ -295,8 +292,8 @@ Result<void> copyStore(const QString& sourcePath, const QString& destination,
     // It is then copied as it is, several times faster than page by page.
     if (!source.exec("BEGIN") || !source.text("SELECT count(*) FROM sqlite_master"))
         return source.error();
-    if (const QFileInfo log(sourcePath + QStringLiteral("-wal"));
-        !log.exists() || log.size() == 0) {
+    if (const Files::Status log = Files::status(sourcePath + QStringLiteral("-wal"));
+        !log.exists || log.size == 0) {
         const int error = copyFile(sourcePath, destination, progress);
         source.exec("COMMIT");
         if (error)

@@ -1,5 +1,6 @@
 #include "model/StoreLock.h"
 
+#include "platform/core/NativeNames.h"
 #include "platform/core/ProtectedFiles.h"
 
 #include <QFile>
@@ -153,7 +154,7 @@ Result<StoreLock> StoreLock::acquire(const QString& storePath, Level level, cons
         entry->path = path;
         if (!path.isEmpty()) {
             entry->fd =
-                ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+                ::open(Files::nativeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
             // A folder nobody may write holds a store nobody can change: no lock is needed.
             if (entry->fd < 0 && errno != EROFS && errno != EACCES && errno != ENOENT)
                 return Error::because(ErrorCode::CantOpen,

@@ -1,6 +1,7 @@
 #include "platform/DesktopServices.h"
 
 #include "platform/core/Files.h"
+#include "platform/core/NativeFiles.h"
 #include "platform/graphics/ImageCoding.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Window.h"
@@ -284,7 +285,7 @@ bool DesktopPhotoLibrary::save(const QImage& image) {
                          QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     // A second picture within the same second gets a name of its own, never the first's.
     QString path = stem + QStringLiteral(".jpg");
-    for (int n = 2; QFileInfo::exists(path); ++n)
+    for (int n = 2; Files::status(path).exists; ++n)
         path = stem + QStringLiteral("-%1.jpg").arg(n);
     const QByteArray bytes = ImageCoding::jpeg(image, 1.0);
     return !bytes.isEmpty() && Files::writeAtomically(path, bytes).ok();

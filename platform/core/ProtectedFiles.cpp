@@ -1,13 +1,15 @@
 #include "platform/core/ProtectedFiles.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include "platform/core/NativeFiles.h"
+#include "platform/core/NativeNames.h"
+
 #include <QList>
 #include <QMutex>
 #include <QSet>
 
+#include <climits>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace Files {
 
@@ -31,26 +33,30 @@ Protected& registry() {
 bool sameInode(const QString& a, const QString& b) {
     struct stat sa {
     }, sb{};
-    return ::stat(QFile::encodeName(a).constData(), &sa) == 0 &&
-           ::stat(QFile::encodeName(b).constData(), &sb) == 0 && sa.st_dev == sb.st_dev &&
+    return ::stat(Files::nativeName(a).constData(), &sa) == 0 &&
+           ::stat(Files::nativeName(b).constData(), &sb) == 0 && sa.st_dev == sb.st_dev &&
            sa.st_ino == sb.st_ino;
 }
 } // namespace
 
 QString resolved(const QString& path) {
-    QString current = QFileInfo(path).absoluteFilePath();
+    QString current = absoluteName(path);
     // A chain of links ends within the system's own limit, or it is a loop.
     for (int hops = 0; hops < 40; ++hops) {
-        const QFileInfo info(current);
-        const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
+        const qsizetype slash = current.lastIndexOf(QLatin1Char('/'));
+        const QString name = current.mid(slash + 1);
+        const QString folder = canonicalName(current.left(std::max<qsizetype>(slash, 1)));
         if (!folder.isEmpty())
-            current = QDir(folder).filePath(info.fileName());
-        const QFileInfo here(current);
-        if (!here.isSymLink())
-            return QDir::cleanPath(current);
-        current = here.symLinkTarget();
+            current = (folder == QLatin1String("/") ? folder : folder + QLatin1Char('/')) + name;
+        char target[PATH_MAX];
+        const ssize_t n = ::readlink(nativeName(current).constData(), target, sizeof target - 1);
+        if (n < 0)
+            return current;
+        const QString link = fromNativeName(QByteArray(target, int(n)));
+        current = absoluteName(
+            link.startsWith(QLatin1Char('/')) ? link : folderOf(current) + QLatin1Char('/') + link);
     }
-    return QDir::cleanPath(current);
+    return current;
 }
 
 void protectStore(const QString& storePath) {
@@ -59,11 +65,10 @@ void protectStore(const QString& storePath) {
     QMutexLocker lock(&mutex());
     Protected& p = registry();
     p.store = storePath;
-    for (const QString& base : {QFileInfo(storePath).absoluteFilePath(), resolved(storePath)}) {
+    for (const QString& base : {absoluteName(storePath), resolved(storePath)}) {
         for (const char* part : {"", "-wal", "-shm", "-journal", ".lock"})
             p.files.insert(resolved(base + QLatin1String(part)));
-        QString backups =
-            resolved(QFileInfo(base).absoluteDir().filePath(QStringLiteral("Backups")));
+        QString backups = resolved(folderOf(base) + QStringLiteral("/Backups"));
         p.folders.insert(backups.endsWith(u'/') ? backups : backups + u'/');
     }
 }

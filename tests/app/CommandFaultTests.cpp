@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <QThread>
 
 #include <sys/stat.h>
@@ -87,6 +88,32 @@ TEST_F(PelvaneTest, OutputsGoOnlyToRegularFiles) {
                 << qPrintable(run.errors);
             EXPECT_EQ(fileType(target), type);
         }
+    }
+}
+
+// A file its owner made read-only is not replaced by someone who may only write into its
+// folder: the write is refused with the system's reason and the file left as it was.
+TEST_F(PelvaneTest, OutputsLeaveAFileTheUserMayNotWrite) {
+    const QString setpriv = QStandardPaths::findExecutable(QStringLiteral("setpriv"));
+    if (setpriv.isEmpty() || ::getuid() != 0)
+        GTEST_SKIP() << "runs the program as another user, which takes root";
+    // That user reaches the test's folder and writes into one folder of it.
+    ASSERT_EQ(::chmod(qPrintable(QDir::tempPath()), 0711), 0);
+    ASSERT_EQ(::chmod(qPrintable(dir()), 0711), 0);
+    const QString shared = path("shared");
+    ASSERT_TRUE(QDir().mkpath(shared));
+    ASSERT_EQ(::chmod(qPrintable(shared), 0777), 0);
+    for (const QString& command : {QStringLiteral("--export"), QStringLiteral("--value-history")}) {
+        const QString file = shared + "/kept" + command + ".csv";
+        writeFile(file, "[PELVANE]\n");
+        ASSERT_EQ(::chmod(qPrintable(file), 0444), 0);
+        const ProgramRun run =
+            runProgram(shared + "/data", {command, file},
+                       {setpriv, "--reuid=65534", "--regid=65534", "--clear-groups"});
+        EXPECT_EQ(run.exitCode, 1) << qPrintable(command);
+        EXPECT_TRUE(run.errors.endsWith("Cannot write " + file + ": Permission denied\n"))
+            << qPrintable(run.errors);
+        EXPECT_EQ(readFile(file), "[PELVANE]\n");
     }
 }
 

@@ -50,3 +50,21 @@ inline QString sampleCollection(const QString& folder) {
               0);
     return store;
 }
+
+// The same with arguments given as bytes, which need not be UTF-8 (file names in Latin-1):
+// QProcess passes text only, so a shell makes each argument from printf's octal escapes.
+// `prefix` runs it inside another command (env QT_QPA_PLATFORM=offscreen).
+inline ProgramRun runProgramWithBytes(const QList<QByteArray>& arguments,
+                                      const QStringList& prefix = {}) {
+    QString script = QStringLiteral("exec");
+    for (const QString& word : prefix)
+        script += QStringLiteral(" '%1'").arg(word);
+    script += QStringLiteral(" \"$0\"");
+    for (const QByteArray& argument : arguments) {
+        QString octal;
+        for (const char c : argument)
+            octal += QStringLiteral("\\%1").arg(uint(uchar(c)), 3, 8, QLatin1Char('0'));
+        script += QStringLiteral(" \"$(printf '%1')\"").arg(octal);
+    }
+    return runProgram(QStringList(), {QStringLiteral("/bin/sh"), QStringLiteral("-c"), script});
+}

@@ -3,11 +3,16 @@
 #include "app/LaunchOptions.h"
 #include "platform/DesktopServices.h"
 #include "platform/core/Files.h"
+#include "platform/core/NativeNames.h"
 #include "screens/entry/EditViewController.h"
 
 #include <QAbstractButton>
 #include <QDir>
+#include <QFile>
+#include <QProcess>
 #include <QStandardPaths>
+
+#include <dirent.h>
 
 class PicturesFolderTest : public ScreenTest {
 protected:
@@ -17,6 +22,18 @@ protected:
     }
     static QStringList picturesIn(const QString& folder) {
         return QDir(folder).entryList({QStringLiteral("Pelvane-*.jpg")}, QDir::Files, QDir::Name);
+    }
+    // The edit form of the first coin of the list, and its Share button.
+    QAbstractButton* shareOnTheEditForm() {
+        openList()->tableView->selectRow({0, 0});
+        if (!topAs<EditViewController>())
+            return nullptr;
+        QApplication::processEvents(); // the bar shows its buttons
+        QAbstractButton* share = nullptr;
+        for (auto* b : window->findChildren<QAbstractButton*>("ShareButton"))
+            if (b->isVisible())
+                share = b;
+        return share;
     }
 };
 
@@ -28,15 +45,9 @@ TEST_F(PicturesFolderTest, ShareOnTheEditFormKeepsItsPictureInTheDataFolder) {
     const QStringList userPicturesBefore = picturesIn(userPictures);
 
     auto coin = addCoin("Quarter", 1999);
-    openList()->tableView->selectRow({0, 0});
-    auto* edit = topAs<EditViewController>();
-    ASSERT_NE(edit, nullptr);
-    QApplication::processEvents(); // the bar shows its buttons
-    QAbstractButton* share = nullptr;
-    for (auto* b : window->findChildren<QAbstractButton*>("ShareButton"))
-        if (b->isVisible())
-            share = b;
+    QAbstractButton* share = shareOnTheEditForm();
     ASSERT_NE(share, nullptr);
+    auto* edit = topAs<EditViewController>();
     share->click();
     share->click(); // within the same second: a name of its own
 
@@ -51,4 +62,30 @@ TEST_F(PicturesFolderTest, ShareOnTheEditFormKeepsItsPictureInTheDataFolder) {
     ASSERT_EQ(fakes.shareSheet->presented.size(), 2);
     EXPECT_FALSE(fakes.shareSheet->presented[0].items[0].image.isNull());
     EXPECT_EQ(coin->denomination(), "Quarter");
+}
+
+// A data folder whose name is not UTF-8 holds the pictures too, each under a name of its own.
+TEST_F(PicturesFolderTest, ShareKeepsEachPictureInADataFolderNamedInLatin1) {
+    struct Removed {
+        QString folder;
+        ~Removed() { QProcess::execute(QStringLiteral("rm"), {"-rf", "--", folder}); }
+    } removed{path("parent")};
+    const QByteArray data = QFile::encodeName(path("parent")) + "/data\xe9";
+    useDataDirectory(Files::fromNativeName(data));
+    Platform::install(std::make_unique<DesktopPhotoLibrary>());
+
+    addCoin("Quarter", 1999);
+    QAbstractButton* share = shareOnTheEditForm();
+    ASSERT_NE(share, nullptr);
+    share->click();
+    share->click(); // within the same second: a name of its own
+
+    QStringList saved;
+    if (DIR* dir = ::opendir((data + "/Pictures").constData())) {
+        while (const dirent* entry = ::readdir(dir))
+            if (QByteArray(entry->d_name).startsWith("Pelvane-"))
+                saved << QString::fromUtf8(entry->d_name);
+        ::closedir(dir);
+    }
+    EXPECT_EQ(saved.size(), 2) << saved.join(' ').toStdString();
 }
