@@ -24,6 +24,8 @@ inline constexpr const char* Table = "Seal";
 Result<QByteArray> digest(sqlite3* db);
 // Seals the copy open for writing: its checksum into the seal's table, the sealed application id.
 Result<void> seal(sqlite3* db);
+// The same with the checksum already worked out (digest()).
+Result<void> seal(sqlite3* db, const QByteArray& digest);
 
 enum class Verdict {
     Whole,    // sealed, and the content is what was sealed

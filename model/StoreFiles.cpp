@@ -334,9 +334,10 @@ Result<void> copyStore(const QString& sourcePath, const QString& destination,
     return {};
 }
 
-std::optional<QString> integrityProblem(const Connection& db) {
+std::optional<QString> integrityProblem(const Connection& db, Check check) {
     db.exec("PRAGMA mmap_size=1073741824");
-    const std::optional<QString> verdict = db.text("PRAGMA integrity_check(1)");
+    const std::optional<QString> verdict =
+        db.text(check == Check::Quick ? "PRAGMA quick_check(1)" : "PRAGMA integrity_check(1)");
     if (!verdict)
         return db.error().message;
     if (*verdict != QLatin1String("ok"))

@@ -68,8 +68,10 @@ Result<void> copyBytes(const QString& from, const QString& to);
 // Holds the program at a named point for as long as PELVANE_TEST_PAUSE ("point:milliseconds")
 // says: lets a test run another program between two steps of a long one.
 void pauseForTests(const char* point);
-// SQLite's verdict on the open database when it is not "ok".
-std::optional<QString> integrityProblem(const Connection& db);
+// SQLite's verdict on the open database when it is not "ok": its integrity check, or the quick
+// check (every page and record read, without the index cross-checks).
+enum class Check { Whole, Quick };
+std::optional<QString> integrityProblem(const Connection& db, Check check = Check::Whole);
 Result<qint64> countCoins(const Connection& db);
 
 } // namespace StoreFiles

@@ -136,6 +136,20 @@ check_import() {
   echo "$count" > "$dir/saved-count"
 }
 
+# Writes with --KIND from the whole store over a copy of EARLIER, killed at a random moment;
+# the file must then be EARLIER or NEW. Counts a failure and keeps the torn file otherwise.
+kill_over_earlier() {
+  local kind=$1 ms=$2 earlier=$3 new=$4 suffix=$5
+  local target="$WORK/target.$suffix"
+  cp "$earlier" "$target"
+  kill_at_random "$ms" "$PELVANE" --data-dir "$WORK/whole" "--$kind" "$target"
+  if ! cmp -s "$target" "$earlier" && ! cmp -s "$target" "$new"; then
+    cp "$target" "$WORK/torn-$t.$suffix"
+    echo "$kind trial $t failed: the file is torn (kept as $WORK/torn-$t.$suffix)"
+    failed=$((failed + 1)); keep=1
+  fi
+}
+
 failed=0
 saved_total=0
 for ((t = 1; t <= TRIALS; t++)); do
@@ -152,23 +166,9 @@ for ((t = 1; t <= TRIALS; t++)); do
   fi
   [ $((t % 100)) -ne 0 ] || echo "... $t trials, $failed failed"
 
-  # An export killed over an earlier file leaves the earlier file or the whole new one.
-  cp "$WORK/before.csv" "$WORK/target.csv"
-  kill_at_random "$export_ms" "$PELVANE" --data-dir "$WORK/whole" --export "$WORK/target.csv"
-  if ! cmp -s "$WORK/target.csv" "$WORK/before.csv" && ! cmp -s "$WORK/target.csv" "$WORK/after.csv"; then
-    cp "$WORK/target.csv" "$WORK/torn-$t.csv"
-    echo "export trial $t failed: the file is torn (kept as $WORK/torn-$t.csv)"
-    failed=$((failed + 1)); keep=1
-  fi
-
-  # A backup killed over an earlier one leaves the earlier one or the whole new one.
-  cp "$WORK/base.bak" "$WORK/target.bak"
-  kill_at_random "$backup_ms" "$PELVANE" --data-dir "$WORK/whole" --backup "$WORK/target.bak"
-  if ! cmp -s "$WORK/target.bak" "$WORK/base.bak" && ! cmp -s "$WORK/target.bak" "$WORK/whole.bak"; then
-    cp "$WORK/target.bak" "$WORK/torn-$t.bak"
-    echo "backup trial $t failed: the backup is torn (kept as $WORK/torn-$t.bak)"
-    failed=$((failed + 1)); keep=1
-  fi
+  # An export or a backup killed over an earlier file leaves the earlier file or the whole new one.
+  kill_over_earlier export "$export_ms" "$WORK/before.csv" "$WORK/after.csv" csv
+  kill_over_earlier backup "$backup_ms" "$WORK/base.bak" "$WORK/whole.bak" bak
   "$PELVANE" --data-dir "$WORK/whole" --backup "$WORK/target.bak" > /dev/null
   if [ -n "$(find "$WORK" -maxdepth 1 -name '.target.bak.*.part*')" ]; then
     echo "backup trial $t failed: a killed backup's copy was left behind"

@@ -44,7 +44,9 @@ Finding check(const QString& storePath) {
         if (!info.ok())
             continue;
         out.snapshot = e.path;
-        out.date = QLocale().toString(e.modified, QLocale::LongFormat);
+        out.date = tr("%1 at %2")
+                       .arg(QLocale().toString(e.modified.date(), QLocale::LongFormat),
+                            QLocale().toString(e.modified.time(), QLocale::ShortFormat));
         out.coins = info.value().coins;
         break;
     }

@@ -11,16 +11,18 @@ struct ProgramRun {
     QString output, errors;
 };
 
-// `prefix` runs it inside another command (a read-only mount).
-inline ProgramRun runProgram(const QStringList& arguments, const QStringList& prefix = {}) {
+// The environment of a program run by a script: no display at all, plus what is given.
+inline QProcessEnvironment programEnvironment(const QMap<QString, QString>& extra = {}) {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         env.remove(QString::fromLatin1(name));
-    QProcess program;
-    program.setProcessEnvironment(env);
-    QStringList command = prefix;
-    command << QStringLiteral(PELVANE_BINARY) << arguments;
-    program.start(command.takeFirst(), command);
+    for (auto it = extra.begin(); it != extra.end(); ++it)
+        env.insert(it.key(), it.value());
+    return env;
+}
+
+// Waits for a started program to end and takes what it said.
+inline ProgramRun finishRun(QProcess& program) {
     EXPECT_TRUE(program.waitForFinished(60000));
     ProgramRun run;
     run.output = QString::fromUtf8(program.readAllStandardOutput());
@@ -28,6 +30,16 @@ inline ProgramRun runProgram(const QStringList& arguments, const QStringList& pr
     if (program.exitStatus() == QProcess::NormalExit)
         run.exitCode = program.exitCode();
     return run;
+}
+
+// `prefix` runs it inside another command (a read-only mount).
+inline ProgramRun runProgram(const QStringList& arguments, const QStringList& prefix = {}) {
+    QProcess program;
+    program.setProcessEnvironment(programEnvironment());
+    QStringList command = prefix;
+    command << QStringLiteral(PELVANE_BINARY) << arguments;
+    program.start(command.takeFirst(), command);
+    return finishRun(program);
 }
 
 // The same on a data folder of the test's.

@@ -21,26 +21,11 @@ namespace {
 std::unique_ptr<QProcess> startProgram(const QString& dataDir, const QStringList& arguments,
                                        const QMap<QString, QString>& environment) {
     auto program = std::make_unique<QProcess>();
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY"})
-        env.remove(QString::fromLatin1(name));
-    for (auto it = environment.begin(); it != environment.end(); ++it)
-        env.insert(it.key(), it.value());
-    program->setProcessEnvironment(env);
+    program->setProcessEnvironment(programEnvironment(environment));
     program->start(QStringLiteral(PELVANE_BINARY),
                    QStringList{QStringLiteral("--data-dir"), dataDir} + arguments);
     EXPECT_TRUE(program->waitForStarted());
     return program;
-}
-
-ProgramRun finish(QProcess& program) {
-    EXPECT_TRUE(program.waitForFinished(60000));
-    ProgramRun run;
-    run.output = QString::fromUtf8(program.readAllStandardOutput());
-    run.errors = QString::fromUtf8(program.readAllStandardError());
-    if (program.exitStatus() == QProcess::NormalExit)
-        run.exitCode = program.exitCode();
-    return run;
 }
 
 // Waits until the file exists (a program got that far).
@@ -173,7 +158,7 @@ TEST_F(PelvaneTest, NothingWritesBetweenARestoresSteps) {
                                 {{"PELVANE_TEST_PAUSE", "restore-swap:1500"}});
     ASSERT_TRUE(appears(path("a/Backups")));
     ProgramRun imported = runProgram(path("a"), {"--import", path("new.csv")});
-    EXPECT_EQ(finish(*restore).exitCode, 0);
+    EXPECT_EQ(finishRun(*restore).exitCode, 0);
     EXPECT_EQ(imported.exitCode, 0) << qPrintable(imported.errors);
     EXPECT_EQ(OtherConnection(store).number("SELECT count(*) FROM Coins"), 41 + raced);
     EXPECT_EQ(OtherConnection(store).number("SELECT count(*) FROM Coins WHERE country = 'Raced'"),
@@ -185,12 +170,12 @@ TEST_F(PelvaneTest, NothingWritesBetweenARestoresSteps) {
     QThread::msleep(300);
     auto quick =
         startProgram(path("a"), {"--import", path("new.csv")}, {{"PELVANE_LOCK_WAIT_MS", "100"}});
-    imported = finish(*quick);
+    imported = finishRun(*quick);
     EXPECT_EQ(imported.exitCode, 1);
     EXPECT_TRUE(imported.errors.contains("in use by a restore from " + path("backup.sqlite")) ||
                 imported.errors.contains("pelvane --restore " + path("backup.sqlite")))
         << qPrintable(imported.errors);
-    EXPECT_EQ(finish(*restore).exitCode, 0);
+    EXPECT_EQ(finishRun(*restore).exitCode, 0);
     EXPECT_EQ(OtherConnection(store).number("SELECT count(*) FROM Coins"), 41);
 
     // Killed between the safety copy and the rename: the collection as it was, and the copy it
@@ -224,14 +209,14 @@ TEST_F(PelvaneTest, OneWindowAndOneWriterAtATime) {
     while (!readFile(path("a/Pelvane.sqlite.lock")).contains("window") && t.elapsed() < 20000)
         QThread::msleep(10);
     auto second = startProgram(path("a"), {}, {{"QT_QPA_PLATFORM", "offscreen"}});
-    const ProgramRun refused = finish(*second);
+    const ProgramRun refused = finishRun(*second);
     EXPECT_EQ(refused.exitCode, 1);
     EXPECT_TRUE(refused.errors.contains("in use by Pelvane's window (process " +
                                         QString::number(window->processId()) + ")"))
         << qPrintable(refused.errors);
     auto import =
         startProgram(path("a"), {"--import", kSampleFile}, {{"PELVANE_LOCK_WAIT_MS", "200"}});
-    const ProgramRun waited = finish(*import);
+    const ProgramRun waited = finishRun(*import);
     EXPECT_EQ(waited.exitCode, 1);
     EXPECT_TRUE(waited.errors.contains("Pelvane's window")) << qPrintable(waited.errors);
     EXPECT_EQ(runProgram(path("a"), {"--export", path("out.csv")}).exitCode, 0);
