@@ -8,6 +8,7 @@
 
 #include <QSet>
 #include <QTimer>
+#include <algorithm>
 #include <sqlite3.h>
 
 using namespace ContextSql;
@@ -32,12 +33,13 @@ static void bindDataValues(SqliteStatement& st, const ManagedObject& o, int firs
             st.bind(first++, o.hasValue(int(i)) ? o.value(int(i)) : QVariant());
 }
 
-bool ManagedObjectContext::stampChanges(const QDateTime& time, const QString& cause) {
+bool ManagedObjectContext::stampChanges(const QDateTime& time, const QString& day,
+                                        const QString& cause) {
     SqliteStatement& st = db_->cached(
         QStringLiteral("UPDATE temp.ValueStamp SET time = ?1, day = ?2, cause = ?3 WHERE pk = 1"));
     if (time.isValid()) {
         st.bindInt(1, time.toMSecsSinceEpoch());
-        st.bindText(2, time.toLocalTime().date().toString(Qt::ISODate));
+        st.bindText(2, day);
     } else {
         st.bindNull(1);
         st.bindNull(2);
@@ -54,16 +56,26 @@ bool ManagedObjectContext::stampChanges(const QDateTime& time, const QString& ca
 bool ManagedObjectContext::writePending(std::vector<qint64>& newIds) {
     newIds.clear();
     // Every coin's event is dated by this save and named by what made its change: the source
-    // row is rewritten where the cause changes from one coin to the next.
+    // row is rewritten where the cause changes from one coin to the next. The day is never
+    // before the day of the event saved last, so a clock set back cannot sum a change before
+    // the changes it follows.
     const QDateTime now = ValueHistory::now();
+    QString day = now.toLocalTime().date().toString(Qt::ISODate);
+    if (SqliteStatement& last = db_->cached(
+            QStringLiteral("SELECT day FROM main.ValueEvents ORDER BY pk DESC LIMIT 1"));
+        last.isValid()) {
+        if (last.step() == SQLITE_ROW)
+            day = std::max(day, last.columnText(0));
+        last.reset();
+    }
     QString stamped;
-    if (!stampChanges(now, stamped))
+    if (!stampChanges(now, day, stamped))
         return false;
     auto stamp = [&](const ManagedObject& o) {
         if (o.changeCause_ == stamped)
             return true;
         stamped = o.changeCause_;
-        return stampChanges(now, stamped);
+        return stampChanges(now, day, stamped);
     };
     newIds.reserve(std::size_t(inserted_.size()));
     for (const auto& o : inserted_) {

@@ -141,7 +141,7 @@ private:
     Result<void> commitHeld();
     void returnHeldToPending();
     // Tells the connection's history triggers when and why the coming writes are made.
-    bool stampChanges(const QDateTime& time, const QString& cause);
+    bool stampChanges(const QDateTime& time, const QString& day, const QString& cause);
     void beginReadBatch();
     void endReadBatch();
     // Pending inserts whose text attribute holds one value, found through an index made the

@@ -16,9 +16,10 @@ QString shortName(const QString& column) {
 }
 
 // What a trigger writes: when and why from the stamp the save set, otherwise the store's own
-// clock and the cause the kind of change gives. The day is never before the day of the event
-// saved last: with a clock set back, a change would otherwise be summed before the changes it
-// follows, and a day could hold fewer pieces than the collection ever had.
+// clock and the cause the kind of change gives. A save's stamp carries a day never before the
+// day of the event saved last (worked out once per save, not per row): with a clock set back, a
+// change would otherwise be summed before the changes it follows, and a day could hold fewer
+// pieces than the collection ever had.
 QString trigger(const QString& name, const QString& when, const QString& row, const QString& before,
                 const QString& after, const QString& cause, const QString& condition = {}) {
     return QStringLiteral(
@@ -26,8 +27,7 @@ QString trigger(const QString& name, const QString& when, const QString& row, co
                "INSERT INTO ValueEvents (time, day, coin, denomination, country, year, "
                "quantityBefore, valueBefore, quantityAfter, valueAfter, cause) "
                "SELECT coalesce(s.time, CAST(round((julianday('now') - 2440587.5) * 86400000) AS "
-               "INTEGER)), max(coalesce(s.day, date('now', 'localtime')), coalesce((SELECT day "
-               "FROM ValueEvents ORDER BY pk DESC LIMIT 1), '')), %4.pk, "
+               "INTEGER)), coalesce(s.day, date('now', 'localtime')), %4.pk, "
                "%8, %9, %4.year, %5, %6, "
                "coalesce(s.cause, '%7') "
                "FROM (SELECT 1) LEFT JOIN ValueStamp s ON s.pk = 1; END")
