@@ -153,6 +153,15 @@ TEST_F(PelvaneTest, NothingWritesBetweenARestoresSteps) {
         OtherConnection(path("d/Pelvane.sqlite")).number("SELECT count(*) FROM Coins");
     ASSERT_GT(raced, 30);
 
+    auto safetyCopies = [this](qsizetype n) {
+        QElapsedTimer t;
+        t.start();
+        while (QDir(path("a/Backups")).entryList({"*before-restore*"}).size() < n &&
+               t.elapsed() < 20000)
+            QThread::msleep(10);
+        return QDir(path("a/Backups")).entryList({"*before-restore*"}).size() == n;
+    };
+
     // The import waits out the restore, then merges into what was restored.
     auto restore = startProgram(path("a"), {"--restore", path("backup.sqlite")},
                                 {{"PELVANE_TEST_PAUSE", "restore-swap:1500"}});
@@ -167,7 +176,8 @@ TEST_F(PelvaneTest, NothingWritesBetweenARestoresSteps) {
     // Told to wait less than the restore takes, it says who holds the collection.
     restore = startProgram(path("a"), {"--restore", path("backup.sqlite")},
                            {{"PELVANE_TEST_PAUSE", "restore-swap:3000"}});
-    QThread::msleep(300);
+    // Its safety copy is written once it holds the collection, just before the pause.
+    ASSERT_TRUE(safetyCopies(2));
     auto quick =
         startProgram(path("a"), {"--import", path("new.csv")}, {{"PELVANE_LOCK_WAIT_MS", "100"}});
     imported = finishRun(*quick);
@@ -184,11 +194,7 @@ TEST_F(PelvaneTest, NothingWritesBetweenARestoresSteps) {
     const QByteArray before = storeDump(store);
     restore = startProgram(path("a"), {"--restore", path("backup.sqlite")},
                            {{"PELVANE_TEST_PAUSE", "restore-swap:20000"}});
-    QElapsedTimer t;
-    t.start();
-    while (QDir(path("a/Backups")).entryList({"*before-restore*"}).size() < 3 &&
-           t.elapsed() < 20000)
-        QThread::msleep(10);
+    ASSERT_TRUE(safetyCopies(3));
     ASSERT_FALSE(hiddenParts(path("a")).isEmpty());
     ::kill(pid_t(restore->processId()), SIGKILL);
     restore->waitForFinished();
