@@ -18,8 +18,7 @@ QMessageBox* show(const QString& storePath, const QString& reason) {
         return nullptr;
     }
     auto* box = new QMessageBox(
-        QMessageBox::Information,
-        QCoreApplication::translate("AlreadyOpen", "Collection In Use"),
+        QMessageBox::Information, QCoreApplication::translate("AlreadyOpen", "Collection In Use"),
         QCoreApplication::translate("AlreadyOpen",
                                     "This collection is open in another Pelvane (named below). "
                                     "Carry on there, or start Pelvane again once it is closed."),

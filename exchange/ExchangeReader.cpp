@@ -170,8 +170,7 @@ void apply(Coins& coin, const Fields& fields, bool isNew, const PreparedLine& pi
             continue;
         if (!converted.parsed && isNew) {
             beforeStop();
-            fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value "
-                                      "(\"%1\" for %2)")
+            fatalError(QStringLiteral("A number that does not parse: \"%1\" for %2")
                            .arg(converted.shown, QLatin1String(field.name)),
                        StopSites::ImportNumber);
         }

@@ -144,8 +144,8 @@ void appendPicture(QByteArray& out, PictureCoder& coder, qsizetype index, const 
         return;
     const Encoded& text = *coded;
     if (!text)
-        fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value "
-                                  "(the %1 picture of %2 cannot be decoded)")
+        fatalError(QStringLiteral("A stored picture cannot be read: the %1 picture of %2 "
+                                  "cannot be decoded")
                        .arg(QLatin1String(face), coinForMessage(coin)),
                    StopSites::ExportPicture);
     out += *text;

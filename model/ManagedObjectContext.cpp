@@ -132,7 +132,7 @@ Error ManagedObjectContext::lastError() const {
     Error e;
     e.code = db_->errorCode();
     e.message = db_->errorMessage();
-    e.userInfo.insert(QStringLiteral("NSSQLiteErrorDomain"), QString::number(e.code));
+    e.userInfo.insert(QStringLiteral("SQLite code"), QString::number(e.code));
     e.userInfo.insert(QStringLiteral("reason"), e.message);
     return e;
 }

@@ -220,9 +220,9 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
         Error e;
         e.code = code;
         e.message = message;
-        e.userInfo.insert(QStringLiteral("NSSQLiteErrorDomain"), QString::number(code));
+        e.userInfo.insert(QStringLiteral("SQLite code"), QString::number(code));
         e.userInfo.insert(QStringLiteral("reason"), message);
-        e.userInfo.insert(QStringLiteral("NSFilePath"), path);
+        e.userInfo.insert(QStringLiteral("file"), path);
         // The file is left as it is for recovery: never deleted or overwritten. A context
         // already handed out keeps its (closed) connection.
         if (context_)

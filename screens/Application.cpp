@@ -15,8 +15,8 @@ void setDelegate(ApplicationDelegate* delegate) {
 
 ApplicationDelegate& delegate() {
     if (!current)
-        fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value"),
-                   "Pelvane/Application", __LINE__);
+        fatalError(QStringLiteral("The application has no delegate"), "Pelvane/Application",
+                   __LINE__);
     return *current;
 }
 

@@ -3,12 +3,12 @@
 #include <QStringList>
 
 QString Error::description() const {
-    return QStringLiteral("Error Domain=NSSQLiteErrorDomain Code=%1 \"%2\"").arg(code).arg(message);
+    return QStringLiteral("%1 (SQLite code %2)").arg(message).arg(code);
 }
 
 QString Error::userInfoDescription() const {
     QStringList parts;
     for (auto it = userInfo.begin(); it != userInfo.end(); ++it)
-        parts << QStringLiteral("\"%1\": %2").arg(it.key(), it.value());
+        parts << QStringLiteral("%1: %2").arg(it.key(), it.value());
     return QLatin1Char('[') + parts.join(QLatin1String(", ")) + QLatin1Char(']');
 }

@@ -8,9 +8,7 @@ namespace CoinFormRules {
 namespace {
 
 [[noreturn]] void unparsable(const QString& text, const char* screen, int line) {
-    fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value (\"%1\")")
-                   .arg(text),
-               screen, line);
+    fatalError(QStringLiteral("A number that does not parse: \"%1\"").arg(text), screen, line);
 }
 
 const char* const kAdd = "Pelvane/AddViewController";

@@ -16,7 +16,6 @@
 #include <QDir>
 #include <QFutureWatcher>
 #include <QLabel>
-#include <QLocale>
 #include <QPointer>
 #include <QVBoxLayout>
 #include <QtConcurrent/QtConcurrentRun>
@@ -24,11 +23,6 @@
 namespace {
 const QStringList kBackupFilters = {QStringLiteral("Pelvane backups (*.sqlite)"),
                                     QStringLiteral("All files (*)")};
-
-QString coins(qint64 n) {
-    return QStringLiteral("%1 %2").arg(QLocale().toString(n),
-                                       n == 1 ? QStringLiteral("coin") : QStringLiteral("coins"));
-}
 
 // Work for a worker thread, its answer handed back to the screen if the screen is still there.
 template <typename T, typename Work, typename Done>
@@ -129,7 +123,7 @@ void ImportExportViewController::backUpTo(const QString& file) {
         this,
         [store, file, progress] {
             const Result<qint64> written = Backup::write(store, file, progress);
-            return written.ok() ? Outcome{true, coins(written.value())}
+            return written.ok() ? Outcome{true, RestoreFlow::coins(written.value())}
                                 : Outcome{false, written.error().message};
         },
         [this, file](const Outcome& outcome) {

@@ -71,7 +71,7 @@ QList<CoinPtr> filter(const QList<CoinPtr>& all, const SearchIndex& index, const
         return all;
     // Read as required: a coin without a country cannot be searched by country.
     if (index.missingCountry)
-        fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value"),
+        fatalError(QStringLiteral("A coin without a country cannot be searched by country"),
                    "Pelvane/MainListTableViewController", __LINE__);
     const QString wanted = index.textKey ? text.toLower() : text;
     QList<CoinPtr> kept;

@@ -95,7 +95,7 @@ void MainListTableViewController::fetchCoins() {
     const QList<CoinPtr> shown = std::exchange(CoinList, {});
     FilteredCoinList.clear();
     if (!SortAsc)
-        fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value"),
+        fatalError(QStringLiteral("The list has no sort direction"),
                    "Pelvane/MainListTableViewController", __LINE__);
     // This fetch sorts in the direction held so far and leaves the opposite for the next one:
     // the first display is in store order, the first sort descends, and every later fetch

@@ -17,7 +17,7 @@ void AddReferenceViewController::viewDidLoad() {
     request.returnsObjectsAsFaults = false;
     for (const ObjectPtr& record : fetchOrPrint(*Application::viewContext(), request).valueOr({})) {
         if (!record->hasValue(attribute()))
-            fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value"),
+            fatalError(QStringLiteral("A stored reference value is missing"),
                        "Pelvane/AddReferenceViewController", __LINE__);
         StoredValues.append(record->value(attribute()).toString());
     }

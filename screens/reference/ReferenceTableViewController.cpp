@@ -104,8 +104,7 @@ void ReferenceTableViewController::SortButtonTapped() {
     }
     for (const ObjectPtr& record : FilteredList)
         if (!record->hasValue(attribute_))
-            fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value"),
-                       kSource, __LINE__);
+            fatalError(QStringLiteral("A stored reference value is missing"), kSource, __LINE__);
     // Deliberately the opposite of the fetch: ascending now means a descending display.
     const bool descending = *SortAsc;
     std::stable_sort(FilteredList.begin(), FilteredList.end(),
@@ -157,8 +156,7 @@ TableViewCell* ReferenceTableViewController::cellForRow(TableView* table, IndexP
 void ReferenceTableViewController::didSelectRow(TableView* table, IndexPath path) {
     const ObjectPtr record = listInUse().at(recordIndex(path.row));
     if (!record->hasValue(attribute_))
-        fatalError(QStringLiteral("Unexpectedly found nil while unwrapping an Optional value"),
-                   kSource, __LINE__);
+        fatalError(QStringLiteral("A stored reference value is missing"), kSource, __LINE__);
     *kind_.selection = valueOf(record);
     selectedRow_ = path.row;
     table->deselectRow(path);

@@ -11,8 +11,8 @@
 
 #include <QDate>
 #include <QDir>
-#include <QLabel>
 #include <QFileInfo>
+#include <QLabel>
 
 #include <QTimer>
 #include <QToolButton>
