@@ -53,13 +53,7 @@ bool ManagedObjectContext::stampChanges(const QDateTime& time, const QString& da
     return done;
 }
 
-bool ManagedObjectContext::writePending(std::vector<qint64>& newIds) {
-    newIds.clear();
-    // Every coin's event is dated by this save and named by what made its change: the source
-    // row is rewritten where the cause changes from one coin to the next. The day is never
-    // before the day of the event saved last, so a clock set back cannot sum a change before
-    // the changes it follows.
-    const QDateTime now = ValueHistory::now();
+QString ManagedObjectContext::historyDay(const QDateTime& now) {
     QString day = now.toLocalTime().date().toString(Qt::ISODate);
     if (SqliteStatement& last = db_->cached(
             QStringLiteral("SELECT day FROM main.ValueEvents ORDER BY pk DESC LIMIT 1"));
@@ -68,6 +62,19 @@ bool ManagedObjectContext::writePending(std::vector<qint64>& newIds) {
             day = std::max(day, last.columnText(0));
         last.reset();
     }
+    return day;
+}
+
+bool ManagedObjectContext::writePending(std::vector<qint64>& newIds) {
+    newIds.clear();
+    if (!openStep())
+        return false;
+    // Every coin's event is dated by this save and named by what made its change: the source
+    // row is rewritten where the cause changes from one coin to the next. The day is never
+    // before the day of the event saved last, so a clock set back cannot sum a change before
+    // the changes it follows.
+    const QDateTime now = ValueHistory::now();
+    const QString day = historyDay(now);
     QString stamped;
     if (!stampChanges(now, day, stamped))
         return false;
@@ -184,6 +191,7 @@ Result<void> ManagedObjectContext::save() {
         Error err = lastError();
         db_->exec(QStringLiteral("ROLLBACK"));
         db_->resetAll();
+        closeOwnStep();
         return err;
     };
     std::vector<qint64> newIds;
@@ -201,6 +209,7 @@ Result<void> ManagedObjectContext::save() {
     if (commit.step() != SQLITE_DONE)
         return fail();
     commit.reset();
+    closeOwnStep();
     // Only now that the transaction is in does memory follow it.
     settleSaved(newIds);
     return {};
@@ -255,7 +264,9 @@ Result<void> ManagedObjectContext::saveHeld() {
     if (!db_->exec(QStringLiteral("SAVEPOINT held")))
         return failed();
     std::vector<qint64> newIds;
-    if (!writePending(newIds) || !db_->exec(QStringLiteral("RELEASE held")))
+    const bool written = writePending(newIds) && db_->exec(QStringLiteral("RELEASE held"));
+    closeOwnStep();
+    if (!written)
         return failed();
     for (const auto& o : std::as_const(inserted_))
         held_.push_back({o, o->state_, 0, o->changeCause_});

@@ -229,24 +229,35 @@ ObjectPtr ManagedObjectContext::objectForRow(const EntityDescription& e, qint64 
     ObjectPtr o = makeObject(e);
     o->context_ = this;
     o->rowId_ = rowId;
+    fillFromRow(*o, row);
+    map.insert(rowId, o);
+    return o;
+}
+
+void ManagedObjectContext::fillFromRow(ManagedObject& o, SqliteStatement& row) {
+    const EntityDescription& e = *o.entity_;
+    // Pictures are read again when next asked for.
+    o.present_ = 0;
+    o.dataLoaded_ = 0;
+    o.utf8Texts_.clear();
+    for (QByteArray& d : o.data_)
+        d = QByteArray();
     int col = 1;
     for (std::size_t i = 0; i < e.attributes.size(); ++i) {
         const AttributeDescription& a = e.attributes[i];
         if (a.type == AttributeType::Data)
             continue;
-        if (!row.isNull(col)) {
-            o->present_ |= 1u << i;
-            if (a.type == AttributeType::Text)
-                o->texts_[std::size_t(a.slot)] = row.columnText(col);
-            else if (a.type == AttributeType::Int16)
-                o->numbers_[std::size_t(a.slot)] = double(row.columnInt(col));
-            else
-                o->numbers_[std::size_t(a.slot)] = row.columnDouble(col);
-        }
+        const bool has = !row.isNull(col);
+        if (has)
+            o.present_ |= 1u << i;
+        if (a.type == AttributeType::Text)
+            o.texts_[std::size_t(a.slot)] = has ? row.columnText(col) : QString();
+        else if (a.type == AttributeType::Int16)
+            o.numbers_[std::size_t(a.slot)] = has ? double(row.columnInt(col)) : 0;
+        else
+            o.numbers_[std::size_t(a.slot)] = has ? row.columnDouble(col) : 0;
         ++col;
     }
-    map.insert(rowId, o);
-    return o;
 }
 
 std::optional<Error> ManagedObjectContext::takeReadError() {

@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QList>
 #include <QSet>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -111,6 +112,28 @@ public:
     // The connection, for the model's own readers of what the store holds (ValueHistory).
     SqliteDatabase* database() const { return db_; }
 
+    // The journal step the saves made from now on are written to (see Journal::Step): opened
+    // by the first, kept by the next until the step ends. False when a step was already open,
+    // which the saves then add to.
+    bool beginStep(const QString& kind, const QString& subject);
+    void setStepDetail(const QString& detail);
+    void endStep();
+    // A step written by the model's own statements rather than by saving records (an undo):
+    // pending changes are saved first; then, in one transaction, the step's row is made, the
+    // value history's stamp names `cause`, and `write` runs with the step's number. The records
+    // in memory are brought up to date after. The step's number, or the error (nothing written).
+    struct DirectStep {
+        QString kind, subject, detail, cause;
+        qint64 reverses = 0;
+        bool reversal = false; // an Undo or a Redo, which leaves the redo list as it is
+    };
+    Result<qint64> writeStep(const DirectStep& step,
+                             const std::function<bool(SqliteDatabase&, qint64)>& write);
+    // Reads every record in memory again from the store (after rows were written behind the
+    // context's back): values follow the store, a record whose row has gone is deleted.
+    // Pending changes must have been saved.
+    void refreshObjects();
+
     // Whether a write waits for another program's lock to go (2 s) before it gives up.
     void setWaitWhenBusy(bool wait);
 
@@ -128,6 +151,8 @@ private:
     ObjectPtr makeObject(const EntityDescription& entity) const;
     ObjectPtr objectForRow(const EntityDescription& entity, qint64 rowId,
                            class SqliteStatement& row);
+    // The record's values as the row holds them (pictures to be read again).
+    void fillFromRow(ManagedObject& object, class SqliteStatement& row);
     bool hasPendingChanges(const EntityDescription& entity) const;
     // Reads between two turns of the event loop share one read transaction: a loop of
     // thousands of fetches (an import) then takes the file's locks once, not once a fetch.
@@ -142,6 +167,15 @@ private:
     void returnHeldToPending();
     // Tells the connection's history triggers when and why the coming writes are made.
     bool stampChanges(const QDateTime& time, const QString& day, const QString& cause);
+    // The day the value history dates a save's events by: today, never before the day of the
+    // event saved last.
+    QString historyDay(const QDateTime& now);
+    // Makes the journal step the pending writes go to, unless it is made already; false when
+    // a statement fails.
+    bool openStep();
+    bool stampStep(qint64 step);
+    // A save that is no step's ends its own.
+    void closeOwnStep();
     void beginReadBatch();
     void endReadBatch();
     // Pending inserts whose text attribute holds one value, found through an index made the
@@ -190,6 +224,14 @@ private:
     };
     std::vector<HeldChange> held_;
     int saveGroups_ = 0;
+    // The journal step open: named by whoever opened it (none: by the save), made in the store
+    // by the first save that writes.
+    struct JournalStep {
+        QString kind, subject, detail;
+        qint64 id = 0;
+        int depth = 0;
+    } step_;
+    qint64 stampedStep_ = -1; // what the connection's journal stamp holds
     // A group's commit made by the next turn of the event loop, which failed.
     std::optional<Error> heldFailure_;
 };

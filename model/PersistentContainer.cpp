@@ -2,6 +2,8 @@
 
 #include "model/Backup.h"
 #include "model/CoinAttributes.h"
+#include "model/ContextSql.h"
+#include "model/Journal.h"
 #include "model/Snapshots.h"
 #include "model/Sqlite.h"
 #include "model/StoreFiles.h"
@@ -74,29 +76,53 @@ QString importKeyColumns() {
     return columns.join(QLatin1String(", "));
 }
 
+// A record's row is never numbered as one deleted before it (AUTOINCREMENT): the journal
+// keeps deleted rows by their number, to put them back there.
+QString tableStatement(const EntityDescription& e, bool pictures, const QString& name = {}) {
+    QStringList cols{pictures ? QStringLiteral("pk INTEGER PRIMARY KEY")
+                              : QStringLiteral("pk INTEGER PRIMARY KEY AUTOINCREMENT")};
+    for (const auto& a : e.attributes)
+        if ((a.type == AttributeType::Data) == pictures)
+            cols << QStringLiteral("\"%1\" %2").arg(a.name, columnType(a.type));
+    return QStringLiteral("CREATE TABLE \"%1\" (%2)")
+        .arg(name.isEmpty() ? (pictures ? e.dataTable() : e.name) : name, cols.join(u','));
+}
+
+QStringList indexes() {
+    return {QStringLiteral("CREATE INDEX Coins_denomination_year_mintMark ON Coins(denomination, "
+                           "year, mintMark)"),
+            QStringLiteral("CREATE INDEX Coins_year ON Coins(year)"),
+            QStringLiteral("CREATE INDEX Coins_id ON Coins(id)"),
+            QStringLiteral("CREATE INDEX Coins_import_keys ON Coins(%1)").arg(importKeyColumns()),
+            QStringLiteral("CREATE INDEX GradeNumbers_grade ON GradeNumbers(grade)"),
+            QStringLiteral("CREATE INDEX StrikeCharacters_strike ON StrikeCharacters(strike)"),
+            QStringLiteral("CREATE INDEX CoinEdge_edge ON CoinEdge(edge)")};
+}
+
 QStringList schema() {
     QStringList sql;
     for (const EntityDescription* e : Model::entities()) {
-        QStringList cols{QStringLiteral("pk INTEGER PRIMARY KEY")};
-        QStringList dcols{QStringLiteral("pk INTEGER PRIMARY KEY")};
-        for (const auto& a : e->attributes)
-            (a.type == AttributeType::Data ? dcols : cols)
-                << QStringLiteral("\"%1\" %2").arg(a.name, columnType(a.type));
-        sql << QStringLiteral("CREATE TABLE \"%1\" (%2)").arg(e->name, cols.join(u','));
+        sql << tableStatement(*e, false);
         if (e->hasData())
-            sql << QStringLiteral("CREATE TABLE \"%1\" (%2)").arg(e->dataTable(), dcols.join(u','));
+            sql << tableStatement(*e, true);
     }
-    sql << QStringLiteral("CREATE INDEX Coins_denomination_year_mintMark ON Coins(denomination, "
-                          "year, mintMark)")
+    return sql + indexes() + ValueHistory::schema() + Journal::schema();
+}
 
-        << QStringLiteral("CREATE INDEX Coins_year ON Coins(year)")
-
-        << QStringLiteral("CREATE INDEX Coins_id ON Coins(id)")
-        << QStringLiteral("CREATE INDEX Coins_import_keys ON Coins(%1)").arg(importKeyColumns())
-        << QStringLiteral("CREATE INDEX GradeNumbers_grade ON GradeNumbers(grade)")
-        << QStringLiteral("CREATE INDEX StrikeCharacters_strike ON StrikeCharacters(strike)")
-        << QStringLiteral("CREATE INDEX CoinEdge_edge ON CoinEdge(edge)");
-    return sql + ValueHistory::schema();
+// From schema 4 to 5: the journal's tables, and the records' tables made again so that their
+// rows are numbered as the journal needs; every row keeps its number.
+QStringList journalBegins() {
+    QStringList sql;
+    for (const EntityDescription* e : Model::entities()) {
+        const QString old = e->name + QStringLiteral("_before5");
+        const QString cols = ContextSql::mainColumns(*e).join(u',');
+        sql << QStringLiteral("ALTER TABLE \"%1\" RENAME TO \"%2\"").arg(e->name, old)
+            << tableStatement(*e, false)
+            << QStringLiteral("INSERT INTO \"%1\" (pk, %2) SELECT pk, %2 FROM \"%3\"")
+                   .arg(e->name, cols, old)
+            << QStringLiteral("DROP TABLE \"%1\"").arg(old);
+    }
+    return sql + indexes() + Journal::schema();
 }
 } // namespace
 
@@ -211,7 +237,7 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
             for (const QString& statement : steps)
                 db_->exec(statement);
         }
-        for (const QString& statement : ValueHistory::connection())
+        for (const QString& statement : ValueHistory::connection() + Journal::connection())
             db_->exec(statement);
         context_ = std::make_unique<ManagedObjectContext>(db_.get());
         return {};
@@ -314,6 +340,8 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
         if (current > 0 && current < 4)
             steps << ValueHistory::schema() << ValueHistory::baseline(ValueHistory::now())
                   << ValueHistory::fold();
+        if (current > 0 && current < 5)
+            steps << journalBegins();
         steps << setApplicationId();
         if (!db_->exec(QStringLiteral("BEGIN IMMEDIATE")))
             return failure(db_->errorCode(), db_->errorMessage());
@@ -328,7 +356,7 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
         if (!db_->exec(QStringLiteral("COMMIT")))
             return failure(db_->errorCode(), db_->errorMessage());
     }
-    for (const QString& statement : ValueHistory::connection())
+    for (const QString& statement : ValueHistory::connection() + Journal::connection())
         if (!db_->exec(statement))
             return failure(db_->errorCode(), db_->errorMessage());
     if (!context_)

@@ -168,8 +168,11 @@ bool SqliteDatabase::open(const QString& path) {
     bool folderWritable = true;
     const bool canWrite = writable(path, &folderWritable);
     if (canWrite) {
-        const int rc = sqlite3_open_v2(Files::nativeName(path).constData(), &db_,
-                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+        // URIs let a store attach another by the bytes of its name (the journal reads the
+        // collection a restore replaced); a name of a file is read as a name all the same.
+        const int rc =
+            sqlite3_open_v2(Files::nativeName(path).constData(), &db_,
+                            SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_URI, nullptr);
         if (rc != SQLITE_OK)
             return false;
     } else if (const Files::Status log = Files::status(path + QLatin1String("-wal"));

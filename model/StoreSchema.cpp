@@ -1,6 +1,7 @@
 #include "model/StoreSchema.h"
 
 #include "model/Entity.h"
+#include "model/Journal.h"
 #include "model/ValueHistory.h"
 
 #include <QSet>
@@ -31,6 +32,10 @@ QString missing(sqlite3* db) {
     }
     if (version >= 4)
         for (const QString& table : ValueHistory::tables())
+            if (columnsOf(table).isEmpty())
+                return QStringLiteral("there is no table %1").arg(table);
+    if (version >= 5)
+        for (const QString& table : Journal::tables())
             if (columnsOf(table).isEmpty())
                 return QStringLiteral("there is no table %1").arg(table);
     for (const EntityDescription* e : Model::entities()) {

@@ -29,6 +29,8 @@ inline const QString Deleted = QStringLiteral("Deleted");
 inline const QString Revaluation = QStringLiteral("Revaluation");
 inline const QString Import = QStringLiteral("Import");
 inline const QString Baseline = QStringLiteral("Baseline");
+inline const QString Undo = QStringLiteral("Undo");
+inline const QString Redo = QStringLiteral("Redo");
 
 // The clock saves date their events by; tests and benchmarks set their own (an empty function
 // gives the system clock back).

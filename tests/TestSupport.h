@@ -62,7 +62,7 @@ private:
 };
 
 // Every row of every table of a store, as text: two stores with the same dump hold the same.
-QByteArray storeDump(const QString& storeFile);
+QByteArray storeDump(const QString& storeFile, bool collectionOnly = false);
 
 // Overwrites the first page of a table (or index) of a closed store file with bytes that are no
 // page, as a failing disk would: every read that reaches it fails.

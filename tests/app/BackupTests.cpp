@@ -1,5 +1,6 @@
 #include "Program.h"
 #include "TestSupport.h"
+#include "model/PersistentContainer.h"
 
 #include <QDate>
 #include <QDir>
@@ -65,7 +66,8 @@ TEST_F(PelvaneTest, BackupAndRestoreAreExact) {
     run = runProgram(path("c"), {"--restore", old});
     EXPECT_EQ(run.exitCode, 0) << qPrintable(run.errors);
     EXPECT_EQ(readFile(old), oldBytes);
-    EXPECT_EQ(OtherConnection(path("c/Pelvane.sqlite")).number("PRAGMA user_version"), 4);
+    EXPECT_EQ(OtherConnection(path("c/Pelvane.sqlite")).number("PRAGMA user_version"),
+              PersistentContainer::SchemaVersion);
 }
 
 // What is no whole Pelvane store is refused with the reason, and the collection stays as it was.
@@ -97,7 +99,7 @@ TEST_F(PelvaneTest, RestoreRefusesWhatIsNoWholeBackup) {
              QFile::copy(path("good.sqlite"), f);
              OtherConnection(f).exec("PRAGMA user_version=9");
          },
-         "was written by a newer Pelvane (store version 9; this one reads up to 4)"},
+         "was written by a newer Pelvane (store version 9; this one reads up to 5)"},
         {"no-notes.sqlite",
          [this](const QString& f) {
              QFile::copy(path("good.sqlite"), f);

@@ -1,0 +1,208 @@
+// The context's side of the change journal: which step the saves write to, steps written by the
+// model's own statements (an undo), and records brought up to date after those.
+#include "model/ContextSql.h"
+#include "model/Journal.h"
+#include "model/ManagedObjectContext.h"
+#include "model/Records.h"
+#include "model/Sqlite.h"
+#include "model/ValueHistory.h"
+
+#include <QLocale>
+#include <sqlite3.h>
+
+using namespace ContextSql;
+
+namespace {
+// The name a save of one record gives its step: the coin, or the reference value.
+QString recordName(const ManagedObject& o) {
+    const EntityDescription& e = o.entity();
+    if (&e == &Model::coins())
+        return Journal::coinName(o.value(Coins::Attr::denomination).toString(),
+                                 o.value(Coins::Attr::year).toInt());
+    return o.value(0).toString();
+}
+} // namespace
+
+bool ManagedObjectContext::beginStep(const QString& kind, const QString& subject) {
+    if (step_.depth++ > 0)
+        return false;
+    step_ = {kind, subject, {}, 0, 1};
+    return true;
+}
+
+void ManagedObjectContext::setStepDetail(const QString& detail) {
+    step_.detail = detail;
+}
+
+void ManagedObjectContext::endStep() {
+    if (step_.depth == 0 || --step_.depth > 0)
+        return;
+    if (step_.id && !step_.detail.isEmpty()) {
+        // Known only now that the step is over; what it wrote is already in.
+        endReadBatch();
+        SqliteStatement& st =
+            db_->cached(QStringLiteral("UPDATE main.JournalSteps SET detail = ?1 WHERE pk = ?2"));
+        st.bindText(1, step_.detail);
+        st.bindInt(2, step_.id);
+        st.step();
+        st.reset();
+    }
+    step_ = {};
+}
+
+void ManagedObjectContext::closeOwnStep() {
+    if (step_.depth == 0)
+        step_.id = 0;
+}
+
+bool ManagedObjectContext::stampStep(qint64 step) {
+    if (stampedStep_ == step)
+        return true;
+    SqliteStatement& st =
+        db_->cached(QStringLiteral("UPDATE temp.JournalStamp SET step = ?1 WHERE pk = 1"));
+    st.bindInt(1, step);
+    const bool done = st.step() == SQLITE_DONE;
+    st.reset();
+    stampedStep_ = done ? step : -1;
+    return done;
+}
+
+bool ManagedObjectContext::openStep() {
+    if (step_.id) {
+        // A group's commit that failed takes the step back with what it wrote.
+        SqliteStatement& there =
+            db_->cached(QStringLiteral("SELECT 1 FROM main.JournalSteps WHERE pk = ?1"));
+        there.bindInt(1, step_.id);
+        const int rc = there.step();
+        there.reset();
+        if (rc == SQLITE_ROW)
+            return stampStep(step_.id);
+        if (rc != SQLITE_DONE)
+            return false;
+        step_.id = 0;
+    }
+    QString kind = step_.kind, subject = step_.subject;
+    if (kind.isEmpty()) {
+        // Named by what the save writes: one record by its change and its name, more by count.
+        const qsizetype records = inserted_.size() + updated_.size() + deleted_.size();
+        const ManagedObject* one = !inserted_.isEmpty()  ? inserted_.first().get()
+                                   : !updated_.isEmpty() ? updated_.begin().value().get()
+                                   : !deleted_.isEmpty() ? deleted_.first().get()
+                                                         : nullptr;
+        if (records == 1 && one) {
+            kind = !inserted_.isEmpty()  ? Journal::Add
+                   : !updated_.isEmpty() ? Journal::Edit
+                                         : Journal::Delete;
+            subject = recordName(*one);
+        } else {
+            kind = Journal::Change;
+            subject = QString::number(records);
+        }
+    }
+    // A new change drops the steps that could still be redone, as in any editor.
+    SqliteStatement& dropRedo =
+        db_->cached(QStringLiteral("UPDATE main.JournalSteps SET state = 2 WHERE state = 1"));
+    const bool dropped = dropRedo.step() == SQLITE_DONE;
+    dropRedo.reset();
+    if (!dropped)
+        return false;
+    SqliteStatement& st = db_->cached(
+        QStringLiteral("INSERT INTO main.JournalSteps (time, kind, subject, detail, state) "
+                       "VALUES (?1, ?2, ?3, ?4, 0)"));
+    st.bindInt(1, ValueHistory::now().toMSecsSinceEpoch());
+    st.bindText(2, kind);
+    st.bindText(3, subject);
+    st.bindText(4, step_.detail);
+    const bool made = st.step() == SQLITE_DONE;
+    st.reset();
+    if (!made)
+        return false;
+    step_.id = db_->lastInsertRowId();
+    return stampStep(step_.id);
+}
+
+Result<qint64>
+ManagedObjectContext::writeStep(const DirectStep& spec,
+                                const std::function<bool(SqliteDatabase&, qint64)>& write) {
+    if (hasChanges())
+        if (Result<void> saved = save(); !saved.ok())
+            return saved.error();
+    endReadBatch();
+    if (!held_.empty())
+        if (Result<void> committed = commitHeld(); !committed.ok())
+            return committed.error();
+    if (!db_->exec(QStringLiteral("BEGIN IMMEDIATE")))
+        return lastError();
+    qint64 id = 0;
+    auto steps = [&] {
+        const QDateTime now = ValueHistory::now();
+        if (!stampChanges(now, historyDay(now), spec.cause))
+            return false;
+        if (!spec.reversal &&
+            !db_->exec(QStringLiteral("UPDATE main.JournalSteps SET state = 2 WHERE state = 1")))
+            return false;
+        SqliteStatement& st = db_->cached(QStringLiteral(
+            "INSERT INTO main.JournalSteps (time, kind, subject, detail, reverses, state) "
+            "VALUES (?1, ?2, ?3, ?4, ?5, ?6)"));
+        st.bindInt(1, now.toMSecsSinceEpoch());
+        st.bindText(2, spec.kind);
+        st.bindText(3, spec.subject);
+        st.bindText(4, spec.detail);
+        if (spec.reverses)
+            st.bindInt(5, spec.reverses);
+        else
+            st.bindNull(5);
+        st.bindInt(6, spec.reversal ? 3 : 0);
+        const bool made = st.step() == SQLITE_DONE;
+        st.reset();
+        if (!made)
+            return false;
+        id = db_->lastInsertRowId();
+        return stampStep(id) && write(*db_, id) && db_->exec(QStringLiteral("COMMIT"));
+    };
+    const bool written = steps();
+    // The history's stamp names no cause beyond this step.
+    if (!written) {
+        const Error failure = lastError();
+        db_->resetAll();
+        if (!sqlite3_get_autocommit(db_->handle()))
+            db_->exec(QStringLiteral("ROLLBACK"));
+        stampChanges({}, {}, {});
+        refreshObjects();
+        return failure;
+    }
+    stampChanges({}, {}, {});
+    refreshObjects();
+    return id;
+}
+
+void ManagedObjectContext::refreshObjects() {
+    for (const EntityDescription* e : Model::entities()) {
+        auto& map = identity_[std::size_t(e->index)];
+        const WriteSql& w = writeSql(*e);
+        for (auto it = map.begin(); it != map.end();) {
+            const ObjectPtr o = it->lock();
+            if (!o || o->state_ != ManagedObject::State::Clean) {
+                it = o ? std::next(it) : map.erase(it);
+                continue;
+            }
+            SqliteStatement& row = db_->cached(w.selectRow);
+            row.bindInt(1, o->rowId_);
+            const int rc = row.step();
+            if (rc == SQLITE_ROW) {
+                fillFromRow(*o, row);
+                ++it;
+            } else {
+                if (rc == SQLITE_DONE) {
+                    o->state_ = ManagedObject::State::Gone;
+                    o->context_ = nullptr;
+                    it = map.erase(it);
+                } else {
+                    ++it;
+                }
+            }
+            row.reset();
+        }
+    }
+    ++changeCount_;
+}
