@@ -1,15 +1,19 @@
 #include "app/AppMenuBar.h"
 
+#include "model/Journal.h"
 #include "platform/core/UserDefaults.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/Window.h"
+#include "screens/Application.h"
 #include "screens/CoinListView.h"
+#include "screens/StoreChanges.h"
 #include "screens/exchange/ImportExportViewController.h"
 #include "screens/menu/MainMenuViewController.h"
 
 #include <QActionGroup>
+#include <QCoreApplication>
 #include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
@@ -44,6 +48,47 @@ void onImportExport(Window& window, MainMenuViewController* menu,
         if (auto* hub = qobject_cast<ImportExportViewController*>(screen))
             then(hub);
     });
+}
+QString trEdit(const char* text) {
+    return QCoreApplication::translate("AppMenuBar", text);
+}
+
+// Undo or Redo from the Edit menu: a form with unsaved changes asks first, since it is filled
+// again with what the store then holds; the screens in front show the result at once.
+void undoOrRedo(Window& window, bool redo, bool asked = false) {
+    ManagedObjectContext* context = Application::viewContext();
+    if (!context)
+        return;
+    const Result<std::optional<Journal::StepInfo>> target =
+        redo ? Journal::redoable(*context) : Journal::undoable(*context);
+    if (!target.ok() || !target.value())
+        return; // nothing to undo: as in any editor, the key does nothing
+    if (ViewController* front = window.frontScreen();
+        !asked && front && window.hasUnsavedScreens()) {
+        front->confirmDiscard([w = &window, redo] { undoOrRedo(*w, redo, true); });
+        return;
+    }
+    const Result<Journal::StepInfo> done = redo ? Journal::redo(*context) : Journal::undo(*context);
+    if (!done.ok()) {
+        if (ViewController* front = window.frontScreen())
+            front->present(AlertController::okAlert(
+                redo ? trEdit("Cannot Redo") : trEdit("Cannot Undo"), done.error().message));
+        return;
+    }
+    StoreChanges::notify();
+}
+
+// The Edit menu's two commands name the step they would take back or bring back.
+void nameUndoAndRedo(QAction* undo, QAction* redo) {
+    ManagedObjectContext* context = Application::viewContext();
+    const auto undoable = context ? Journal::undoable(*context).valueOr({}) : std::nullopt;
+    const auto redoable = context ? Journal::redoable(*context).valueOr({}) : std::nullopt;
+    undo->setText(undoable ? trEdit("Undo %1").arg(Journal::commandName(*undoable))
+                           : trEdit("Undo"));
+    redo->setText(redoable ? trEdit("Redo %1").arg(Journal::commandName(*redoable))
+                           : trEdit("Redo"));
+    undo->setEnabled(bool(undoable));
+    redo->setEnabled(bool(redoable));
 }
 } // namespace
 
@@ -83,6 +128,37 @@ QMenuBar* install(Window& window, MainMenuViewController* menu) {
     file->addSeparator();
     entry(file, QStringLiteral("Quit"), QKeySequence(QStringLiteral("Ctrl+Q")),
           [w] { w->close(); });
+
+    QMenu* edit = bar->addMenu(trEdit("&Edit"));
+    edit->setObjectName(QStringLiteral("EditMenu"));
+    QAction* undo = entry(edit, trEdit("Undo"), QKeySequence::Undo, [w] { undoOrRedo(*w, false); });
+    undo->setObjectName(QStringLiteral("UndoAction"));
+    QAction* redo = entry(edit, trEdit("Redo"), QKeySequence(QStringLiteral("Ctrl+Shift+Z")),
+                          [w] { undoOrRedo(*w, true); });
+    redo->setObjectName(QStringLiteral("RedoAction"));
+    edit->addSeparator();
+    entry(edit, trEdit("Recent Changes\u2026"), {},
+          [w, start] { go(*w, start, QStringLiteral("RecentChanges")); });
+    entry(edit, trEdit("Recently Deleted\u2026"), {}, [w, start] {
+        go(*w, start, QStringLiteral("RecentChanges"), [](ViewController* screen) {
+            if (Storyboard::hasSegue(QStringLiteral("RecentlyDeleted")))
+                screen->performSegue(QStringLiteral("RecentlyDeleted"));
+        });
+    });
+    // Named when the menu opens; the keys work whatever the menu last showed, and do nothing
+    // when there is nothing to take back.
+    QObject::connect(edit, &QMenu::aboutToShow, undo,
+                     [undo, redo] { nameUndoAndRedo(undo, redo); });
+    QObject::connect(edit, &QMenu::aboutToHide, undo, [undo, redo] {
+        undo->setEnabled(true);
+        redo->setEnabled(true);
+    });
+    // A change the journal wrote itself is shown by the screen in front at once, as it would
+    // be on coming back to it.
+    QObject::connect(&StoreChanges::instance(), &StoreChanges::changed, bar, [w] {
+        if (ViewController* front = w->frontScreen())
+            front->storeChanged();
+    });
 
     QMenu* view = bar->addMenu(QStringLiteral("&View"));
     auto* views = new QActionGroup(view);
@@ -131,7 +207,7 @@ QMenuBar* install(Window& window, MainMenuViewController* menu) {
 
     window.setMenuBar(bar);
     // The shortcuts work also while a phone-sized window hides the bar.
-    for (QMenu* m : {file, view, goMenu, help})
+    for (QMenu* m : {file, edit, view, goMenu, help})
         window.addActions(m->actions());
     return bar;
 }

@@ -1,5 +1,5 @@
 #pragma once
-// The window's menu bar: File, View, Go and Help. Each entry does what the same button of the
+// The window's menu bar: File, Edit, View, Go and Help. Each entry does what the same button of the
 // start screen (or of the screen it leads to) does.
 #include <QString>
 

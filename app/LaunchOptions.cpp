@@ -54,6 +54,14 @@ const QList<Option>& options() {
          "Write the collection's pieces and total value at the end of every day on which they "
          "changed to FILE, as CSV, and exit.",
          [](LaunchOptions& o, const QString& v) { o.valueHistoryFile = v; }},
+        {{"undo"},
+         {},
+         "Undo the last change made to the collection, say what it was and exit.",
+         [](LaunchOptions& o, const QString&) { o.undo = true; }},
+        {{"changes"},
+         {},
+         "List the last 50 changes made to the collection, newest first, and exit.",
+         [](LaunchOptions& o, const QString&) { o.changes = true; }},
         {{"report"},
          "KIND",
          "Write the PDF report of a group and exit: KIND is denomination, country or year, "
@@ -195,7 +203,9 @@ LaunchOptions parseLaunchOptions(const QStringList& given) {
         {"--backups", launch.listBackups},
         {"--stats", launch.stats},
         {"--value-history", !launch.valueHistoryFile.isEmpty()},
-        {"--report", !launch.report.isEmpty()}};
+        {"--report", !launch.report.isEmpty()},
+        {"--undo", launch.undo},
+        {"--changes", launch.changes}};
     QStringList asked;
     for (const auto& [name, set] : commands)
         if (set)

@@ -12,6 +12,8 @@ struct LaunchOptions {
     bool listBackups = false; // --backups: list the snapshots and exit
     bool stats = false;       // --stats: print the collection's totals and exit
     QString valueHistoryFile; // --value-history FILE: write the value per day as CSV and exit
+    bool undo = false;        // --undo: undo the last step of the journal and exit
+    bool changes = false;     // --changes: list the journal's last steps and exit
     QString grabFile;         // --grab PNG: save a picture of the window after start-up and exit
     bool dark = false;        // --dark: the dark appearance, whatever the desktop says
     bool openMenu = false;    // --open-menu: start with the menu opened (screenshots)

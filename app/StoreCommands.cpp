@@ -1,6 +1,7 @@
 #include "app/StoreCommands.h"
 
 #include "model/Backup.h"
+#include "model/Journal.h"
 #include "model/PersistentContainer.h"
 #include "model/Restore.h"
 #include "model/Snapshots.h"
@@ -74,6 +75,12 @@ int restore(const QString& file) {
         return 1;
     }
     const Backup::Restored& r = restored.value();
+    {
+        PersistentContainer container(QStringLiteral("Pelvane"));
+        container.loadPersistentStores({});
+        if (const Result<void> noted = container.journalRestore(r, file); !noted.ok())
+            say(QStringLiteral("The restore cannot be undone: %1").arg(noted.error().message));
+    }
     if (r.damaged) {
         std::printf("Restored %s from %s; the damaged collection was moved to %s\n",
                     qPrintable(coins(r.coinsAfter)), qPrintable(file), qPrintable(r.snapshot));
@@ -98,6 +105,34 @@ int listSnapshots() {
             qPrintable(n.ok() ? coins(n.value()) : QStringLiteral("unreadable")),
             qPrintable(QLocale::c().formattedDataSize(e.size, 1, QLocale::DataSizeSIFormat)),
             qPrintable(e.path));
+    }
+    return 0;
+}
+
+int undo(ManagedObjectContext& context, const QString& store) {
+    const Result<Journal::StepInfo> undone = Journal::undo(context);
+    if (!undone.ok()) {
+        say(QStringLiteral("Cannot undo in %1: %2").arg(store, undone.error().message));
+        return 1;
+    }
+    std::printf("%s\n", qPrintable(Journal::describe(undone.value(), false)));
+    return 0;
+}
+
+int changes(ManagedObjectContext& context, const QString& store) {
+    const Result<QList<Journal::StepInfo>> steps = Journal::steps(context, 50);
+    if (!steps.ok()) {
+        say(QStringLiteral("Cannot read the changes of %1: %2").arg(store, steps.error().message));
+        return 1;
+    }
+    if (steps.value().isEmpty())
+        std::printf("No changes yet in %s\n", qPrintable(store));
+    for (const Journal::StepInfo& s : steps.value()) {
+        const bool undone = s.state == Journal::StepInfo::State::Redoable ||
+                            s.state == Journal::StepInfo::State::Undone;
+        std::printf("%s  %s%s\n",
+                    qPrintable(s.time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))),
+                    qPrintable(Journal::describe(s, false)), undone ? "  (undone)" : "");
     }
     return 0;
 }

@@ -3,6 +3,7 @@
 #include <QString>
 
 class Window;
+class ManagedObjectContext;
 
 namespace StoreCommands {
 // The store file the program opens (in the data folder).
@@ -13,6 +14,10 @@ int backup(const QString& file);
 int restore(const QString& file);
 // --backups: one line per snapshot, newest first.
 int listSnapshots();
+// --undo: 0 and "Undid ..." naming the step undone; 1 and the reason (nothing to undo).
+int undo(ManagedObjectContext& context, const QString& store);
+// --changes: the journal's last 50 steps, newest first, one a line: date, time, what.
+int changes(ManagedObjectContext& context, const QString& store);
 // Whether the daily snapshot is due; asked before the store is opened, since opening it
 // touches its files.
 bool snapshotDue();

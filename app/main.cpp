@@ -56,16 +56,21 @@ int runWithoutWindow(int argc, char** argv, const LaunchOptions& options) {
     prepare(options);
     // An import writes as a whole piece of work: one at a time, and never with the window.
     const std::optional<StoreLock> lock =
-        options.importFile.isEmpty()
-            ? lockFor(StoreLock::Reading, QStringLiteral("pelvane"))
-            : lockFor(StoreLock::Writing,
-                      QStringLiteral("pelvane --import %1").arg(options.importFile));
+        !options.importFile.isEmpty()
+            ? lockFor(StoreLock::Writing,
+                      QStringLiteral("pelvane --import %1").arg(options.importFile))
+        : options.undo ? lockFor(StoreLock::Writing, QStringLiteral("pelvane --undo"))
+                       : lockFor(StoreLock::Reading, QStringLiteral("pelvane"));
     if (!lock)
         return 1;
     AppDelegate delegate;
     delegate.didFinishLaunching();
     PersistentContainer& store = delegate.persistentContainer();
     ManagedObjectContext& context = *store.viewContext();
+    if (options.undo)
+        return StoreCommands::undo(context, store.storePath());
+    if (options.changes)
+        return StoreCommands::changes(context, store.storePath());
     if (options.stats) {
         const Result<Statistics::Totals> totals = Statistics::totals(context);
         if (!totals.ok()) {
@@ -138,7 +143,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     if (!options.exportFile.isEmpty() || !options.importFile.isEmpty() || options.stats ||
-        !options.valueHistoryFile.isEmpty())
+        !options.valueHistoryFile.isEmpty() || options.undo || options.changes)
         return runWithoutWindow(argc, argv, options);
     if (!options.backupFile.isEmpty() || !options.restoreFile.isEmpty() || options.listBackups) {
         QCoreApplication app(argc, argv);

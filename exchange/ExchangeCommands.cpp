@@ -8,6 +8,7 @@
 #include "platform/core/NativeFiles.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -100,7 +101,7 @@ int runImport(ManagedObjectContext& context, const QString& file, PersistentCont
     };
     if (store)
         store->readWithoutMemoryMap();
-    Merge merge(context, std::move(*text));
+    Merge merge(context, std::move(*text), QFileInfo(file).fileName());
     while (merge.step(64))
         if (storeGone())
             return 1;

@@ -1,5 +1,8 @@
 #include "exchange/ExchangeReader.h"
+
 #include "model/PrintedFetch.h"
+
+#include <QLocale>
 
 #include "exchange/ExchangeWriter.h"
 #include "model/ManagedObjectContext.h"
@@ -197,9 +200,11 @@ void apply(Coins& coin, const Fields& fields, bool isNew, const PreparedLine& pi
 
 } // namespace
 
-Merge::Merge(ManagedObjectContext& context, QByteArray utf8)
+Merge::Merge(ManagedObjectContext& context, QByteArray utf8, const QString& source)
     : context_(context)
     , cause_(context, ValueHistory::Import)
+    , journalStep_(context, Journal::Import,
+                   source.isEmpty() ? QStringLiteral("an exchange file") : source)
     , text_(std::move(utf8)) {
     // A second container for the same model: opened and released, as the import always did.
     {
@@ -354,6 +359,11 @@ bool Merge::step(qsizetype count) {
         }
     }
     commit();
+    // The journal says what the import did in the words the command line prints.
+    const QLocale english(QLocale::English);
+    journalStep_.setDetail(
+        QStringLiteral("%1 created, %2 updated")
+            .arg(english.toString(result.created), english.toString(result.updated)));
     return next_ < lines_.size();
 }
 

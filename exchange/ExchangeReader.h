@@ -3,6 +3,7 @@
 // denomination, mint mark and year match no stored coin becomes a new coin (saved at once),
 // a line that matches exactly one coin rewrites it (left unsaved), a line that matches more
 // is skipped.
+#include "model/Journal.h"
 #include "model/ValueHistory.h"
 
 #include <QByteArray>
@@ -45,8 +46,9 @@ using PreparedLine = std::array<PreparedPicture, 2>;
 // steps; the lines, their order and the saves are exactly those of one mergeExchangeText call.
 class Merge {
 public:
-    // Opens the second container, normalises the text, splits it and checks the marker.
-    Merge(ManagedObjectContext& context, QByteArray utf8);
+    // Opens the second container, normalises the text, splits it and checks the marker. The
+    // whole merge is one step of the journal, named by `source` (the file's name).
+    Merge(ManagedObjectContext& context, QByteArray utf8, const QString& source = {});
     ~Merge();
     Merge(const Merge&) = delete;
     Merge& operator=(const Merge&) = delete;
@@ -68,6 +70,7 @@ private:
     ManagedObjectContext& context_;
     // Every coin the merge saves is recorded in the value history as imported.
     ValueHistory::Cause cause_;
+    Journal::Step journalStep_;
     QByteArray text_;
     QList<QByteArrayView> lines_;
     qsizetype next_ = 0;

@@ -68,6 +68,8 @@ bool ManagedObjectContext::stampStep(qint64 step) {
 }
 
 bool ManagedObjectContext::openStep() {
+    if (!journaling_)
+        return true;
     if (step_.id) {
         // A group's commit that failed takes the step back with what it wrote.
         SqliteStatement& there =
@@ -172,36 +174,56 @@ ManagedObjectContext::writeStep(const DirectStep& spec,
         return failure;
     }
     stampChanges({}, {}, {});
-    refreshObjects();
+    refreshObjects(id);
     return id;
 }
 
-void ManagedObjectContext::refreshObjects() {
+void ManagedObjectContext::refreshObjects(qint64 step) {
     for (const EntityDescription* e : Model::entities()) {
         auto& map = identity_[std::size_t(e->index)];
         const WriteSql& w = writeSql(*e);
-        for (auto it = map.begin(); it != map.end();) {
+        auto refresh = [&](qint64 rowId) {
+            auto it = map.find(rowId);
+            if (it == map.end())
+                return;
             const ObjectPtr o = it->lock();
-            if (!o || o->state_ != ManagedObject::State::Clean) {
-                it = o ? std::next(it) : map.erase(it);
-                continue;
+            if (!o) {
+                map.erase(it);
+                return;
             }
+            if (o->state_ != ManagedObject::State::Clean)
+                return;
             SqliteStatement& row = db_->cached(w.selectRow);
-            row.bindInt(1, o->rowId_);
+            row.bindInt(1, rowId);
             const int rc = row.step();
             if (rc == SQLITE_ROW) {
                 fillFromRow(*o, row);
-                ++it;
-            } else {
-                if (rc == SQLITE_DONE) {
-                    o->state_ = ManagedObject::State::Gone;
-                    o->context_ = nullptr;
-                    it = map.erase(it);
-                } else {
-                    ++it;
-                }
+            } else if (rc == SQLITE_DONE) {
+                o->state_ = ManagedObject::State::Gone;
+                o->context_ = nullptr;
+                map.erase(it);
             }
             row.reset();
+        };
+        if (step == 0) {
+            for (const qint64 rowId : map.keys())
+                refresh(rowId);
+            continue;
+        }
+        // The rows the step wrote, of the records' table and of their pictures'.
+        QStringList tables{QStringLiteral("Journal_") + e->name};
+        if (e->hasData())
+            tables << QStringLiteral("Journal_") + e->dataTable();
+        for (const QString& journal : tables) {
+            SqliteStatement& rows = db_->cached(
+                QStringLiteral("SELECT DISTINCT pk FROM main.%1 WHERE step = ?1").arg(journal));
+            rows.bindInt(1, step);
+            QList<qint64> written;
+            while (rows.step() == SQLITE_ROW)
+                written << rows.columnInt(0);
+            rows.reset();
+            for (const qint64 rowId : std::as_const(written))
+                refresh(rowId);
         }
     }
     ++changeCount_;

@@ -439,6 +439,19 @@ QStringList connection() {
     return sql;
 }
 
+void setRecording(ManagedObjectContext& context, bool on) {
+    SqliteDatabase& db = *context.database();
+    db.resetAll();
+    for (const Kept& k : kept())
+        for (const char* name : {"insert", "update", "delete"})
+            db.exec(QStringLiteral("DROP TRIGGER IF EXISTS temp.%1_%2").arg(k.journal, name));
+    db.exec(QStringLiteral("DROP TABLE IF EXISTS temp.JournalStamp"));
+    if (on)
+        for (const QString& statement : connection())
+            db.exec(statement);
+    context.setJournaling(on);
+}
+
 QString commandName(const StepInfo& s) {
     const QString kind = s.isReversal() ? s.detail : s.kind;
     const QString& x = s.subject;
@@ -458,6 +471,8 @@ QString commandName(const StepInfo& s) {
         return tr("Import of %1").arg(x);
     if (kind == Repair)
         return tr("Record Number Repair");
+    if (kind == Seed)
+        return tr("Filling of the Reference Lists");
     if (kind == Restore)
         return tr("Restore of %1").arg(x);
     if (kind == Version)
@@ -503,6 +518,8 @@ QString describe(const StepInfo& s, bool translated) {
         text = t("Imported %1").arg(x);
     else if (s.kind == Repair)
         text = t("Repaired the record numbers of %1").arg(x);
+    else if (s.kind == Seed)
+        text = t("Filled the reference lists with %1 values").arg(x);
     else if (s.kind == Restore)
         text = t("Restored %1").arg(x);
     else if (s.kind == Version)

@@ -31,6 +31,7 @@ inline const QString Revaluation = QStringLiteral("Revaluation");
 inline const QString Notes = QStringLiteral("Notes");
 inline const QString Import = QStringLiteral("Import");
 inline const QString Repair = QStringLiteral("Repair");
+inline const QString Seed = QStringLiteral("Seed"); // the reference lists filled at first start
 inline const QString Restore = QStringLiteral("Restore");
 inline const QString Version = QStringLiteral("Version");
 inline const QString PutBack = QStringLiteral("Put Back");
@@ -142,6 +143,10 @@ inline constexpr int kKeepDays = 90;
 inline constexpr int kKeepSteps = 1000;
 Result<qint64> prune(ManagedObjectContext& context, const QDateTime& now, int days = kKeepDays,
                      int keep = kKeepSteps);
+
+// Takes the journal's triggers off the context's connection and stops its saves from making
+// steps, or puts both back: for a benchmark that measures what the journal costs a save.
+void setRecording(ManagedObjectContext& context, bool on);
 
 // The name a coin goes by in the journal: "10 Cents 1964".
 QString coinName(const QString& denomination, int year);

@@ -129,10 +129,17 @@ public:
     };
     Result<qint64> writeStep(const DirectStep& step,
                              const std::function<bool(SqliteDatabase&, qint64)>& write);
-    // Reads every record in memory again from the store (after rows were written behind the
+    // Reads the records in memory again from the store (after rows were written behind the
     // context's back): values follow the store, a record whose row has gone is deleted.
-    // Pending changes must have been saved.
-    void refreshObjects();
+    // Only the rows the journal step `step` wrote when given, else every record. Pending changes
+    // must have been saved.
+    void refreshObjects(qint64 step = 0);
+    // Whether saves write journal steps: off only where a benchmark measures what the journal
+    // costs (Journal::setRecording also takes the connection's triggers away).
+    void setJournaling(bool on) {
+        journaling_ = on;
+        stampedStep_ = -1;
+    }
 
     // Whether a write waits for another program's lock to go (2 s) before it gives up.
     void setWaitWhenBusy(bool wait);
@@ -232,6 +239,7 @@ private:
         int depth = 0;
     } step_;
     qint64 stampedStep_ = -1; // what the connection's journal stamp holds
+    bool journaling_ = true;
     // A group's commit made by the next turn of the event loop, which failed.
     std::optional<Error> heldFailure_;
 };

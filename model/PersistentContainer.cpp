@@ -208,7 +208,21 @@ Result<Backup::Restored> PersistentContainer::restoreFrom(Backup::Candidate& can
     // Opened again whatever came of it: the restored store, or the one that stayed.
     if (const auto error = open(path_, false); !error.ok())
         return error.error();
+    if (restored.ok())
+        if (const Result<void> noted = journalRestore(restored.value(), candidate.file());
+            !noted.ok())
+            std::fprintf(stderr, "The restore cannot be undone: %s\n",
+                         qPrintable(noted.error().description()));
     return restored;
+}
+
+Result<void> PersistentContainer::journalRestore(const Backup::Restored& restored,
+                                                 const QString& file) {
+    // A damaged collection was moved aside, not kept: there is nothing to go back to.
+    if (restored.damaged || restored.snapshot.isEmpty() || !context_)
+        return {};
+    return Journal::recordRestore(*context_, restored.snapshot,
+                                  file.mid(file.lastIndexOf(QLatin1Char('/')) + 1));
 }
 
 Result<void> PersistentContainer::upgradeCopy(const QString& path) {

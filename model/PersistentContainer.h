@@ -55,6 +55,10 @@ public:
     // The same for a backup already copied and checked (Backup::prepare).
     Result<Backup::Restored> restoreFrom(Backup::Candidate& candidate);
 
+    // After a restore of `file` that kept the collection as it was in a snapshot: the change
+    // from that collection to the one now open, as one journal step that can be undone.
+    Result<void> journalRestore(const Backup::Restored& restored, const QString& file);
+
     // Whether the file at the store's path is still the one open, whole: not deleted, replaced
     // or cut short since it was opened.
     bool storeFileIntact();

@@ -70,20 +70,21 @@ qint64 OtherConnection::number(const QByteArray& sql) {
     return n;
 }
 
-QByteArray storeDump(const QString& storeFile, bool collectionOnly) {
+QByteArray storeDump(const QString& storeFile, Dump what) {
     OtherConnection db(storeFile);
     QByteArray out;
     sqlite3_stmt* tables = nullptr;
     // A copy's checksum is about the copy, not part of the collection it holds; the records'
     // tables alone are the collection, without the history of how it came to be.
-    sqlite3_prepare_v2(db.handle(),
-                       collectionOnly
-                           ? "SELECT name FROM sqlite_master WHERE type='table' AND name IN "
-                             "('Coins', 'Coins_pictures', 'GradeNumbers', 'StrikeCharacters', "
-                             "'CoinEdge') ORDER BY name"
-                           : "SELECT name FROM sqlite_master WHERE type='table' AND name <> "
-                             "'Seal' ORDER BY name",
-                       -1, &tables, nullptr);
+    const char* sql =
+        what == Dump::Collection
+            ? "SELECT name FROM sqlite_master WHERE type='table' AND name IN ('Coins', "
+              "'Coins_pictures', 'GradeNumbers', 'StrikeCharacters', 'CoinEdge') ORDER BY name"
+        : what == Dump::WithoutJournal
+            ? "SELECT name FROM sqlite_master WHERE type='table' AND name <> 'Seal' AND name NOT "
+              "LIKE 'Journal%' ORDER BY name"
+            : "SELECT name FROM sqlite_master WHERE type='table' AND name <> 'Seal' ORDER BY name";
+    sqlite3_prepare_v2(db.handle(), sql, -1, &tables, nullptr);
     while (sqlite3_step(tables) == SQLITE_ROW) {
         const QByteArray table = reinterpret_cast<const char*>(sqlite3_column_text(tables, 0));
         out += "== " + table + '\n';

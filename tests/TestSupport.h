@@ -62,7 +62,10 @@ private:
 };
 
 // Every row of every table of a store, as text: two stores with the same dump hold the same.
-QByteArray storeDump(const QString& storeFile, bool collectionOnly = false);
+// Or without the journal of how it came to be (a restore adds its own step), or the records'
+// tables alone (the collection).
+enum class Dump { Everything, WithoutJournal, Collection };
+QByteArray storeDump(const QString& storeFile, Dump what = Dump::Everything);
 
 // Overwrites the first page of a table (or index) of a closed store file with bytes that are no
 // page, as a failing disk would: every read that reaches it fails.

@@ -46,6 +46,12 @@ public:
     virtual void viewDidAppear(bool /*animated*/) {}
     virtual void viewWillDisappear(bool /*animated*/) {}
     virtual void viewDidDisappear(bool /*animated*/) {}
+    // The collection changed behind the screen's back (an undo) while it is in front: it shows
+    // what the store now holds, as on coming back to it.
+    virtual void storeChanged() {
+        viewWillAppear(false);
+        viewDidAppear(false);
+    }
 
     QString title() const { return title_; }
     void setTitle(const QString& title);

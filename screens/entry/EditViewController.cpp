@@ -93,6 +93,15 @@ void EditViewController::fillForm() {
                             : QImage());
 }
 
+void EditViewController::storeChanged() {
+    if (detailItem && !detailItem->managedObjectContext()) {
+        goBack();
+        return;
+    }
+    fillForm();
+    rememberOpeningState();
+}
+
 void EditViewController::prepareForSegue(StoryboardSegue& segue, QObject*) {
     if (auto* receiver = dynamic_cast<DetailReceiver*>(segue.destination))
         receiver->setDetailItem(detailItem);

@@ -10,6 +10,9 @@ class EditViewController : public CoinFormViewController, public DetailReceiver 
 public:
     explicit EditViewController(QWidget* parent = nullptr);
     void viewDidLoad() override;
+    // An undo changed the coin: the form shows it as it now is; a coin the undo took away
+    // leaves the form.
+    void storeChanged() override;
     void setDetailItem(const CoinPtr& coin) override { detailItem = coin; }
     void prepareForSegue(StoryboardSegue& segue, QObject* sender) override;
 

@@ -1,4 +1,5 @@
 #include "screens/entry/NotesViewController.h"
+#include "model/Journal.h"
 #include "model/PrintedFetch.h"
 
 #include "platform/kit/Appearance.h"
@@ -45,6 +46,8 @@ void NotesViewController::SaveButtonClicked() {
         ResultsCount = int(Results.size());
     }
     if (ResultsCount >= 1) {
+        const Journal::Step step(*managedObjectContext, Journal::Notes,
+                                 Journal::coinName(SelectedDenomination, SelectedYear));
         Results.first()->setNotes(NotesTextView->text());
         managedObjectContext->save();
     }

@@ -195,7 +195,8 @@ void ImportViewController::ImportTextFile() {
     ImportButton->setEnabled(false);
     setBusy(true);
     // The merge takes the text over: normalising it in place needs no second copy.
-    merge_ = std::make_unique<Exchange::Merge>(*managedObjectContext, std::exchange(*document, {}));
+    merge_ = std::make_unique<Exchange::Merge>(*managedObjectContext, std::exchange(*document, {}),
+                                               filename.value_or(QString()));
     after(0, [this] { mergeStep(); });
 }
 

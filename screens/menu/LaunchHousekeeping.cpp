@@ -1,6 +1,8 @@
 #include "screens/menu/LaunchHousekeeping.h"
 #include "model/PrintedFetch.h"
 
+#include "model/Journal.h"
+#include "model/ValueHistory.h"
 #include "platform/core/Console.h"
 #include "platform/core/Fatal.h"
 #include "platform/core/UserDefaults.h"
@@ -28,14 +30,23 @@ LaunchHousekeeping::LaunchHousekeeping(UserDefaults& userDefaults)
     : userDefaults_(userDefaults) {}
 
 void LaunchHousekeeping::run() {
+    ManagedObjectContext& context = *Application::viewContext();
+    // The journal keeps what an undo, a version or a coin put back may still need, no more.
+    if (const Result<qint64> pruned = Journal::prune(context, ValueHistory::now()); !pruned.ok())
+        Console::log(pruned.error().description());
     bool repair = false;
     if (!userDefaults_.boolForKey(AboutHasBeenLaunchedBeforeFlag)) {
         userDefaults_.setBool(true, AboutHasBeenLaunchedBeforeFlag);
         userDefaults_.synchronize();
         Console::print(QStringLiteral("First Launch"));
-        seed(QStringLiteral("StrikeCharacters"), StrikeCharacterList);
-        seed(QStringLiteral("GradeNumbers"), GradeNumbersList);
-        seed(QStringLiteral("CoinEdge"), EdgeList);
+        {
+            const Journal::Step step(context, Journal::Seed,
+                                     QString::number(StrikeCharacterList.size() +
+                                                     GradeNumbersList.size() + EdgeList.size()));
+            seed(QStringLiteral("StrikeCharacters"), StrikeCharacterList);
+            seed(QStringLiteral("GradeNumbers"), GradeNumbersList);
+            seed(QStringLiteral("CoinEdge"), EdgeList);
+        }
         repair = checkRepairFlag();
     } else {
         Console::print(QStringLiteral("Not First Launch"));
@@ -75,6 +86,8 @@ void LaunchHousekeeping::fixIDs() {
     request.returnsObjectsAsFaults = false;
     // Appended, not replaced: a second repair in the same life renumbers the earlier ones too.
     CoinList.append(fetchOrPrint<Coins>(*context, request).valueOr({}));
+    const Journal::Step step(*context, Journal::Repair,
+                             QStringLiteral("%1 coins").arg(CoinList.size()));
     qint16 counter = 0;
     for (const CoinPtr& coin : std::as_const(CoinList)) {
         if (counter == 32767)

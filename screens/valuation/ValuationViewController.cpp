@@ -1,4 +1,5 @@
 #include "screens/valuation/ValuationViewController.h"
+#include "model/Journal.h"
 
 #include "model/Numbers.h"
 #include "model/PrintedFetch.h"
@@ -222,6 +223,8 @@ void ValuationViewController::SaveNewCardButtonClicked() {
                                  Predicate::format(QStringLiteral("year=%@"), CoinYear)});
     const QList<CoinPtr> matching = fetchOrPrint<Coins>(*managedObjectContext, request).valueOr({});
     const ValueHistory::Cause cause(*managedObjectContext, ValueHistory::Revaluation);
+    const Journal::Step step(*managedObjectContext, Journal::Revaluation,
+                             Journal::coinName(Denomination, CoinYear.toInt()));
     if (const std::optional<float> value = Numbers::parseFloat(NewValueTextField->text()))
         for (const CoinPtr& coin : matching) {
             coin->setValue(*value);

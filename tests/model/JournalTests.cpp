@@ -7,7 +7,9 @@
 namespace {
 class JournalTest : public StoreTest {
 protected:
-    QByteArray collection() { return storeDump(QDir(dir()).filePath("Pelvane.sqlite"), true); }
+    QByteArray collection() {
+        return storeDump(QDir(dir()).filePath("Pelvane.sqlite"), Dump::Collection);
+    }
     QString undoName() {
         const auto s = Journal::undoable(ctx());
         return s.ok() && s.value() ? Journal::commandName(*s.value()) : QString();

@@ -65,7 +65,7 @@ TEST_F(DesktopWindowTest, TheMenuBarLeadsWhereTheStartScreensButtonsDo) {
     QStringList menus;
     for (QAction* m : bar->actions())
         menus << m->text().remove('&');
-    EXPECT_EQ(menus, QStringList({"File", "View", "Go", "Help"}));
+    EXPECT_EQ(menus, QStringList({"File", "Edit", "View", "Go", "Help"}));
 
     entry(bar, "Go", "List Coins")->trigger();
     ASSERT_NE(topAs<MainListTableViewController>(), nullptr);
