@@ -15,7 +15,8 @@
 # Backup trials: a backup over an earlier backup, killed at a random moment; the file is then the
 # earlier backup or the whole new one, and the next backup leaves no half-written copy behind.
 # Restore trials: a restore killed at a random moment; the collection is then the one before or
-# the backup, whole. Writer trials: an import started while a restore runs and killed at a
+# the backup, whole. Undo trials: the undo of the whole import killed at a random moment; the
+# collection is then the one with the import or the one before it, whole. Writer trials: an import started while a restore runs and killed at a
 # random moment; it waited for the restore, so the store is the backup with a leading part of
 # the import's coins, as in the import trials.
 # Exits 1 when any trial fails; the failed trial's files are kept and named.
@@ -86,6 +87,10 @@ cp -r "$WORK/whole" "$WORK/timing-restore"
 start=$(date +%s%N)
 "$PELVANE" --data-dir "$WORK/timing-restore" --restore "$WORK/base.bak" > /dev/null
 restore_ms=$(( ($(date +%s%N) - start) / 1000000 + 20 ))
+cp -r "$WORK/whole" "$WORK/timing-undo"
+start=$(date +%s%N)
+"$PELVANE" --data-dir "$WORK/timing-undo" --undo > /dev/null
+undo_ms=$(( ($(date +%s%N) - start) / 1000000 + 20 ))
 
 # Starts a command, kills it with SIGKILL after a random part of `ms` milliseconds.
 kill_at_random() {
@@ -189,6 +194,30 @@ for ((t = 1; t <= TRIALS; t++)); do
     rm -rf "$dir"
   fi
 
+  # An undo of the whole import killed at a random moment leaves the collection as it was before
+  # the undo or before the import, whole; an undo not done is done by the next one.
+  dir="$WORK/undo-$t"
+  cp -r "$WORK/whole" "$dir"
+  kill_at_random "$undo_ms" "$PELVANE" --data-dir "$dir" --undo
+  undo_problem=""
+  if ! "$CHECK" "$dir/Pelvane.sqlite" > /dev/null 2>&1 \
+     || ! "$PELVANE" --data-dir "$dir" --export "$dir/out.csv" > /dev/null 2>&1; then
+    undo_problem="the collection cannot be read"
+  elif cmp -s "$dir/out.csv" "$WORK/after.csv"; then
+    "$PELVANE" --data-dir "$dir" --undo > /dev/null 2>&1 \
+      && "$PELVANE" --data-dir "$dir" --export "$dir/again.csv" > /dev/null 2>&1 \
+      && cmp -s "$dir/again.csv" "$WORK/before.csv" \
+      || undo_problem="the undo after the kill did not bring the collection back"
+  elif ! cmp -s "$dir/out.csv" "$WORK/before.csv"; then
+    undo_problem="the collection is neither the one before the undo nor the one after"
+  fi
+  if [ -n "$undo_problem" ]; then
+    echo "undo trial $t failed: $undo_problem (kept in $dir)"
+    failed=$((failed + 1)); keep=1
+  else
+    rm -rf "$dir"
+  fi
+
   # An import started during a restore waits for it; killed at a random moment, it leaves the
   # backup with a leading part of its coins.
   dir="$WORK/writer-$t"
@@ -207,7 +236,7 @@ for ((t = 1; t <= TRIALS; t++)); do
   fi
 done
 
-echo "crash trials: $TRIALS imports, exports, backups, restores and imports during a restore killed, $failed failed" \
+echo "crash trials: $TRIALS imports, exports, backups, restores, undos and imports during a restore killed, $failed failed" \
      "(new coins saved before the kill: $saved_total in all; import ${import_ms} ms, export ${export_ms} ms," \
-     "backup ${backup_ms} ms, restore ${restore_ms} ms)"
+     "backup ${backup_ms} ms, restore ${restore_ms} ms, undo ${undo_ms} ms)"
 [ "$failed" -eq 0 ]

@@ -148,3 +148,68 @@ TEST_F(PelvaneTest, ValueHistoryFollowsTheChangesWhenTheClockIsSetBack) {
     EXPECT_EQ(readFile(csv), "date,pieces,total_value\n2026-06-01,5,9.00\n2026-06-03,6,13.00\n");
     EXPECT_EQ(runProgram(store, {"--stats"}).output, "Coins: 3\nPieces: 6\nTotal value: 13.00\n");
 }
+
+// --undo takes back the last change and says which; --changes lists the steps newest first with
+// the undone marked; the value history's last row still equals --stats after each undo; neither
+// runs with another command.
+TEST_F(PelvaneTest, UndoAndChangesFromTheCommandLine) {
+    const QString store = dir() + "/store";
+    ASSERT_EQ(runProgram(store, {"--import", kSampleFile}).exitCode, 0);
+    {
+        PersistentContainer::setDefaultDirectory(store);
+        PersistentContainer container(QStringLiteral("Pelvane"));
+        container.loadPersistentStores({});
+        ManagedObjectContext& ctx = *container.viewContext();
+        FetchRequest request(QStringLiteral("Coins"));
+        request.sortDescriptors = {{QStringLiteral("denomination"), true}};
+        const QList<CoinPtr> coins = ctx.fetch<Coins>(request);
+        ASSERT_GE(coins.size(), 2);
+        coins[0]->setQuantity(9);
+        ASSERT_TRUE(ctx.save().ok());
+        ctx.deleteObject(coins[1]);
+        ASSERT_TRUE(ctx.save().ok());
+    }
+    const QString csv = dir() + "/history.csv";
+    auto lastDayMatchesStats = [&] {
+        ASSERT_EQ(runProgram(store, {"--value-history", csv}).exitCode, 0);
+        const QStringList last =
+            QString::fromUtf8(readFile(csv)).trimmed().split('\n').last().split(',');
+        const QStringList stats = runProgram(store, {"--stats"}).output.split('\n');
+        EXPECT_EQ("Pieces: " + last.value(1), stats.value(1));
+        EXPECT_EQ("Total value: " + last.value(2), stats.value(2));
+    };
+    lastDayMatchesStats();
+
+    ProgramRun r = runProgram(store, {"--undo"});
+    EXPECT_EQ(r.exitCode, 0) << qPrintable(r.errors);
+    EXPECT_TRUE(r.output.startsWith("Undid the Delete of ")) << qPrintable(r.output);
+    lastDayMatchesStats();
+    r = runProgram(store, {"--undo"});
+    EXPECT_TRUE(r.output.startsWith("Undid the Edit of ")) << qPrintable(r.output);
+    lastDayMatchesStats();
+
+    r = runProgram(store, {"--changes"});
+    EXPECT_EQ(r.exitCode, 0);
+    QStringList lines = r.output.trimmed().split('\n');
+    ASSERT_EQ(lines.size(), 5) << qPrintable(r.output);
+    for (QString& line : lines)
+        line = line.section("  ", 1);
+    EXPECT_TRUE(lines[0].startsWith("Undid the Edit of "));
+    EXPECT_TRUE(lines[2].startsWith("Deleted ") && lines[2].endsWith("  (undone)"));
+    EXPECT_EQ(lines[4], "Imported Pelvane-sample.csv: 40 created, 0 updated");
+
+    ASSERT_EQ(runProgram(store, {"--undo"}).exitCode, 0);
+    r = runProgram(store, {"--undo"});
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_TRUE(r.errors.contains("There is nothing to undo.")) << qPrintable(r.errors);
+    EXPECT_EQ(runProgram(store, {"--stats"}).output, "Coins: 0\nPieces: 0\nTotal value: 0.00\n");
+    lastDayMatchesStats();
+
+    for (const QStringList& both :
+         {QStringList{"--undo", "--changes"}, QStringList{"--changes", "--stats"},
+          QStringList{"--undo", "--export", csv}}) {
+        r = runProgram(store, both);
+        EXPECT_EQ(r.exitCode, 2) << qPrintable(both.join(' '));
+        EXPECT_TRUE(r.errors.contains("cannot be combined")) << qPrintable(r.errors);
+    }
+}
