@@ -1,0 +1,6 @@
+#include "screens/StoreChanges.h"
+
+StoreChanges& StoreChanges::instance() {
+    static StoreChanges changes;
+    return changes;
+}
