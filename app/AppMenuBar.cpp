@@ -186,11 +186,10 @@ QMenuBar* install(Window& window, MainMenuViewController* menu) {
     // The Go menu follows the start screen's buttons; a later screen takes the next number.
     QMenu* goMenu = bar->addMenu(QStringLiteral("&Go"));
     goMenu->setObjectName(QStringLiteral("GoMenu"));
-    const std::pair<const char*, const char*> places[] = {{"List Coins", "ListCoins"},
-                                                          {"Group By", "TabBarController"},
-                                                          {"Coin Valuation", "CoinValuation"},
-                                                          {"Reference Lists", "ReferenceLists"},
-                                                          {"Statistics", "Statistics"}};
+    const std::pair<const char*, const char*> places[] = {
+        {"List Coins", "ListCoins"},         {"Group By", "TabBarController"},
+        {"Coin Valuation", "CoinValuation"}, {"Reference Lists", "ReferenceLists"},
+        {"Statistics", "Statistics"},        {"Recent Changes", "RecentChanges"}};
     int number = 1;
     for (auto [title, segue] : places)
         entry(goMenu, QString::fromLatin1(title),

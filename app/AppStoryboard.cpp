@@ -17,6 +17,8 @@
 #include "screens/groups/PrintCoinsViewController.h"
 #include "screens/groups/YearBreakdownTableViewController.h"
 #include "screens/groups/YearGroupTableViewController.h"
+#include "screens/journal/RecentChangesViewController.h"
+#include "screens/journal/RecentlyDeletedViewController.h"
 #include "screens/list/MainListTableViewController.h"
 #include "screens/overview/OverviewViewController.h"
 #include "screens/reference/ReferenceListScreens.h"
@@ -71,5 +73,7 @@ void install() {
     push("PrintCoins", [] { return new PrintCoinsViewController; });
     push("Statistics", [] { return new StatisticsViewController; });
     push("History", [] { return new CoinHistoryViewController; });
+    push("RecentChanges", [] { return new RecentChangesViewController; });
+    push("RecentlyDeleted", [] { return new RecentlyDeletedViewController; });
 }
 } // namespace AppStoryboard

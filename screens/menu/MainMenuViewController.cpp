@@ -11,8 +11,8 @@
 #include <QVBoxLayout>
 
 const QStringList MainMenuViewController::EntrySegues = {
-    "ListCoins", "TabBarController", "AddCoin",        "RateShare", "CoinValuation",
-    "Overview",  "ImportExport",     "ReferenceLists", "Statistics"};
+    "ListCoins", "TabBarController", "AddCoin",        "RateShare",  "CoinValuation",
+    "Overview",  "ImportExport",     "ReferenceLists", "Statistics", "RecentChanges"};
 
 MainMenuViewController::MainMenuViewController(QWidget* parent)
     : ViewController(parent)
@@ -45,7 +45,8 @@ MainMenuViewController::MainMenuViewController(QWidget* parent)
     entryLayout->setSpacing(10);
     const QStringList titles = {"List Coins",      "Group By",        "Add Coin",
                                 "Rate && Share",   "Coin Valuation",  "Pelvane Overview",
-                                "Import / Export", "Reference Lists", "Statistics"};
+                                "Import / Export", "Reference Lists", "Statistics",
+                                "Recent Changes"};
     for (int i = 0; i < titles.size(); ++i) {
         auto* button = new QPushButton(titles[i], entries_);
         button->setObjectName(QString(titles[i]).remove(' ').remove('/').remove('&'));
@@ -65,6 +66,8 @@ MainMenuViewController::MainMenuViewController(QWidget* parent)
     ReferenceListButton = MainMenuButton[7];
     // A desktop addition: what the collection is worth over time.
     StatisticsButton = MainMenuButton[8];
+    // Every saved change, with undo back to any of them and the coins deleted lately.
+    RecentChangesButton = MainMenuButton[9];
     entries_->setGraphicsEffect(fade_);
     layout->addWidget(entries_);
     layout->addStretch(2);

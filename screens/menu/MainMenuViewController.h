@@ -26,7 +26,7 @@ public:
     QPushButton* ControlButton;
     QPushButton *ListCoinsButton, *GroupByButton, *AddCoinButton, *RateShareButton,
         *CoinValuationButton, *PelvaneOverviewButton, *ImportExportButton, *ReferenceListButton,
-        *StatisticsButton;
+        *StatisticsButton, *RecentChangesButton;
     ManagedObjectContext* managedObjectContext = nullptr;
     ManagedObjectContext* context = nullptr;
     qint16 CoinID = 0;

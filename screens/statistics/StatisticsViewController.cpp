@@ -10,7 +10,6 @@
 #include "reports/Statistics.h"
 #include "screens/Application.h"
 #include "screens/DetailReceiver.h"
-#include "screens/ProcessState.h"
 #include "screens/statistics/StatisticsCharts.h"
 
 #include <QBoxLayout>
@@ -102,8 +101,11 @@ StatisticsViewController::StatisticsViewController(QWidget* parent)
         navigationItem().rightItems[0].enabled = Charts[p] != nullptr;
         updateNavigationBar();
     });
-    connect(Tables[ChangesPage], &QTableWidget::cellActivated, this,
-            [this](int row, int) { OpenChange(row); });
+    // Queued: the Enter that opened a row goes on to the window, and would answer at once the
+    // alert a deleted coin shows.
+    connect(
+        Tables[ChangesPage], &QTableWidget::cellActivated, this,
+        [this](int row, int) { OpenChange(row); }, Qt::QueuedConnection);
     navigationItem().rightItems = {{QStringLiteral("Save Chart…"), [this] { SaveChart(); }, nullptr,
                                     QStringLiteral("SaveChartButton")},
                                    {QStringLiteral("Export Data…"), [this] { ExportData(); },
@@ -352,14 +354,13 @@ void StatisticsViewController::OpenChange(int row) {
         return;
     opened_ = managedObjectContext->existing<Coins>(Changes[row].coin);
     if (!opened_) {
-        present(AlertController::okAlert(QStringLiteral("Coin Deleted"),
-                                         QStringLiteral("This coin is no longer in the "
-                                                        "collection.")));
+        present(AlertController::okAlert(
+            tr("Coin Deleted"), tr("This coin has been deleted. It can be put back from Recently "
+                                   "Deleted, on the Recent Changes screen.")));
         return;
     }
-    // As a coin list does: the edit screen reads the coin from these.
-    copyIntoCurrentCoin(*opened_);
-    performSegue(QStringLiteral("showDetails"));
+    // A figure to look into, not a form to edit: the coin opens read-only with its history.
+    performSegue(QStringLiteral("History"));
 }
 
 void StatisticsViewController::prepareForSegue(StoryboardSegue& segue, QObject*) {

@@ -71,5 +71,5 @@ private:
     QWidget* page(Page page, const QString& title);
     QList<QBoxLayout*> pageLayouts_;
     bool loaded_[PageCount] = {};
-    CoinPtr opened_; // handed to the edit screen
+    CoinPtr opened_; // handed to the history screen
 };

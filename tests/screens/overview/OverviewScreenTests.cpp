@@ -65,7 +65,7 @@ TEST_F(OverviewTest, OpensFromTheMenuWithTheGuideFittedToTheWidth) {
     QString guide;
     for (int page = 0; page < pdf->pageCount(); ++page)
         guide += pdf->getAllText(page).text().simplified() + QLatin1Char(' ');
-    EXPECT_EQ(menuEntries.size(), 8);
+    EXPECT_EQ(menuEntries.size(), 9);
     for (const QString& entry : menuEntries)
         EXPECT_TRUE(guide.contains(entry)) << entry.toStdString();
     ImportExportViewController exchange;

@@ -130,7 +130,8 @@ TEST_F(StatisticsTest, ChartsAndTablesShowTheCollectionsOwnSums) {
 }
 
 // A revaluation on the valuation screen and an import that updates a coin are each a change
-// the statistics list and the coin's history shows; a row opens the coin.
+// the statistics list and the coin's history shows; a row opens the coin read-only, and a coin
+// deleted since is said to be so.
 TEST_F(StatisticsTest, RevaluationsAndImportsAreChangesThatOpenTheirCoin) {
     addCoin("Lincoln Cent", 1909, 2, 1.0f, "USA", "S");
     addCoin("Mercury Dime", 1944, 1, 2.0f, "USA", "D");
@@ -171,19 +172,19 @@ TEST_F(StatisticsTest, RevaluationsAndImportsAreChangesThatOpenTheirCoin) {
     screen->YearButton->click();
     EXPECT_EQ(screen->Tables[StatisticsViewController::ValuePage]->rowCount(), 3);
 
-    // A row opens its coin on the edit screen; its History lists the coin's changes.
+    // A row opens its coin read-only with its history, never the edit form.
     screen->ChartTabs->setCurrentIndex(StatisticsViewController::ChangesPage);
     screen->MonthButton->click();
     changes->setCurrentCell(1, 0);
     QTest::keyClick(changes, Qt::Key_Return);
-    auto* edit = topAs<EditViewController>();
-    ASSERT_NE(edit, nullptr);
-    EXPECT_EQ(edit->detailItem->denomination(), "Mercury Dime");
-    QPushButton* history = button("HistoryButton");
-    ASSERT_NE(history, nullptr);
-    history->click();
+    QApplication::processEvents();
     auto* coinHistory = topAs<CoinHistoryViewController>();
     ASSERT_NE(coinHistory, nullptr);
+    EXPECT_EQ(window->findChild<EditViewController*>(), nullptr);
+    EXPECT_EQ(coinHistory->CoinLabel->text(), "Mercury Dime, USA 1944");
+    EXPECT_EQ(coinHistory->QuantityValue->text(), "4");
+    EXPECT_EQ(coinHistory->ValueValue->text(), "$2.50");
+    EXPECT_EQ(coinHistory->MintMarkValue->text(), "D");
     QTableWidget* rows = coinHistory->HistoryTable;
     ASSERT_EQ(rows->rowCount(), 2);
     EXPECT_EQ(cell(rows, 0, 1), "Added");
@@ -191,6 +192,20 @@ TEST_F(StatisticsTest, RevaluationsAndImportsAreChangesThatOpenTheirCoin) {
     EXPECT_EQ(cell(rows, 1, 2), "1 → 4");
     EXPECT_EQ(cell(rows, 1, 3), "$2.00 → $2.50");
     EXPECT_EQ(cell(rows, 1, 4), "$2.00 → $10.00");
+
+    // A coin deleted while its row is listed is not opened.
+    const CoinPtr dime = coinHistory->detailItem;
+    window->navigationController()->popViewController(false);
+    ctx().deleteObject(dime);
+    ASSERT_TRUE(ctx().save().ok());
+    // The Enter that opened the row does not answer the alert as well.
+    changes->setCurrentCell(1, 0);
+    QTest::keyClick(changes, Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(top(), screen);
+    EXPECT_TRUE(alertText().startsWith("Coin Deleted / This coin has been deleted."))
+        << alertText().toStdString();
+    dismissAlert();
 }
 
 // The chart is saved as a PNG and the numbers as CSV where the user picks; a chart follows the
