@@ -6,8 +6,10 @@
 #include "platform/graphics/ImageCoding.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
+#include "platform/kit/NavigationController.h"
 #include "screens/Application.h"
 #include "screens/ProcessState.h"
+#include "screens/StoreChanges.h"
 #include "screens/TextMessageAlert.h"
 #include "screens/WebSearch.h"
 
@@ -32,6 +34,12 @@ EditViewController::EditViewController(QWidget* parent)
     connect(NotesButton, &QPushButton::clicked, this,
             [this] { performSegue(QStringLiteral("Notes")); });
     connect(ShareButton, &QPushButton::clicked, this, &EditViewController::shareButtonClicked);
+    // Also when the coin's History, in front of the form, wrote an earlier version back: the
+    // form must not save the version it showed before over it.
+    connect(&StoreChanges::instance(), &StoreChanges::changed, this, [this] {
+        if (isViewLoaded())
+            storeChanged();
+    });
     registerUnwindAction(QStringLiteral("unwindToEdit"), [this](StoryboardSegue&) {
         fillForm();
         rememberOpeningState();
@@ -95,7 +103,8 @@ void EditViewController::fillForm() {
 
 void EditViewController::storeChanged() {
     if (detailItem && !detailItem->managedObjectContext()) {
-        goBack();
+        if (navigationController() && navigationController()->topViewController() == this)
+            goBack();
         return;
     }
     fillForm();

@@ -13,6 +13,7 @@
 #include <QListWidget>
 #include <QMenuBar>
 #include <QTableWidget>
+#include <QToolButton>
 
 namespace {
 QString cell(QTableWidget* table, int row, int column) {
@@ -280,4 +281,13 @@ TEST_F(JournalScreensTest, CoinHistoryRestoresAnEarlierVersion) {
     EXPECT_TRUE(
         cell(versions, 0, 0).startsWith("Before: Restored an earlier version of 10 Cents 1964\n"));
     EXPECT_EQ(cell(versions, 0, 1), "Quantity: 2 → 5\nValue: 1.50 → 3.25\nFront picture changed");
+
+    // The edit form behind shows the version written back, so that its Save cannot put the
+    // replaced one over it again.
+    window->navigationController()->backButton()->click();
+    QApplication::processEvents();
+    auto* edit = topAs<EditViewController>();
+    ASSERT_NE(edit, nullptr);
+    EXPECT_EQ(edit->QuantityTextField->text(), "2");
+    EXPECT_FALSE(edit->hasUnsavedChanges());
 }
