@@ -292,10 +292,15 @@ QString nameOf(const Image& image, const Kept& k) {
     return image.exists ? image.values.value(0).toString() : QString();
 }
 
+// An empty text and no text read the same to a person (a form saves the one where the store
+// held the other): no change worth listing.
 bool same(const QVariant& a, const QVariant& b) {
-    if (a.isValid() != b.isValid())
-        return false;
-    return !a.isValid() || a == b;
+    auto blank = [](const QVariant& v) {
+        return !v.isValid() || (v.typeId() == QMetaType::QString && v.toString().isEmpty());
+    };
+    if (blank(a) || blank(b))
+        return blank(a) && blank(b);
+    return a == b;
 }
 
 QList<FieldChange> differences(const Kept& k, const Image& before, const Image& after) {
@@ -688,15 +693,17 @@ Result<StepChanges> changesOf(ManagedObjectContext& context, qint64 stepPk, int 
         while ((rc = st.step()) == SQLITE_ROW) {
             const qint64 pk = st.columnInt(1);
             const QPair<int, qint64> key{k.entity->index, pk};
-            if (!rowOf.contains(key))
+            const bool seen = rowOf.contains(key);
+            if (!seen)
                 ++out.total;
-            if (out.rows.size() + entries.size() >= limit && !rowOf.contains(key))
+            if (!seen && out.rows.size() + entries.size() >= limit)
                 continue;
             Image before;
             if (st.columnInt(0) != Inserted)
                 before = {true, valuesAt(st, k, 2)};
             entries << Entry{pk, before};
-            rowOf.insert(key, -1);
+            if (!seen)
+                rowOf.insert(key, -1);
         }
         st.reset();
         if (rc != SQLITE_DONE)
@@ -719,7 +726,8 @@ Result<StepChanges> changesOf(ManagedObjectContext& context, qint64 stepPk, int 
                 rowOf.insert(key, at);
             }
             RowChange& row = out.rows[at];
-            if (!k.pictures || row.name.isEmpty())
+            // A pictures row names no coin: its coin's row does, or the coin as it is now.
+            if (!k.pictures)
                 row.name = nameOf(after.value().exists ? after.value() : e.before, k);
             row.fields << differences(k, e.before, after.value());
         }

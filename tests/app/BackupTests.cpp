@@ -57,6 +57,12 @@ TEST_F(PelvaneTest, BackupAndRestoreAreExact) {
     const QStringList kept = QDir(path("a/Backups")).entryList({"*before-restore*.sqlite"});
     ASSERT_EQ(kept.size(), 1);
     EXPECT_EQ(storeDump(path("a/Backups/") + kept.first()), changed);
+    // The restore is one change: undone, the collection is the one it replaced.
+    run = runProgram(path("a"), {"--undo"});
+    EXPECT_EQ(run.output, "Undid the Restore of copy.sqlite\n") << qPrintable(run.errors);
+    EXPECT_EQ(storeDump(store, Dump::Collection),
+              storeDump(path("a/Backups/") + kept.first(), Dump::Collection));
+    EXPECT_EQ(runProgram(path("a"), {"--stats"}).output.section('\n', 0, 0), "Coins: 10");
 
     run = runProgram(path("a"), {"--backups"});
     EXPECT_EQ(run.exitCode, 0);

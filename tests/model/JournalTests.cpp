@@ -58,6 +58,19 @@ TEST_F(JournalTest, UndoAndRedoPutEveryRowBackExactly) {
     ASSERT_TRUE(ctx().save().ok());
     states << collection();
     EXPECT_EQ(undoName(), "Edit of 10 Cents 1964");
+    // A coin's row and its pictures' row are one change of the coin, field by field; a text
+    // saved empty where there was none is no change.
+    dime->setDescrip(QStringLiteral(""));
+    ASSERT_TRUE(ctx().save().ok());
+    ASSERT_TRUE(Journal::undo(ctx()).ok());
+    const auto edit = Journal::changesOf(ctx(), Journal::undoable(ctx()).value()->pk, 10);
+    ASSERT_TRUE(edit.ok());
+    ASSERT_EQ(edit.value().rows.size(), 1);
+    EXPECT_EQ(edit.value().rows.first().name, "10 Cents 1964");
+    QStringList fields;
+    for (const Journal::FieldChange& f : edit.value().rows.first().fields)
+        fields << f.attribute;
+    EXPECT_EQ(fields, QStringList({"id", "value", "backImage", "frontImage"}));
 
     auto grade = ctx().insert<GradeNumbers>();
     grade->setGrade("MS-63");
