@@ -77,6 +77,19 @@ const WriteSql& writeSql(const EntityDescription& e) {
     return all[std::size_t(e.index)];
 }
 
+QString sqlType(AttributeType type) {
+    switch (type) {
+    case AttributeType::Text:
+        return QStringLiteral("TEXT");
+    case AttributeType::Data:
+        return QStringLiteral("BLOB");
+    case AttributeType::Int16:
+        return QStringLiteral("INTEGER");
+    default:
+        return QStringLiteral("REAL");
+    }
+}
+
 quint32 dataMask(const EntityDescription& e) {
     quint32 m = 0;
     for (std::size_t i = 0; i < e.attributes.size(); ++i)

@@ -14,6 +14,8 @@ struct WriteSql {
     QString select, selectKeys, selectRow, insert, insertData, update, remove, removeData, loadData;
 };
 const WriteSql& writeSql(const EntityDescription& e);
+// The SQL type a column of the attribute's kind holds.
+QString sqlType(AttributeType type);
 // Bit per data attribute.
 quint32 dataMask(const EntityDescription& e);
 // Fatal for an unknown entity name.

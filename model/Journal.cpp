@@ -63,19 +63,6 @@ const Kept& keptFor(const EntityDescription& e, bool pictures) {
     Q_UNREACHABLE();
 }
 
-QString columnType(AttributeType t) {
-    switch (t) {
-    case AttributeType::Text:
-        return QStringLiteral("TEXT");
-    case AttributeType::Data:
-        return QStringLiteral("BLOB");
-    case AttributeType::Int16:
-        return QStringLiteral("INTEGER");
-    default:
-        return QStringLiteral("REAL");
-    }
-}
-
 QString prefixed(const QStringList& columns, const QString& prefix) {
     QStringList out;
     for (const QString& c : columns)
@@ -390,7 +377,7 @@ QStringList schema() {
     for (const Kept& k : kept()) {
         QStringList columns;
         for (int c = 0; c < k.columns.size(); ++c)
-            columns << k.columns[c] + QLatin1Char(' ') + columnType(k.types[c]);
+            columns << k.columns[c] + QLatin1Char(' ') + sqlType(k.types[c]);
         sql << QStringLiteral("CREATE TABLE %1 (seq INTEGER PRIMARY KEY, step INTEGER NOT NULL, "
                               "op INTEGER NOT NULL, pk INTEGER NOT NULL, %2)")
                    .arg(k.journal, columns.join(QLatin1Char(',')))

@@ -41,16 +41,8 @@ QString setApplicationId() {
 
 // Numbers are never absent: a column of numbers holds 0 where nothing was set.
 QString columnType(AttributeType t) {
-    switch (t) {
-    case AttributeType::Text:
-        return QStringLiteral("TEXT");
-    case AttributeType::Data:
-        return QStringLiteral("BLOB");
-    case AttributeType::Int16:
-        return QStringLiteral("INTEGER NOT NULL DEFAULT 0");
-    default:
-        return QStringLiteral("REAL NOT NULL DEFAULT 0");
-    }
+    const bool number = t != AttributeType::Text && t != AttributeType::Data;
+    return ContextSql::sqlType(t) + (number ? QStringLiteral(" NOT NULL DEFAULT 0") : QString());
 }
 
 // From schema 1 to 2: stores written before numbers were kept as 0 hold NULL for every number

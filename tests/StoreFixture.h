@@ -43,6 +43,16 @@ protected:
         r.returnsObjectsAsFaults = false;
         return ctx().fetch<Coins>(r);
     }
+    // The collection summed over its coins, as --stats sums it: pieces and quantity × value.
+    std::pair<qint64, double> totals() {
+        qint64 pieces = 0;
+        double value = 0;
+        for (const CoinPtr& c : fetch()) {
+            pieces += c->quantity();
+            value += double(c->quantity()) * double(c->value());
+        }
+        return {pieces, value};
+    }
     static Predicate eq(const char* format, const QVariant& arg) {
         return Predicate::format(QString::fromLatin1(format), arg);
     }

@@ -18,15 +18,6 @@ protected:
         const auto s = Journal::redoable(ctx());
         return s.ok() && s.value() ? Journal::commandName(*s.value()) : QString();
     }
-    std::pair<qint64, double> totals() {
-        qint64 pieces = 0;
-        double value = 0;
-        for (const CoinPtr& c : fetch()) {
-            pieces += c->quantity();
-            value += double(c->quantity()) * double(c->value());
-        }
-        return {pieces, value};
-    }
     void expectHistoryMatchesCoins() {
         const auto series = ValueHistory::series(ctx());
         ASSERT_TRUE(series.ok());

@@ -38,16 +38,6 @@ protected:
             out.append({e.cause, e.quantityBefore, e.quantityAfter, e.valueBefore, e.valueAfter});
         return out;
     }
-    // The collection summed over its coins, as --stats sums it.
-    std::pair<qint64, double> totals() {
-        qint64 pieces = 0;
-        double value = 0;
-        for (const CoinPtr& c : fetch()) {
-            pieces += c->quantity();
-            value += double(c->quantity()) * double(c->value());
-        }
-        return {pieces, value};
-    }
     Clock clock;
 };
 } // namespace

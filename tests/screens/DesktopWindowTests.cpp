@@ -43,20 +43,12 @@ bool dropFile(QWidget* target, const QString& path) {
 }
 } // namespace
 
-class DesktopWindowTest : public ScreenTest {
+class DesktopWindowTest : public MenuBarScreenTest {
 protected:
-    void SetUp() override {
-        ScreenTest::SetUp();
-        bar = AppMenuBar::install(*window, menu);
-        window->resize(1280, 800);
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    }
     void settle() {
         QApplication::processEvents();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-    QMenuBar* bar = nullptr;
 };
 
 TEST_F(DesktopWindowTest, TheMenuBarLeadsWhereTheStartScreensButtonsDo) {

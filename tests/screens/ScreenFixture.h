@@ -1,6 +1,7 @@
 #pragma once
 // A running program on the offscreen platform: delegate, storyboard, fakes, menu in a window.
 #include "AppFixture.h"
+#include "app/AppMenuBar.h"
 #include "app/AppStoryboard.h"
 #include "platform/fakes/Fakes.h"
 #include "platform/graphics/ImageCoding.h"
@@ -75,6 +76,22 @@ protected:
     Fakes fakes{};
     MainMenuViewController* menu = nullptr;
     std::unique_ptr<Window> window;
+};
+
+// The same in a desktop-sized window with its menu bar, active.
+class MenuBarScreenTest : public ScreenTest {
+protected:
+    void SetUp() override {
+        ScreenTest::SetUp();
+        installBar();
+    }
+    void installBar() {
+        bar = AppMenuBar::install(*window, menu);
+        window->resize(1280, 800);
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    QMenuBar* bar = nullptr;
 };
 
 // The same, with money shown in US dollars whatever the machine's locale.

@@ -13,15 +13,8 @@
 #include <QMenuBar>
 
 namespace {
-class UndoTest : public ScreenTest {
+class UndoTest : public MenuBarScreenTest {
 protected:
-    void SetUp() override {
-        ScreenTest::SetUp();
-        bar = AppMenuBar::install(*window, menu);
-        window->resize(1280, 800);
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    }
     void key(Qt::Key k, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
         QTest::keyClick(window.get(), k, modifiers);
         QApplication::processEvents();
@@ -54,7 +47,6 @@ protected:
         add->SaveButton->click();
         QApplication::processEvents();
     }
-    QMenuBar* bar = nullptr;
 };
 } // namespace
 
@@ -108,10 +100,8 @@ TEST_F(UndoTest, TheEditThatWroteOverAnotherCoinIsUndoneExactly) {
     relaunch();
     menu = new MainMenuViewController;
     window = std::make_unique<Window>(menu);
-    bar = AppMenuBar::install(*window, menu);
     window->show();
-    window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    installBar();
     redo();
     EXPECT_EQ(exported(), exportEdited);
     undo();
