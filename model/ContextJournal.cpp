@@ -67,7 +67,7 @@ bool ManagedObjectContext::stampStep(qint64 step) {
     return done;
 }
 
-bool ManagedObjectContext::openStep() {
+bool ManagedObjectContext::openStep(const QDateTime& now) {
     if (!journaling_)
         return true;
     if (step_.id) {
@@ -111,7 +111,7 @@ bool ManagedObjectContext::openStep() {
     SqliteStatement& st = db_->cached(
         QStringLiteral("INSERT INTO main.JournalSteps (time, kind, subject, detail, state) "
                        "VALUES (?1, ?2, ?3, ?4, 0)"));
-    st.bindInt(1, ValueHistory::now().toMSecsSinceEpoch());
+    st.bindInt(1, now.toMSecsSinceEpoch());
     st.bindText(2, kind);
     st.bindText(3, subject);
     st.bindText(4, step_.detail);

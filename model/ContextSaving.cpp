@@ -67,13 +67,15 @@ QString ManagedObjectContext::historyDay(const QDateTime& now) {
 
 bool ManagedObjectContext::writePending(std::vector<qint64>& newIds) {
     newIds.clear();
-    if (!openStep())
+    // One reading of the clock dates the step and the events alike: each reading costs a look
+    // at the time zone.
+    const QDateTime now = ValueHistory::now();
+    if (!openStep(now))
         return false;
     // Every coin's event is dated by this save and named by what made its change: the source
     // row is rewritten where the cause changes from one coin to the next. The day is never
     // before the day of the event saved last, so a clock set back cannot sum a change before
     // the changes it follows.
-    const QDateTime now = ValueHistory::now();
     const QString day = historyDay(now);
     QString stamped;
     if (!stampChanges(now, day, stamped))

@@ -177,9 +177,9 @@ private:
     // The day the value history dates a save's events by: today, never before the day of the
     // event saved last.
     QString historyDay(const QDateTime& now);
-    // Makes the journal step the pending writes go to, unless it is made already; false when
-    // a statement fails.
-    bool openStep();
+    // Makes the journal step the pending writes go to, dated `now`, unless it is made already;
+    // false when a statement fails.
+    bool openStep(const QDateTime& now);
     bool stampStep(qint64 step);
     // A save that is no step's ends its own.
     void closeOwnStep();
