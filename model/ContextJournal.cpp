@@ -216,7 +216,11 @@ void ManagedObjectContext::refreshObjects(qint64 step) {
             tables << QStringLiteral("Journal_") + e->dataTable();
         for (const QString& journal : tables) {
             SqliteStatement& rows = db_->cached(
-                QStringLiteral("SELECT DISTINCT pk FROM main.%1 WHERE step = ?1").arg(journal));
+                QStringLiteral("SELECT DISTINCT pk FROM main.%1 WHERE seq BETWEEN ?1 * %2 AND "
+                               "?1 * %2 + %3")
+                    .arg(journal)
+                    .arg(Journal::kRowsPerStep)
+                    .arg(Journal::kRowsPerStep - 1));
             rows.bindInt(1, step);
             QList<qint64> written;
             while (rows.step() == SQLITE_ROW)

@@ -70,6 +70,14 @@ QString prefixed(const QStringList& columns, const QString& prefix) {
     return out.join(QLatin1Char(','));
 }
 
+// The rows a step's statements condition on: those numbered in the step's range.
+QString inStep(const QString& alias) {
+    return QStringLiteral("%1.seq BETWEEN ?1 * %2 AND ?1 * %2 + %3")
+        .arg(alias)
+        .arg(kRowsPerStep)
+        .arg(kRowsPerStep - 1);
+}
+
 Error failure(SqliteDatabase& db, const QString& doing) {
     return Error::because(db.errorCode(), db.errorMessage(), doing);
 }
@@ -130,13 +138,12 @@ const QString kInReach = QStringLiteral(
 bool reverse(SqliteDatabase& db, qint64 step) {
     for (const Kept& k : kept()) {
         const QString first =
-            QStringLiteral("j.seq = (SELECT min(i.seq) FROM main.%1 i WHERE i.step = ?1 AND "
-                           "i.pk = j.pk)")
-                .arg(k.journal);
+            QStringLiteral("j.seq = (SELECT min(i.seq) FROM main.%1 i WHERE i.pk = j.pk AND %2)")
+                .arg(k.journal, inStep(QStringLiteral("i")));
         SqliteStatement& gone = db.cached(
             QStringLiteral("DELETE FROM main.%1 WHERE pk IN (SELECT j.pk FROM main.%2 j WHERE "
-                           "j.step = ?1 AND j.op = 0 AND %3)")
-                .arg(quoted(k.table), k.journal, first));
+                           "%4 AND j.op = 0 AND %3)")
+                .arg(quoted(k.table), k.journal, first, inStep(QStringLiteral("j"))));
         gone.bindInt(1, step);
         const bool deleted = gone.step() == SQLITE_DONE;
         gone.reset();
@@ -147,10 +154,10 @@ bool reverse(SqliteDatabase& db, qint64 step) {
             sets << QStringLiteral("%1 = excluded.%1").arg(c);
         // A coin is updated in place, so that the value history sees the change it is; a
         // picture row is replaced whole, which its journal trigger sees before it happens.
-        const QString select =
-            QStringLiteral("SELECT j.pk, %1 FROM main.%2 j WHERE j.step = ?1 "
-                           "AND j.op <> 0 AND %3 ORDER BY j.seq")
-                .arg(prefixed(k.columns, QStringLiteral("j.")), k.journal, first);
+        const QString select = QStringLiteral("SELECT j.pk, %1 FROM main.%2 j WHERE %4 "
+                                              "AND j.op <> 0 AND %3 ORDER BY j.seq")
+                                   .arg(prefixed(k.columns, QStringLiteral("j.")), k.journal, first,
+                                        inStep(QStringLiteral("j")));
         SqliteStatement& back = db.cached(
             k.pictures ? QStringLiteral("INSERT OR REPLACE INTO main.%1 (pk, %2) %3")
                              .arg(quoted(k.table), k.columns.join(QLatin1Char(',')), select)
@@ -217,10 +224,11 @@ Result<Image> current(SqliteDatabase& db, const Kept& k, qint64 pk) {
 Result<Image> stateAt(SqliteDatabase& db, const Kept& k, qint64 pk, qint64 step,
                       bool after = false) {
     SqliteStatement& st =
-        db.cached(QStringLiteral("SELECT op, %1 FROM main.%2 WHERE pk = ?1 AND step %3 ?2 "
-                                 "ORDER BY step, seq LIMIT 1")
+        db.cached(QStringLiteral("SELECT op, %1 FROM main.%2 WHERE pk = ?1 AND seq >= (?2 + %3) * "
+                                 "%4 ORDER BY seq LIMIT 1")
                       .arg(k.columns.join(QLatin1Char(',')), k.journal,
-                           after ? QStringLiteral(">") : QStringLiteral(">=")));
+                           after ? QStringLiteral("1") : QStringLiteral("0"))
+                      .arg(kRowsPerStep));
     st.bindInt(1, pk);
     st.bindInt(2, step);
     const int rc = st.step();
@@ -381,8 +389,7 @@ QStringList schema() {
         sql << QStringLiteral("CREATE TABLE %1 (seq INTEGER PRIMARY KEY, step INTEGER NOT NULL, "
                               "op INTEGER NOT NULL, pk INTEGER NOT NULL, %2)")
                    .arg(k.journal, columns.join(QLatin1Char(',')))
-            << QStringLiteral("CREATE INDEX %1_step ON %1(step, pk)").arg(k.journal)
-            << QStringLiteral("CREATE INDEX %1_pk ON %1(pk, step)").arg(k.journal);
+            << QStringLiteral("CREATE INDEX %1_pk ON %1(pk)").arg(k.journal);
     }
     return sql;
 }
@@ -397,6 +404,12 @@ QStringList connection() {
     for (const Kept& k : kept()) {
         const QString cols = k.columns.join(QLatin1Char(','));
         const QString stamp = QStringLiteral("FROM temp.JournalStamp s WHERE s.pk = 1");
+        // The next number of the step's rows: found at the table's end, where the step writes.
+        const QString seq =
+            QStringLiteral("coalesce((SELECT j.seq + 1 FROM main.%1 j WHERE j.seq >= "
+                           "s.step * %2 ORDER BY j.seq DESC LIMIT 1), s.step * %2)")
+                .arg(k.journal)
+                .arg(kRowsPerStep);
         auto trigger = [&](const QString& name, const QString& when, const QString& body) {
             return QStringLiteral("CREATE TEMP TRIGGER %1_%2 %3 ON main.%4 BEGIN %5; END")
                 .arg(k.journal, name, when, quoted(k.table), body);
@@ -405,28 +418,28 @@ QStringList connection() {
             // Pictures are written by INSERT OR REPLACE, whose replacing deletes no trigger
             // sees: the row about to be replaced is kept before the insert.
             sql << trigger(QStringLiteral("insert"), QStringLiteral("BEFORE INSERT"),
-                           QStringLiteral("INSERT INTO %1 (step, op, pk, %2) SELECT s.step, "
-                                          "CASE WHEN o.pk IS NULL THEN 0 ELSE 1 END, new.pk, %3 "
-                                          "FROM temp.JournalStamp s LEFT JOIN main.%4 o ON "
-                                          "o.pk = new.pk WHERE s.pk = 1")
+                           QStringLiteral("INSERT INTO %1 (seq, step, op, pk, %2) SELECT %5, "
+                                          "s.step, CASE WHEN o.pk IS NULL THEN 0 ELSE 1 END, "
+                                          "new.pk, %3 FROM temp.JournalStamp s LEFT JOIN main.%4 "
+                                          "o ON o.pk = new.pk WHERE s.pk = 1")
                                .arg(k.journal, cols, prefixed(k.columns, QStringLiteral("o.")),
-                                    quoted(k.table)));
+                                    quoted(k.table), seq));
         } else {
             sql << trigger(QStringLiteral("insert"), QStringLiteral("AFTER INSERT"),
-                           QStringLiteral("INSERT INTO %1 (step, op, pk) SELECT s.step, 0, "
-                                          "new.pk %2")
-                               .arg(k.journal, stamp));
+                           QStringLiteral("INSERT INTO %1 (seq, step, op, pk) SELECT %3, "
+                                          "s.step, 0, new.pk %2")
+                               .arg(k.journal, stamp, seq));
         }
-        sql << trigger(
-                   QStringLiteral("update"), QStringLiteral("AFTER UPDATE"),
-                   QStringLiteral("INSERT INTO %1 (step, op, pk, %2) SELECT s.step, 1, "
-                                  "old.pk, %3 %4")
-                       .arg(k.journal, cols, prefixed(k.columns, QStringLiteral("old.")), stamp))
-            << trigger(
-                   QStringLiteral("delete"), QStringLiteral("AFTER DELETE"),
-                   QStringLiteral("INSERT INTO %1 (step, op, pk, %2) SELECT s.step, 2, "
-                                  "old.pk, %3 %4")
-                       .arg(k.journal, cols, prefixed(k.columns, QStringLiteral("old.")), stamp));
+        sql << trigger(QStringLiteral("update"), QStringLiteral("AFTER UPDATE"),
+                       QStringLiteral("INSERT INTO %1 (seq, step, op, pk, %2) SELECT %5, s.step, "
+                                      "1, old.pk, %3 %4")
+                           .arg(k.journal, cols, prefixed(k.columns, QStringLiteral("old.")), stamp,
+                                seq))
+            << trigger(QStringLiteral("delete"), QStringLiteral("AFTER DELETE"),
+                       QStringLiteral("INSERT INTO %1 (seq, step, op, pk, %2) SELECT %5, s.step, "
+                                      "2, old.pk, %3 %4")
+                           .arg(k.journal, cols, prefixed(k.columns, QStringLiteral("old.")), stamp,
+                                seq));
     }
     return sql;
 }
@@ -665,11 +678,12 @@ Result<StepChanges> changesOf(ManagedObjectContext& context, qint64 stepPk, int 
     // A coin's row and its pictures' row are one change of the coin.
     QHash<QPair<int, qint64>, qsizetype> rowOf;
     for (const Kept& k : kept()) {
-        SqliteStatement& st = db.cached(
-            QStringLiteral("SELECT j.op, j.pk, %1 FROM main.%2 j WHERE j.step = ?1 AND j.seq = "
-                           "(SELECT min(i.seq) FROM main.%2 i WHERE i.step = ?1 AND i.pk = j.pk) "
-                           "ORDER BY j.seq")
-                .arg(prefixed(k.columns, QStringLiteral("j.")), k.journal));
+        SqliteStatement& st =
+            db.cached(QStringLiteral("SELECT j.op, j.pk, %1 FROM main.%2 j WHERE %3 AND j.seq = "
+                                     "(SELECT min(i.seq) FROM main.%2 i WHERE i.pk = j.pk AND %4) "
+                                     "ORDER BY j.seq")
+                          .arg(prefixed(k.columns, QStringLiteral("j.")), k.journal,
+                               inStep(QStringLiteral("j")), inStep(QStringLiteral("i"))));
         st.bindInt(1, stepPk);
         struct Entry {
             qint64 pk;
@@ -773,10 +787,11 @@ Result<QList<DeletedCoin>> recentlyDeleted(ManagedObjectContext& context, int da
         QStringLiteral(
             "SELECT j.pk, max(j.step), s.pk, s.time, s.kind, s.subject, s.detail, "
             "coalesce(s.reverses, 0), s.steps, s.state FROM main.%1 j JOIN main.JournalSteps s "
-            "ON s.pk = j.step WHERE j.step >= coalesce((SELECT min(pk) FROM main.JournalSteps "
-            "WHERE time >= ?1), 9223372036854775807) AND j.op = 2 AND NOT EXISTS (SELECT 1 FROM "
-            "main.%2 c WHERE c.pk = j.pk) GROUP BY j.pk ORDER BY 2 DESC")
-            .arg(main.journal, quoted(main.table)));
+            "ON s.pk = j.step WHERE j.seq >= coalesce((SELECT min(pk) * %3 FROM "
+            "main.JournalSteps WHERE time >= ?1), 9223372036854775807) AND j.op = 2 AND NOT "
+            "EXISTS (SELECT 1 FROM main.%2 c WHERE c.pk = j.pk) GROUP BY j.pk ORDER BY 2 DESC")
+            .arg(main.journal, quoted(main.table))
+            .arg(kRowsPerStep));
     if (!st.isValid())
         return failure(db, QStringLiteral("reading the journal"));
     st.bindInt(1, since);
@@ -830,16 +845,19 @@ Result<void> recordRestore(ManagedObjectContext& context, const QString& before,
                 const QString cols = k.columns.join(QLatin1Char(','));
                 const QString step = QString::number(id);
                 if (!d.exec(QStringLiteral(
-                                "INSERT INTO main.%1 (step, op, pk, %2) SELECT %3, CASE WHEN "
-                                "EXISTS (SELECT 1 FROM main.%4 n WHERE n.pk = o.pk) THEN 1 ELSE "
-                                "2 END, o.pk, %5 FROM (SELECT pk, %2 FROM old.%4 EXCEPT SELECT "
-                                "pk, %2 FROM main.%4) o")
+                                "INSERT INTO main.%1 (seq, step, op, pk, %2) SELECT %3 * %6 + "
+                                "row_number() OVER (), %3, CASE WHEN EXISTS (SELECT 1 FROM "
+                                "main.%4 n WHERE n.pk = o.pk) THEN 1 ELSE 2 END, o.pk, %5 FROM "
+                                "(SELECT pk, %2 FROM old.%4 EXCEPT SELECT pk, %2 FROM main.%4) o")
                                 .arg(k.journal, cols, step, quoted(k.table),
-                                     prefixed(k.columns, QStringLiteral("o.")))) ||
-                    !d.exec(QStringLiteral("INSERT INTO main.%1 (step, op, pk) SELECT %2, 0, pk "
-                                           "FROM (SELECT pk FROM main.%3 EXCEPT SELECT pk FROM "
-                                           "old.%3)")
-                                .arg(k.journal, step, quoted(k.table))))
+                                     prefixed(k.columns, QStringLiteral("o.")))
+                                .arg(kRowsPerStep)) ||
+                    // Numbered after the rows above: half the step's numbers for each.
+                    !d.exec(QStringLiteral("INSERT INTO main.%1 (seq, step, op, pk) SELECT %2 * %4 "
+                                           "+ %4 / 2 + row_number() OVER (), %2, 0, pk FROM "
+                                           "(SELECT pk FROM main.%3 EXCEPT SELECT pk FROM old.%3)")
+                                .arg(k.journal, step, quoted(k.table))
+                                .arg(kRowsPerStep)))
                     return false;
             }
             return true;
@@ -872,7 +890,9 @@ Result<qint64> prune(ManagedObjectContext& context, const QDateTime& now, int da
         return qint64(0);
     QStringList sql{QStringLiteral("BEGIN IMMEDIATE")};
     for (const Kept& k : kept())
-        sql << QStringLiteral("DELETE FROM main.%1 WHERE step <= %2").arg(k.journal).arg(last);
+        sql << QStringLiteral("DELETE FROM main.%1 WHERE seq < %2")
+                   .arg(k.journal)
+                   .arg((last + 1) * kRowsPerStep);
     sql << QStringLiteral("DELETE FROM main.JournalSteps WHERE pk <= %1").arg(last)
         << QStringLiteral("COMMIT");
     for (const QString& statement : sql)

@@ -55,6 +55,11 @@ private:
     bool outer_;
 };
 
+// A row of a journal table is numbered by its step and its place in the step (step × this +
+// place): the rows of one step are one range of the table, found without an index of their own,
+// and a one-coin save adds no page for one.
+inline constexpr qint64 kRowsPerStep = qint64(1) << 24;
+
 // The tables, created in one step of the store's schema.
 QStringList schema();
 // The stamp and the triggers, made by every connection that writes when it opens.
