@@ -68,14 +68,9 @@ void undoOrRedo(Window& window, bool redo, bool asked = false) {
         front->confirmDiscard([w = &window, redo] { undoOrRedo(*w, redo, true); });
         return;
     }
-    const Result<Journal::StepInfo> done = redo ? Journal::redo(*context) : Journal::undo(*context);
-    if (!done.ok()) {
-        if (ViewController* front = window.frontScreen())
-            front->present(AlertController::okAlert(
-                redo ? trEdit("Cannot Redo") : trEdit("Cannot Undo"), done.error().message));
-        return;
-    }
-    StoreChanges::notify();
+    if (ViewController* front = window.frontScreen())
+        StoreChanges::report(front, redo ? trEdit("Cannot Redo") : trEdit("Cannot Undo"),
+                             redo ? Journal::redo(*context) : Journal::undo(*context));
 }
 
 // The Edit menu's two commands name the step they would take back or bring back.

@@ -167,13 +167,9 @@ void RecentChangesViewController::UndoBackToHere() {
                   : tr("The %1 and every change after it are undone. Redo brings them back."))
             .arg(Journal::commandName(step)));
     alert->addAction(tr("Undo"), AlertController::ActionStyle::Destructive, [this, pk = step.pk] {
-        const Result<int> undone = Journal::undoBackTo(*Application::viewContext(), pk);
-        if (!undone.ok()) {
-            present(AlertController::okAlert(tr("Not Undone"), undone.error().message));
-            return;
-        }
         // This screen reads the steps again with every other screen.
-        StoreChanges::notify();
+        StoreChanges::report(this, tr("Not Undone"),
+                             Journal::undoBackTo(*Application::viewContext(), pk));
     });
     alert->addAction(tr("Cancel"), AlertController::ActionStyle::Cancel);
     present(alert);

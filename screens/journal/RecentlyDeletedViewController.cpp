@@ -79,12 +79,7 @@ void RecentlyDeletedViewController::PutBack() {
     const int row = DeletedTable->currentRow();
     if (row < 0 || row >= Deleted.size())
         return;
-    const Result<Journal::StepInfo> back =
-        Journal::putBack(*Application::viewContext(), Deleted[row].pk);
-    if (!back.ok()) {
-        present(AlertController::okAlert(tr("Not Put Back"), back.error().message));
-        return;
-    }
     // This screen reads the list again with every other screen.
-    StoreChanges::notify();
+    StoreChanges::report(this, tr("Not Put Back"),
+                         Journal::putBack(*Application::viewContext(), Deleted[row].pk));
 }

@@ -244,15 +244,10 @@ void CoinHistoryViewController::RestoreThisVersion() {
             .arg(Journal::commandName(step)));
     alert->addAction(tr("Restore"), AlertController::ActionStyle::Destructive,
                      [this, coin = detailItem->objectID(), pk = step.pk] {
-                         const Result<Journal::StepInfo> restored =
-                             Journal::restoreVersion(*Application::viewContext(), coin, pk);
-                         if (!restored.ok()) {
-                             present(AlertController::okAlert(tr("Version Not Restored"),
-                                                              restored.error().message));
-                             return;
-                         }
                          // This screen reads the coin again with every other screen.
-                         StoreChanges::notify();
+                         StoreChanges::report(
+                             this, tr("Version Not Restored"),
+                             Journal::restoreVersion(*Application::viewContext(), coin, pk));
                      });
     alert->addAction(tr("Cancel"), AlertController::ActionStyle::Cancel);
     present(alert);
