@@ -124,7 +124,7 @@ bool ManagedObjectContext::openStep(const QDateTime& now) {
 }
 
 Result<qint64>
-ManagedObjectContext::writeStep(const DirectStep& spec,
+ManagedObjectContext::writeStep(const DirectStep& asked,
                                 const std::function<bool(SqliteDatabase&, qint64)>& write) {
     if (hasChanges())
         if (Result<void> saved = save(); !saved.ok())
@@ -138,23 +138,23 @@ ManagedObjectContext::writeStep(const DirectStep& spec,
     qint64 id = 0;
     auto steps = [&] {
         const QDateTime now = ValueHistory::now();
-        if (!stampChanges(now, historyDay(now), spec.cause))
+        if (!stampChanges(now, historyDay(now), asked.cause))
             return false;
-        if (!spec.reversal &&
+        if (!asked.reversal &&
             !db_->exec(QStringLiteral("UPDATE main.JournalSteps SET state = 2 WHERE state = 1")))
             return false;
         SqliteStatement& st = db_->cached(QStringLiteral(
             "INSERT INTO main.JournalSteps (time, kind, subject, detail, reverses, state) "
             "VALUES (?1, ?2, ?3, ?4, ?5, ?6)"));
         st.bindInt(1, now.toMSecsSinceEpoch());
-        st.bindText(2, spec.kind);
-        st.bindText(3, spec.subject);
-        st.bindText(4, spec.detail);
-        if (spec.reverses)
-            st.bindInt(5, spec.reverses);
+        st.bindText(2, asked.kind);
+        st.bindText(3, asked.subject);
+        st.bindText(4, asked.detail);
+        if (asked.reverses)
+            st.bindInt(5, asked.reverses);
         else
             st.bindNull(5);
-        st.bindInt(6, spec.reversal ? 3 : 0);
+        st.bindInt(6, asked.reversal ? 3 : 0);
         const bool made = st.step() == SQLITE_DONE;
         st.reset();
         if (!made)
