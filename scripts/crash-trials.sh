@@ -155,6 +155,24 @@ kill_over_earlier() {
   fi
 }
 
+# A store that passes the integrity check and exports to DIR/out.csv.
+readable() {
+  "$CHECK" "$1/Pelvane.sqlite" > /dev/null 2>&1 \
+    && "$PELVANE" --data-dir "$1" --export "$1/out.csv" > /dev/null 2>&1
+}
+
+# Counts a trial of KIND on DIR: a PROBLEM is said and the folder kept; a trial that went well
+# leaves nothing behind.
+verdict() {
+  local kind=$1 dir=$2 problem=$3
+  if [ -n "$problem" ]; then
+    echo "$kind trial $t failed: $problem (kept in $dir)"
+    failed=$((failed + 1)); keep=1
+  else
+    rm -rf "$dir"
+  fi
+}
+
 failed=0
 saved_total=0
 for ((t = 1; t <= TRIALS; t++)); do
@@ -184,39 +202,31 @@ for ((t = 1; t <= TRIALS; t++)); do
   dir="$WORK/restore-$t"
   cp -r "$WORK/whole" "$dir"
   kill_at_random "$restore_ms" "$PELVANE" --data-dir "$dir" --restore "$WORK/base.bak"
-  if ! "$CHECK" "$dir/Pelvane.sqlite" > /dev/null 2>&1 \
-     || ! "$PELVANE" --data-dir "$dir" --export "$dir/out.csv" > /dev/null 2>&1 \
+  problem=""
+  if ! readable "$dir" \
      || { ! cmp -s "$dir/out.csv" "$WORK/before.csv" && ! cmp -s "$dir/out.csv" "$WORK/after.csv"; } \
      || [ -n "$(find "$dir" -maxdepth 1 -name '.*.part*')" ]; then
-    echo "restore trial $t failed: the collection is neither the one before nor the backup, or a copy was left (kept in $dir)"
-    failed=$((failed + 1)); keep=1
-  else
-    rm -rf "$dir"
+    problem="the collection is neither the one before nor the backup, or a copy was left"
   fi
+  verdict restore "$dir" "$problem"
 
   # An undo of the whole import killed at a random moment leaves the collection as it was before
   # the undo or before the import, whole; an undo not done is done by the next one.
   dir="$WORK/undo-$t"
   cp -r "$WORK/whole" "$dir"
   kill_at_random "$undo_ms" "$PELVANE" --data-dir "$dir" --undo
-  undo_problem=""
-  if ! "$CHECK" "$dir/Pelvane.sqlite" > /dev/null 2>&1 \
-     || ! "$PELVANE" --data-dir "$dir" --export "$dir/out.csv" > /dev/null 2>&1; then
-    undo_problem="the collection cannot be read"
+  problem=""
+  if ! readable "$dir"; then
+    problem="the collection cannot be read"
   elif cmp -s "$dir/out.csv" "$WORK/after.csv"; then
     "$PELVANE" --data-dir "$dir" --undo > /dev/null 2>&1 \
       && "$PELVANE" --data-dir "$dir" --export "$dir/again.csv" > /dev/null 2>&1 \
       && cmp -s "$dir/again.csv" "$WORK/before.csv" \
-      || undo_problem="the undo after the kill did not bring the collection back"
+      || problem="the undo after the kill did not bring the collection back"
   elif ! cmp -s "$dir/out.csv" "$WORK/before.csv"; then
-    undo_problem="the collection is neither the one before the undo nor the one after"
+    problem="the collection is neither the one before the undo nor the one after"
   fi
-  if [ -n "$undo_problem" ]; then
-    echo "undo trial $t failed: $undo_problem (kept in $dir)"
-    failed=$((failed + 1)); keep=1
-  else
-    rm -rf "$dir"
-  fi
+  verdict undo "$dir" "$problem"
 
   # An import started during a restore waits for it; killed at a random moment, it leaves the
   # backup with a leading part of its coins.
@@ -227,13 +237,7 @@ for ((t = 1; t <= TRIALS; t++)); do
   sleep 0.05
   kill_at_random $((restore_ms + 200 + import_ms)) "$PELVANE" --data-dir "$dir" --import "$WORK/import.csv"
   wait "$restoring" || { echo "writer trial $t failed: the restore did not finish"; failed=$((failed + 1)); keep=1; }
-  problem=$(check_import "$dir")
-  if [ -n "$problem" ]; then
-    echo "writer trial $t failed: $problem (kept in $dir)"
-    failed=$((failed + 1)); keep=1
-  else
-    rm -rf "$dir"
-  fi
+  verdict writer "$dir" "$(check_import "$dir")"
 done
 
 echo "crash trials: $TRIALS imports, exports, backups, restores, undos and imports during a restore killed, $failed failed" \
