@@ -40,10 +40,10 @@ void ManagedObjectContext::endStep() {
     if (step_.id && !step_.detail.isEmpty()) {
         // Known only now that the step is over; what it wrote is already in.
         endReadBatch();
-        SqliteStatement& st =
-            db_->cached(QStringLiteral("UPDATE main.JournalSteps SET detail = ?1 WHERE pk = ?2"));
+        SqliteStatement& st = db_->cached(Journal::headerSql(
+            QStringLiteral("UPDATE main.Journal SET {detail} = ?1 WHERE seq = ?2")));
         st.bindText(1, step_.detail);
-        st.bindInt(2, step_.id);
+        st.bindInt(2, step_.id * Journal::kRowsPerStep);
         st.step();
         st.reset();
     }
@@ -73,8 +73,8 @@ bool ManagedObjectContext::openStep(const QDateTime& now) {
     if (step_.id) {
         // A group's commit that failed takes the step back with what it wrote.
         SqliteStatement& there =
-            db_->cached(QStringLiteral("SELECT 1 FROM main.JournalSteps WHERE pk = ?1"));
-        there.bindInt(1, step_.id);
+            db_->cached(QStringLiteral("SELECT 1 FROM main.Journal WHERE seq = ?1"));
+        there.bindInt(1, step_.id * Journal::kRowsPerStep);
         const int rc = there.step();
         there.reset();
         if (rc == SQLITE_ROW)
@@ -101,26 +101,41 @@ bool ManagedObjectContext::openStep(const QDateTime& now) {
             subject = QString::number(records);
         }
     }
-    // A new change drops the steps that could still be redone, as in any editor.
-    SqliteStatement& dropRedo =
-        db_->cached(QStringLiteral("UPDATE main.JournalSteps SET state = 2 WHERE state = 1"));
-    const bool dropped = dropRedo.step() == SQLITE_DONE;
-    dropRedo.reset();
-    if (!dropped)
-        return false;
-    SqliteStatement& st = db_->cached(
-        QStringLiteral("INSERT INTO main.JournalSteps (time, kind, subject, detail, state) "
-                       "VALUES (?1, ?2, ?3, ?4, 0)"));
+    step_.id = newStep({kind, subject, step_.detail, {}, 0, false}, now);
+    return step_.id && stampStep(step_.id);
+}
+
+qint64 ManagedObjectContext::newStep(const DirectStep& asked, const QDateTime& now) {
+    // A new change drops the steps that could still be redone, as in any editor; an undo or a
+    // redo is not a new change.
+    if (!asked.reversal) {
+        static const QString dropSql = Journal::headerSql(
+            QStringLiteral("UPDATE main.Journal SET {state} = 2 WHERE tbl = 0 AND {state} = 1"));
+        SqliteStatement& drop = db_->cached(dropSql);
+        const bool dropped = drop.step() == SQLITE_DONE;
+        drop.reset();
+        if (!dropped)
+            return 0;
+    }
+    // The header opens the step's range, after every row of the steps before it.
+    static const QString headerInsert = Journal::headerSql(
+        QStringLiteral("INSERT INTO main.Journal (seq, tbl, {time}, {kind}, {subject}, {detail}, "
+                       "{reverses}, {state}) VALUES ((SELECT (coalesce(max(seq), 0) / %1 + 1) * "
+                       "%1 FROM main.Journal), 0, ?1, ?2, ?3, ?4, ?5, ?6)")
+            .arg(Journal::kRowsPerStep));
+    SqliteStatement& st = db_->cached(headerInsert);
     st.bindInt(1, now.toMSecsSinceEpoch());
-    st.bindText(2, kind);
-    st.bindText(3, subject);
-    st.bindText(4, step_.detail);
+    st.bindText(2, asked.kind);
+    st.bindText(3, asked.subject);
+    st.bindText(4, asked.detail);
+    if (asked.reverses)
+        st.bindInt(5, asked.reverses);
+    else
+        st.bindNull(5);
+    st.bindInt(6, asked.reversal ? 3 : 0);
     const bool made = st.step() == SQLITE_DONE;
     st.reset();
-    if (!made)
-        return false;
-    step_.id = db_->lastInsertRowId();
-    return stampStep(step_.id);
+    return made ? db_->lastInsertRowId() / Journal::kRowsPerStep : 0;
 }
 
 Result<qint64>
@@ -140,27 +155,8 @@ ManagedObjectContext::writeStep(const DirectStep& asked,
         const QDateTime now = ValueHistory::now();
         if (!stampChanges(now, historyDay(now), asked.cause))
             return false;
-        if (!asked.reversal &&
-            !db_->exec(QStringLiteral("UPDATE main.JournalSteps SET state = 2 WHERE state = 1")))
-            return false;
-        SqliteStatement& st = db_->cached(QStringLiteral(
-            "INSERT INTO main.JournalSteps (time, kind, subject, detail, reverses, state) "
-            "VALUES (?1, ?2, ?3, ?4, ?5, ?6)"));
-        st.bindInt(1, now.toMSecsSinceEpoch());
-        st.bindText(2, asked.kind);
-        st.bindText(3, asked.subject);
-        st.bindText(4, asked.detail);
-        if (asked.reverses)
-            st.bindInt(5, asked.reverses);
-        else
-            st.bindNull(5);
-        st.bindInt(6, asked.reversal ? 3 : 0);
-        const bool made = st.step() == SQLITE_DONE;
-        st.reset();
-        if (!made)
-            return false;
-        id = db_->lastInsertRowId();
-        return stampStep(id) && write(*db_, id) && db_->exec(QStringLiteral("COMMIT"));
+        id = newStep(asked, now);
+        return id && stampStep(id) && write(*db_, id) && db_->exec(QStringLiteral("COMMIT"));
     };
     const bool written = steps();
     // The history's stamp names no cause beyond this step.
@@ -210,25 +206,22 @@ void ManagedObjectContext::refreshObjects(qint64 step) {
                 refresh(rowId);
             continue;
         }
-        // The rows the step wrote, of the records' table and of their pictures'.
-        QStringList tables{QStringLiteral("Journal_") + e->name};
-        if (e->hasData())
-            tables << QStringLiteral("Journal_") + e->dataTable();
-        for (const QString& journal : tables) {
-            SqliteStatement& rows = db_->cached(
-                QStringLiteral("SELECT DISTINCT pk FROM main.%1 WHERE seq BETWEEN ?1 * %2 AND "
-                               "?1 * %2 + %3")
-                    .arg(journal)
-                    .arg(Journal::kRowsPerStep)
-                    .arg(Journal::kRowsPerStep - 1));
-            rows.bindInt(1, step);
-            QList<qint64> written;
-            while (rows.step() == SQLITE_ROW)
-                written << rows.columnInt(0);
-            rows.reset();
-            for (const qint64 rowId : std::as_const(written))
-                refresh(rowId);
-        }
+        // The rows the step wrote, of the records' table and of their pictures' (the two codes
+        // the journal keeps the entity's rows under).
+        SqliteStatement& rows = db_->cached(
+            QStringLiteral("SELECT DISTINCT pk FROM main.Journal WHERE seq BETWEEN ?1 * %1 + 1 AND "
+                           "?1 * %1 + %2 AND tbl IN (%3, %4)")
+                .arg(Journal::kRowsPerStep)
+                .arg(Journal::kRowsPerStep - 1)
+                .arg(Journal::tableCode(*e, false))
+                .arg(Journal::tableCode(*e, true)));
+        rows.bindInt(1, step);
+        QList<qint64> written;
+        while (rows.step() == SQLITE_ROW)
+            written << rows.columnInt(0);
+        rows.reset();
+        for (const qint64 rowId : std::as_const(written))
+            refresh(rowId);
     }
     ++changeCount_;
 }

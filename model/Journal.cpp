@@ -35,81 +35,109 @@ void Step::setDetail(const QString& detail) {
 }
 
 QStringList tables() {
-    QStringList out{QStringLiteral("JournalSteps")};
-    for (const Kept& k : kept())
-        out << k.journal;
-    return out;
+    return {QStringLiteral("Journal")};
 }
 
 QStringList schema() {
-    QStringList sql = {
-        QStringLiteral("CREATE TABLE JournalSteps (pk INTEGER PRIMARY KEY, time INTEGER NOT NULL, "
-                       "kind TEXT NOT NULL, subject TEXT NOT NULL DEFAULT '', detail TEXT NOT NULL "
-                       "DEFAULT '', reverses INTEGER, undoneBy INTEGER, steps INTEGER NOT NULL "
-                       "DEFAULT 1, state INTEGER NOT NULL DEFAULT 0)"),
-        // The redo list and the restores are looked up at every save and every undo.
-        QStringLiteral("CREATE INDEX JournalSteps_redoable ON JournalSteps(pk) WHERE state = 1"),
-        QStringLiteral(
-            "CREATE INDEX JournalSteps_restores ON JournalSteps(pk) WHERE kind = 'Restore'"),
+    // One table for the steps and the rows they kept, so that a one-coin save appends to one
+    // place of the file: a step's header is the first row of its range (tbl 0, its fields in
+    // the value columns), the rows it kept follow it (tbl the kept table's code, op, pk and
+    // the row's values). No index is written by a save: the two partial ones hold only undone steps
+    // and restores. The value columns have no type, so that no affinity changes what they keep.
+    const QStringList values = valueColumns();
+    return {
+        QStringLiteral("CREATE TABLE Journal (seq INTEGER PRIMARY KEY, tbl INTEGER NOT NULL, op "
+                       "INTEGER, pk INTEGER, %1)")
+            .arg(values.join(QStringLiteral(", "))),
+        headerSql(QStringLiteral(
+            "CREATE INDEX Journal_redoable ON Journal(seq) WHERE tbl = 0 AND {state} = 1")),
+        headerSql(QStringLiteral(
+            "CREATE INDEX Journal_restores ON Journal(seq) WHERE tbl = 0 AND {kind} = 'Restore'")),
     };
+}
+
+QStringList fromSeparateTables() {
+    const QString r = QString::number(kRowsPerStep);
+    QStringList sql = schema();
+    sql << headerSql(QStringLiteral("INSERT INTO Journal (seq, tbl, {time}, {kind}, {subject}, "
+                                    "{detail}, {reverses}, {undoneBy}, {steps}, {state}) SELECT "
+                                    "pk * %1, 0, time, kind, subject, detail, reverses, "
+                                    "undoneBy, steps, state FROM JournalSteps")
+                         .arg(r));
+    // Each table numbered its rows within the step from 0: here they follow the header, one
+    // table after the other, each in its own order.
+    QStringList parts;
+    const QStringList all = valueColumns();
     for (const Kept& k : kept()) {
-        QStringList columns;
-        for (int c = 0; c < k.columns.size(); ++c)
-            columns << k.columns[c] + QLatin1Char(' ') + sqlType(k.types[c]);
-        sql << QStringLiteral("CREATE TABLE %1 (seq INTEGER PRIMARY KEY, step INTEGER NOT NULL, "
-                              "op INTEGER NOT NULL, pk INTEGER NOT NULL, %2)")
-                   .arg(k.journal, columns.join(QLatin1Char(',')))
-            << QStringLiteral("CREATE INDEX %1_pk ON %1(pk)").arg(k.journal);
+        QStringList cols;
+        for (qsizetype c = 0; c < all.size(); ++c)
+            cols << (c < k.columns.size() ? k.columns[c] : QStringLiteral("NULL")) +
+                        QStringLiteral(" AS ") + all[c];
+        parts << QStringLiteral("SELECT %1 AS t, seq, step, op, pk, %2 FROM Journal_%3")
+                     .arg(k.code)
+                     .arg(cols.join(QLatin1Char(',')), k.table);
     }
+    sql << QStringLiteral("INSERT INTO Journal (seq, tbl, op, pk, %1) SELECT step * %2 + "
+                          "row_number() OVER (PARTITION BY step ORDER BY t, seq), t, op, pk, %1 "
+                          "FROM (%3)")
+               .arg(all.join(QLatin1Char(',')), r, parts.join(QStringLiteral(" UNION ALL ")));
+    for (const Kept& k : kept())
+        sql << QStringLiteral("DROP TABLE Journal_%1").arg(k.table);
+    sql << QStringLiteral("DROP TABLE JournalSteps");
     return sql;
 }
 
 QStringList connection() {
     // The step lives in the connection's own memory, as the value history's stamp does. A
-    // write with no step open fails (the column may not be null): nothing escapes the journal.
+    // write with no step open fails: nothing escapes the journal.
     QStringList sql = {
         QStringLiteral("CREATE TEMP TABLE JournalStamp (pk INTEGER PRIMARY KEY, step INTEGER)"),
         QStringLiteral("INSERT INTO temp.JournalStamp (pk) VALUES (1)"),
     };
+    const QString r = QString::number(kRowsPerStep);
+    const QString stamp = QStringLiteral("FROM temp.JournalStamp s WHERE s.pk = 1");
+    // The next number of the step's rows: found at the end of its range, where it writes.
+    const QString seq = QStringLiteral("(SELECT j.seq + 1 FROM main.Journal j WHERE j.seq BETWEEN "
+                                       "s.step * %1 AND s.step * %1 + %1 - 1 ORDER BY j.seq DESC "
+                                       "LIMIT 1)")
+                            .arg(r);
     for (const Kept& k : kept()) {
-        const QString cols = k.columns.join(QLatin1Char(','));
-        const QString stamp = QStringLiteral("FROM temp.JournalStamp s WHERE s.pk = 1");
-        // The next number of the step's rows: found at the table's end, where the step writes.
-        const QString seq =
-            QStringLiteral("coalesce((SELECT j.seq + 1 FROM main.%1 j WHERE j.seq >= "
-                           "s.step * %2 ORDER BY j.seq DESC LIMIT 1), s.step * %2)")
-                .arg(k.journal)
-                .arg(kRowsPerStep);
+        const QString values = k.values.join(QLatin1Char(','));
+        // The table's code, unless no step is open.
+        const QString code = QStringLiteral("CASE WHEN s.step IS NULL THEN RAISE(ABORT, 'a change "
+                                            "outside any step of the journal') ELSE %1 END")
+                                 .arg(k.code);
         auto trigger = [&](const QString& name, const QString& when, const QString& body) {
-            return QStringLiteral("CREATE TEMP TRIGGER %1_%2 %3 ON main.%4 BEGIN %5; END")
-                .arg(k.journal, name, when, quoted(k.table), body);
+            return QStringLiteral("CREATE TEMP TRIGGER Journal_%1_%2 %3 ON main.%4 BEGIN %5; END")
+                .arg(k.table, name, when, quoted(k.table), body);
+        };
+        auto keep = [&](int op, const QString& row) {
+            return QStringLiteral("INSERT INTO Journal (seq, tbl, op, pk, %1) SELECT %2, %3, "
+                                  "%4, %5.pk, %6 %7")
+                .arg(values, seq, code)
+                .arg(op)
+                .arg(row, prefixed(k.columns, row + QLatin1Char('.')), stamp);
         };
         if (k.pictures) {
             // Pictures are written by INSERT OR REPLACE, whose replacing deletes no trigger
             // sees: the row about to be replaced is kept before the insert.
             sql << trigger(QStringLiteral("insert"), QStringLiteral("BEFORE INSERT"),
-                           QStringLiteral("INSERT INTO %1 (seq, step, op, pk, %2) SELECT %5, "
-                                          "s.step, CASE WHEN o.pk IS NULL THEN 0 ELSE 1 END, "
-                                          "new.pk, %3 FROM temp.JournalStamp s LEFT JOIN main.%4 "
+                           QStringLiteral("INSERT INTO Journal (seq, tbl, op, pk, %1) SELECT "
+                                          "%2, %3, CASE WHEN o.pk IS NULL THEN 0 ELSE 1 END, "
+                                          "new.pk, %4 FROM temp.JournalStamp s LEFT JOIN main.%5 "
                                           "o ON o.pk = new.pk WHERE s.pk = 1")
-                               .arg(k.journal, cols, prefixed(k.columns, QStringLiteral("o.")),
-                                    quoted(k.table), seq));
+                               .arg(values, seq, code)
+                               .arg(prefixed(k.columns, QStringLiteral("o.")), quoted(k.table)));
         } else {
             sql << trigger(QStringLiteral("insert"), QStringLiteral("AFTER INSERT"),
-                           QStringLiteral("INSERT INTO %1 (seq, step, op, pk) SELECT %3, "
-                                          "s.step, 0, new.pk %2")
-                               .arg(k.journal, stamp, seq));
+                           QStringLiteral("INSERT INTO Journal (seq, tbl, op, pk) SELECT %1, "
+                                          "%2, 0, new.pk %3")
+                               .arg(seq, code, stamp));
         }
         sql << trigger(QStringLiteral("update"), QStringLiteral("AFTER UPDATE"),
-                       QStringLiteral("INSERT INTO %1 (seq, step, op, pk, %2) SELECT %5, s.step, "
-                                      "1, old.pk, %3 %4")
-                           .arg(k.journal, cols, prefixed(k.columns, QStringLiteral("old.")), stamp,
-                                seq))
+                       keep(Updated, QStringLiteral("old")))
             << trigger(QStringLiteral("delete"), QStringLiteral("AFTER DELETE"),
-                       QStringLiteral("INSERT INTO %1 (seq, step, op, pk, %2) SELECT %5, s.step, "
-                                      "2, old.pk, %3 %4")
-                           .arg(k.journal, cols, prefixed(k.columns, QStringLiteral("old.")), stamp,
-                                seq));
+                       keep(Deleted, QStringLiteral("old")));
     }
     return sql;
 }
@@ -119,7 +147,7 @@ void setRecording(ManagedObjectContext& context, bool on) {
     db.resetAll();
     for (const Kept& k : kept())
         for (const char* name : {"insert", "update", "delete"})
-            db.exec(QStringLiteral("DROP TRIGGER IF EXISTS temp.%1_%2").arg(k.journal, name));
+            db.exec(QStringLiteral("DROP TRIGGER IF EXISTS temp.Journal_%1_%2").arg(k.table, name));
     db.exec(QStringLiteral("DROP TABLE IF EXISTS temp.JournalStamp"));
     if (on)
         for (const QString& statement : connection())
@@ -209,57 +237,84 @@ QString describe(const StepInfo& s, bool translated) {
 }
 
 Result<QList<StepInfo>> steps(ManagedObjectContext& context, int limit) {
-    return stepsWhere(context, QStringLiteral("ORDER BY pk DESC LIMIT ?1"),
-                      [limit](SqliteStatement& st) { st.bindInt(1, limit); });
+    QList<StepInfo> out;
+    if (limit <= 0)
+        return out;
+    const Result<void> walked = walkBack(*context.database(), [&](const StepInfo& s) {
+        out << s;
+        return out.size() < limit;
+    });
+    if (!walked.ok())
+        return walked.error();
+    return out;
 }
 
 Result<std::optional<StepInfo>> step(ManagedObjectContext& context, qint64 pk) {
-    return firstOf(stepsWhere(context, QStringLiteral("WHERE pk = ?1"),
-                              [pk](SqliteStatement& st) { st.bindInt(1, pk); }));
+    return firstOf(stepsWhere(*context.database(), QStringLiteral("seq = ?1"),
+                              [pk](SqliteStatement& st) { st.bindInt(1, pk * kRowsPerStep); }));
 }
 
 Result<std::optional<StepInfo>> undoable(ManagedObjectContext& context) {
-    return firstOf(stepsWhere(
-        context, QStringLiteral("WHERE state = 0 AND %1 ORDER BY pk DESC LIMIT 1").arg(inReach())));
+    SqliteDatabase& db = *context.database();
+    const Result<qint64> floor = reachFloor(db);
+    if (!floor.ok())
+        return floor.error();
+    std::optional<StepInfo> found;
+    const Result<void> walked = walkBack(db, [&](const StepInfo& s) {
+        if (s.pk <= floor.value())
+            return false;
+        if (s.state == StepInfo::State::InPlace)
+            found = s;
+        return !found;
+    });
+    if (!walked.ok())
+        return walked.error();
+    return found;
 }
 
 Result<std::optional<StepInfo>> redoable(ManagedObjectContext& context) {
-    return firstOf(stepsWhere(context, QStringLiteral("WHERE state = 1 ORDER BY pk LIMIT 1")));
+    return firstOf(
+        stepsWhere(*context.database(), QStringLiteral("{state} = 1 ORDER BY seq LIMIT 1")));
 }
 
 Result<qint64> prune(ManagedObjectContext& context, const QDateTime& now, int days, int keep) {
     SqliteDatabase& db = *context.database();
     // Only a run of the oldest steps goes: a step inside the days or the count keeps every
-    // step after it, whatever its date.
-    SqliteStatement& st = db.cached(QStringLiteral(
-        "SELECT coalesce((SELECT min(pk) FROM main.JournalSteps WHERE time >= ?1 OR pk >= "
-        "coalesce((SELECT pk FROM main.JournalSteps ORDER BY pk DESC LIMIT 1 OFFSET ?2), 0)), "
-        "0) - 1, (SELECT min(pk) FROM main.JournalSteps)"));
-    st.bindInt(1, now.addDays(-days).toMSecsSinceEpoch());
-    st.bindInt(2, std::max(keep, 1) - 1);
-    if (st.step() != SQLITE_ROW) {
-        st.reset();
+    // step after it, whatever its date. Both are found by walking: the newest `keep` back,
+    // the oldest forward to the first inside the days.
+    qint64 newestKept = 0;
+    int counted = 0;
+    const Result<void> walked = walkBack(db, [&](const StepInfo& s) {
+        newestKept = s.pk;
+        return ++counted < std::max(keep, 1);
+    });
+    if (!walked.ok())
+        return walked.error();
+    const Result<qint64> recent = firstStepSince(db, now.addDays(-days).toMSecsSinceEpoch());
+    if (!recent.ok())
+        return recent.error();
+    const qint64 firstKept = recent.value() ? std::min(recent.value(), newestKept) : newestKept;
+    SqliteStatement& oldest =
+        db.cached(QStringLiteral("SELECT count(*) FROM main.Journal WHERE tbl = 0 AND seq < ?1"));
+    oldest.bindInt(1, firstKept * kRowsPerStep);
+    const bool read = oldest.step() == SQLITE_ROW;
+    const qint64 going = read ? oldest.columnInt(0) : 0;
+    oldest.reset();
+    if (!read)
         return failure(db, QStringLiteral("reading the journal"));
-    }
-    const qint64 last = st.columnInt(0);
-    const qint64 first = st.columnInt(1);
-    st.reset();
-    if (last < first || first == 0)
+    if (going == 0)
         return qint64(0);
-    QStringList sql{QStringLiteral("BEGIN IMMEDIATE")};
-    for (const Kept& k : kept())
-        sql << QStringLiteral("DELETE FROM main.%1 WHERE seq < %2")
-                   .arg(k.journal)
-                   .arg((last + 1) * kRowsPerStep);
-    sql << QStringLiteral("DELETE FROM main.JournalSteps WHERE pk <= %1").arg(last)
-        << QStringLiteral("COMMIT");
+    const QStringList sql{
+        QStringLiteral("BEGIN IMMEDIATE"),
+        QStringLiteral("DELETE FROM main.Journal WHERE seq < %1").arg(firstKept * kRowsPerStep),
+        QStringLiteral("COMMIT")};
     for (const QString& statement : sql)
         if (!db.exec(statement)) {
             const Error e = failure(db, QStringLiteral("pruning the journal"));
             db.exec(QStringLiteral("ROLLBACK"));
             return e;
         }
-    return last - first + 1;
+    return going;
 }
 
 } // namespace Journal

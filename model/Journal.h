@@ -55,13 +55,25 @@ private:
     bool outer_;
 };
 
-// A row of a journal table is numbered by its step and its place in the step (step × this +
-// place): the rows of one step are one range of the table, found without an index of their own,
-// and a one-coin save adds no page for one.
+// A row of the journal is numbered by its step and its place in the step (step × this +
+// place, the step's header at place 0): the rows of one step are one range of the table, found
+// without an index of their own.
 inline constexpr qint64 kRowsPerStep = qint64(1) << 24;
 
-// The tables, created in one step of the store's schema.
+// The number the journal keeps a table's rows under (tbl): the entity's own number and whether
+// its pictures. Fixed, as the store keeps it; 0 is a step's header.
+int tableCode(const EntityDescription& e, bool pictures);
+
+// SQL about steps' headers, whose fields ({time}, {kind}, {subject}, {detail}, {reverses},
+// {undoneBy}, {steps}, {state}) are kept in the journal's value columns: each name in braces
+// becomes its column.
+QString headerSql(const QString& sql);
+
+// The table, created in one step of the store's schema.
 QStringList schema();
+// From the journal of schema 5 (a table of steps and one of rows for each kept table) to the
+// one table: every step and row kept, each row in its step's range.
+QStringList fromSeparateTables();
 // The stamp and the triggers, made by every connection that writes when it opens.
 QStringList connection();
 // The tables a store of a schema with the journal must hold.

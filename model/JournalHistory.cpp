@@ -9,6 +9,7 @@
 #include "model/ValueHistory.h"
 
 #include <QHash>
+#include <limits>
 #include <sqlite3.h>
 
 using namespace ContextSql;
@@ -48,72 +49,126 @@ Result<StepInfo> writeCoinBefore(ManagedObjectContext& context, qint64 coin, qin
 
 } // namespace
 
+namespace {
+const Kept* keptByCode(qint64 code) {
+    for (const Kept& k : kept())
+        if (k.code == code)
+            return &k;
+    return nullptr;
+}
+
+// A journal row read back: which table's row, what the step did to it and its image.
+struct Entry {
+    const Kept* k = nullptr;
+    qint64 step = 0, pk = 0;
+    Image image;
+};
+// Reads the rows a statement finds (seq, tbl, op, pk, v0…), handing each to `take` until it
+// says no more.
+bool readEntries(SqliteStatement& st, const std::function<bool(const Entry&)>& take) {
+    int rc;
+    while ((rc = st.step()) == SQLITE_ROW) {
+        Entry e;
+        e.k = keptByCode(st.columnInt(1));
+        if (!e.k)
+            continue;
+        e.step = st.columnInt(0) / kRowsPerStep;
+        e.pk = st.columnInt(3);
+        e.image = imageAt(st, *e.k, 2, 4);
+        if (!take(e)) {
+            rc = SQLITE_DONE;
+            break;
+        }
+    }
+    st.reset();
+    return rc == SQLITE_DONE;
+}
+
+QString entryColumns() {
+    return QStringLiteral("seq, tbl, op, pk, ") + valueColumns().join(QLatin1Char(','));
+}
+} // namespace
+
 Result<StepChanges> changesOf(ManagedObjectContext& context, qint64 stepPk, int limit) {
     SqliteDatabase& db = *context.database();
     StepChanges out;
-    // A coin's row and its pictures' row are one change of the coin.
-    QHash<QPair<int, qint64>, qsizetype> rowOf;
-    for (const Kept& k : kept()) {
-        SqliteStatement& st =
-            db.cached(QStringLiteral("SELECT j.op, j.pk, %1 FROM main.%2 j WHERE %3 AND j.seq = "
-                                     "(SELECT min(i.seq) FROM main.%2 i WHERE i.pk = j.pk AND %4) "
-                                     "ORDER BY j.seq")
-                          .arg(prefixed(k.columns, QStringLiteral("j.")), k.journal,
-                               inStep(QStringLiteral("j")), inStep(QStringLiteral("i"))));
-        st.bindInt(1, stepPk);
-        struct Entry {
-            qint64 pk;
-            Image before;
-        };
-        QList<Entry> entries;
-        int rc;
-        while ((rc = st.step()) == SQLITE_ROW) {
-            const qint64 pk = st.columnInt(1);
-            const QPair<int, qint64> key{k.entity->index, pk};
-            const bool seen = rowOf.contains(key);
-            if (!seen)
-                ++out.total;
-            if (!seen && out.rows.size() + entries.size() >= limit)
-                continue;
-            Image before;
-            if (st.columnInt(0) != Inserted)
-                before = {true, valuesAt(st, k, 2)};
-            entries << Entry{pk, before};
-            if (!seen)
-                rowOf.insert(key, -1);
+    // The first image of each row in the step is the row before it; a coin's row and its
+    // pictures' row are one change of the coin.
+    using Key = QPair<const Kept*, qint64>;
+    QHash<Key, Image> before;
+    QList<Key> order;
+    QHash<QPair<int, qint64>, qsizetype> rowOf; // entity and pk: the change's place, or -1
+    SqliteStatement& inThisStep =
+        db.cached(QStringLiteral("SELECT %1 FROM main.Journal j WHERE %2 ORDER BY seq")
+                      .arg(entryColumns(), inStep(QStringLiteral("j"))));
+    inThisStep.bindInt(1, stepPk);
+    const bool read = readEntries(inThisStep, [&](const Entry& e) {
+        const Key key{e.k, e.pk};
+        if (before.contains(key))
+            return true;
+        const QPair<int, qint64> record{e.k->entity->index, e.pk};
+        if (!rowOf.contains(record)) {
+            ++out.total;
+            rowOf.insert(record, out.total <= limit ? 0 : -1);
         }
-        st.reset();
-        if (rc != SQLITE_DONE)
-            return failure(db, QStringLiteral("reading the journal"));
-        for (const Entry& e : std::as_const(entries)) {
-            const Result<Image> after = stateAt(db, k, e.pk, stepPk, true);
-            if (!after.ok())
-                return after.error();
-            const QPair<int, qint64> key{k.entity->index, e.pk};
-            qsizetype at = rowOf.value(key, -1);
-            if (at < 0) {
-                RowChange row;
-                row.entity = k.entity;
-                row.pk = e.pk;
-                row.kind = !e.before.exists        ? RowChange::Kind::Added
-                           : !after.value().exists ? RowChange::Kind::Deleted
-                                                   : RowChange::Kind::Changed;
-                out.rows << row;
-                at = out.rows.size() - 1;
-                rowOf.insert(key, at);
-            }
-            RowChange& row = out.rows[at];
-            // A pictures row names no coin: its coin's row does, or the coin as it is now.
-            if (!k.pictures)
-                row.name = nameOf(after.value().exists ? after.value() : e.before, k);
-            row.fields << differences(k, e.before, after.value());
+        if (rowOf.value(record) >= 0) {
+            before.insert(key, e.image);
+            order << key;
         }
+        return true;
+    });
+    if (!read)
+        return failure(db, QStringLiteral("reading the journal"));
+    // Each row after the step: the first image of it any later step kept, or the row now.
+    QHash<Key, Image> after;
+    SqliteStatement& later = db.cached(
+        QStringLiteral("SELECT %1 FROM main.Journal WHERE seq >= ?1 AND tbl <> 0 ORDER BY seq")
+            .arg(entryColumns()));
+    later.bindInt(1, (stepPk + 1) * kRowsPerStep);
+    if (!readEntries(later, [&](const Entry& e) {
+            const Key key{e.k, e.pk};
+            if (before.contains(key) && !after.contains(key))
+                after.insert(key, e.image);
+            return after.size() < before.size();
+        }))
+        return failure(db, QStringLiteral("reading the journal"));
+    for (const Key& key : std::as_const(order))
+        if (!after.contains(key)) {
+            const Result<Image> now = current(db, *key.first, key.second);
+            if (!now.ok())
+                return now.error();
+            after.insert(key, now.value());
+        }
+    for (const Key& key : std::as_const(order)) {
+        const Kept& k = *key.first;
+        const Image& was = before.value(key);
+        const Image& is = after.value(key);
+        qsizetype& at = rowOf[{k.entity->index, key.second}];
+        if (at <= 0) {
+            RowChange row;
+            row.entity = k.entity;
+            row.pk = key.second;
+            out.rows << row;
+            at = out.rows.size();
+        }
+        RowChange& row = out.rows[at - 1];
+        // The record's own row says whether it was added or deleted, its pictures' row only
+        // when the step did not change the record's own.
+        if (!k.pictures || !before.contains({&keptFor(*k.entity, false), key.second}))
+            row.kind = !was.exists  ? RowChange::Kind::Added
+                       : !is.exists ? RowChange::Kind::Deleted
+                                    : RowChange::Kind::Changed;
+        // A pictures row names no coin: its coin's row does, or the coin as it is now.
+        if (!k.pictures)
+            row.name = nameOf(is.exists ? is : was, k);
+        row.fields << differences(k, was, is);
     }
     // A change of pictures alone names its coin as it is now.
+    const Kept& coins = keptFor(Model::coins(), false);
     for (RowChange& row : out.rows)
         if (row.name.isEmpty() && row.entity == &Model::coins()) {
-            const Result<Image> now = current(db, keptFor(Model::coins(), false), row.pk);
-            row.name = now.ok() ? nameOf(now.value(), keptFor(Model::coins(), false)) : QString();
+            const Result<Image> now = current(db, coins, row.pk);
+            row.name = now.ok() ? nameOf(now.value(), coins) : QString();
         }
     return out;
 }
@@ -122,31 +177,52 @@ Result<QList<CoinVersion>> versionsOf(ManagedObjectContext& context, qint64 coin
     SqliteDatabase& db = *context.database();
     const Kept& main = keptFor(Model::coins(), false);
     const Kept& pictures = keptFor(Model::coins(), true);
-    const Result<QList<StepInfo>> touched = stepsWhere(
-        context,
-        QStringLiteral("WHERE pk IN (SELECT step FROM main.%1 WHERE pk = ?1 UNION SELECT step "
-                       "FROM main.%2 WHERE pk = ?1) ORDER BY pk DESC")
-            .arg(main.journal, pictures.journal),
-        [coin](SqliteStatement& st) { st.bindInt(1, coin); });
-    if (!touched.ok())
-        return touched.error();
+    // Every image the journal kept of the coin, oldest first, in one pass.
+    QList<Entry> entries;
+    SqliteStatement& st = db.cached(
+        QStringLiteral("SELECT %1 FROM main.Journal WHERE tbl IN (%2, %3) AND pk = ?1 ORDER BY seq")
+            .arg(entryColumns())
+            .arg(main.code)
+            .arg(pictures.code));
+    st.bindInt(1, coin);
+    if (!readEntries(st, [&](const Entry& e) {
+            entries << e;
+            return true;
+        }))
+        return failure(db, QStringLiteral("reading the journal"));
     const Result<Image> nowMain = current(db, main, coin);
     const Result<Image> nowPictures = current(db, pictures, coin);
     if (!nowMain.ok() || !nowPictures.ok())
         return failure(db, QStringLiteral("reading the journal"));
+    // The table's row as it was before `step`: the first image kept from then on, or now.
+    auto before = [&](const Kept& k, qint64 step) {
+        for (const Entry& e : std::as_const(entries))
+            if (e.k == &k && e.step >= step)
+                return e.image;
+        return &k == &main ? nowMain.value() : nowPictures.value();
+    };
     QList<CoinVersion> out;
-    for (const StepInfo& s : touched.value()) {
-        const Result<Image> was = stateAt(db, main, coin, s.pk);
-        const Result<Image> wasPictures = stateAt(db, pictures, coin, s.pk);
-        if (!was.ok() || !wasPictures.ok())
-            return failure(db, QStringLiteral("reading the journal"));
-        if (!was.value().exists)
+    qint64 newer = std::numeric_limits<qint64>::max();
+    for (qsizetype i = entries.size() - 1; i >= 0; --i) {
+        const qint64 s = entries[i].step;
+        if (s >= newer)
+            continue;
+        newer = s;
+        const Image was = before(main, s);
+        if (!was.exists)
             continue; // before the coin was added
-        CoinVersion v{s, differences(main, nowMain.value(), was.value())};
         // Before and after: from the coin as it is now to the version.
-        v.fromNow << differences(pictures, nowPictures.value(), wasPictures.value());
-        if (!v.fromNow.isEmpty())
-            out << v;
+        CoinVersion v{{}, differences(main, nowMain.value(), was)};
+        v.fromNow << differences(pictures, nowPictures.value(), before(pictures, s));
+        if (v.fromNow.isEmpty())
+            continue;
+        const Result<std::optional<StepInfo>> info = step(context, s);
+        if (!info.ok())
+            return info.error();
+        if (!info.value())
+            continue;
+        v.step = *info.value();
+        out << v;
     }
     return out;
 }
@@ -158,37 +234,42 @@ Result<StepInfo> restoreVersion(ManagedObjectContext& context, qint64 coin, qint
 Result<QList<DeletedCoin>> recentlyDeleted(ManagedObjectContext& context, int days) {
     SqliteDatabase& db = *context.database();
     const Kept& main = keptFor(Model::coins(), false);
-    const qint64 since = ValueHistory::now().addDays(-days).toMSecsSinceEpoch();
+    const Result<qint64> first =
+        firstStepSince(db, ValueHistory::now().addDays(-days).toMSecsSinceEpoch());
+    if (!first.ok())
+        return first.error();
+    if (first.value() == 0)
+        return QList<DeletedCoin>();
+    // The image kept by the coin's last deletion: its row with the greatest number.
     SqliteStatement& st = db.cached(
-        QStringLiteral(
-            "SELECT j.pk, max(j.step), %4 FROM main.%1 j JOIN main.JournalSteps s "
-            "ON s.pk = j.step WHERE j.seq >= coalesce((SELECT min(pk) * %3 FROM "
-            "main.JournalSteps WHERE time >= ?1), 9223372036854775807) AND j.op = 2 AND NOT "
-            "EXISTS (SELECT 1 FROM main.%2 c WHERE c.pk = j.pk) GROUP BY j.pk ORDER BY 2 DESC")
-            .arg(main.journal, quoted(main.table))
-            .arg(kRowsPerStep)
-            .arg(stepColumns(QStringLiteral("s."))));
+        QStringLiteral("SELECT max(j.seq), j.tbl, j.op, j.pk, %1 FROM main.Journal j WHERE j.seq "
+                       ">= ?1 AND j.tbl = %2 AND j.op = %3 AND NOT EXISTS (SELECT 1 FROM main.%4 c "
+                       "WHERE c.pk = j.pk) GROUP BY j.pk ORDER BY 1 DESC")
+            .arg(prefixed(valueColumns(), QStringLiteral("j.")))
+            .arg(main.code)
+            .arg(Deleted)
+            .arg(quoted(main.table)));
     if (!st.isValid())
         return failure(db, QStringLiteral("reading the journal"));
-    st.bindInt(1, since);
-    QList<DeletedCoin> out;
-    int rc;
-    while ((rc = st.step()) == SQLITE_ROW) {
-        DeletedCoin d;
-        d.pk = st.columnInt(0);
-        d.step = stepAt(st, 2);
-        out << d;
-    }
-    st.reset();
-    if (rc != SQLITE_DONE)
+    st.bindInt(1, first.value() * kRowsPerStep);
+    QList<Entry> gone;
+    if (!readEntries(st, [&](const Entry& e) {
+            gone << e;
+            return true;
+        }))
         return failure(db, QStringLiteral("reading the journal"));
-    for (DeletedCoin& d : out) {
-        const Result<Image> was = stateAt(db, main, d.pk, d.step.pk);
-        if (!was.ok())
-            return was.error();
-        d.name = nameOf(was.value(), main);
-        d.country = valueOf(was.value(), main, "country").toString();
-        d.year = valueOf(was.value(), main, "year").toInt();
+    QList<DeletedCoin> out;
+    for (const Entry& e : std::as_const(gone)) {
+        const Result<std::optional<StepInfo>> info = step(context, e.step);
+        if (!info.ok())
+            return info.error();
+        DeletedCoin d;
+        d.pk = e.pk;
+        d.step = info.value().value_or(StepInfo{});
+        d.name = nameOf(e.image, main);
+        d.country = valueOf(e.image, main, "country").toString();
+        d.year = valueOf(e.image, main, "year").toInt();
+        out << d;
     }
     return out;
 }

@@ -5,6 +5,7 @@
 #include "model/Sqlite.h"
 
 #include <QCoreApplication>
+#include <limits>
 #include <sqlite3.h>
 
 using namespace ContextSql;
@@ -52,9 +53,17 @@ const QList<Kept>& kept() {
             for (bool pictures : {false, true}) {
                 if (pictures && !e->hasData())
                     continue;
-                Kept k{e, pictures, pictures ? e->dataTable() : e->name, {}, {}, {}, {}};
-                k.journal = QStringLiteral("Journal_") + k.table;
+                Kept k{e,
+                       pictures,
+                       tableCode(*e, pictures),
+                       pictures ? e->dataTable() : e->name,
+                       {},
+                       {},
+                       {},
+                       {}};
                 k.columns = pictures ? dataColumns(*e) : mainColumns(*e);
+                for (qsizetype c = 0; c < k.columns.size(); ++c)
+                    k.values << QStringLiteral("v%1").arg(c);
                 for (std::size_t i = 0; i < e->attributes.size(); ++i)
                     if ((e->attributes[i].type == AttributeType::Data) == pictures) {
                         k.types << e->attributes[i].type;
@@ -65,6 +74,34 @@ const QList<Kept>& kept() {
         return out;
     }();
     return all;
+}
+
+} // namespace Journal::Rows
+
+namespace Journal {
+int tableCode(const EntityDescription& e, bool pictures) {
+    return e.index * 2 + (pictures ? 2 : 1);
+}
+
+QString headerSql(const QString& sql) {
+    static const char* const fields[] = {"time",     "kind",     "subject", "detail",
+                                         "reverses", "undoneBy", "steps",   "state"};
+    QString out = sql;
+    for (int i = 0; i < 8; ++i)
+        out.replace(QLatin1Char('{') + QLatin1String(fields[i]) + QLatin1Char('}'),
+                    QStringLiteral("v%1").arg(i));
+    return out;
+}
+} // namespace Journal
+
+namespace Journal::Rows {
+
+QStringList valueColumns() {
+    QStringList widest;
+    for (const Kept& k : kept())
+        if (k.values.size() > widest.size())
+            widest = k.values;
+    return widest;
 }
 
 const Kept& keptFor(const EntityDescription& e, bool pictures) {
@@ -81,12 +118,15 @@ QString prefixed(const QStringList& columns, const QString& prefix) {
     return out.join(QLatin1Char(','));
 }
 
-// The rows a step's statements condition on: those numbered in the step's range.
 QString inStep(const QString& alias) {
-    return QStringLiteral("%1.seq BETWEEN ?1 * %2 AND ?1 * %2 + %3")
+    return QStringLiteral("%1.seq BETWEEN ?1 * %2 + 1 AND ?1 * %2 + %3")
         .arg(alias)
         .arg(kRowsPerStep)
         .arg(kRowsPerStep - 1);
+}
+
+QString headerSeq(qint64 step) {
+    return QString::number(step * kRowsPerStep);
 }
 
 Error failure(SqliteDatabase& db, const QString& doing) {
@@ -94,9 +134,10 @@ Error failure(SqliteDatabase& db, const QString& doing) {
 }
 
 QString stepColumns(const QString& prefix) {
-    return QStringLiteral("%1pk, %1time, %1kind, %1subject, %1detail, coalesce(%1reverses, 0), "
-                          "%1steps, %1state")
-        .arg(prefix);
+    return headerSql(QStringLiteral("%1seq / %2, %1{time}, %1{kind}, %1{subject}, %1{detail}, "
+                                    "coalesce(%1{reverses}, 0), coalesce(%1{steps}, 1), %1{state}")
+                         .arg(prefix)
+                         .arg(kRowsPerStep));
 }
 
 StepInfo stepAt(SqliteStatement& st, int first) {
@@ -112,12 +153,11 @@ StepInfo stepAt(SqliteStatement& st, int first) {
     return s;
 }
 
-// Runs a query of steps; `bind` binds its parameters.
-Result<QList<StepInfo>> stepsWhere(ManagedObjectContext& context, const QString& tail,
+Result<QList<StepInfo>> stepsWhere(SqliteDatabase& db, const QString& where,
                                    const std::function<void(SqliteStatement&)>& bind) {
-    SqliteDatabase& db = *context.database();
     SqliteStatement& st =
-        db.cached(QStringLiteral("SELECT %1 FROM main.JournalSteps %2").arg(stepColumns(), tail));
+        db.cached(QStringLiteral("SELECT %1 FROM main.Journal WHERE tbl = 0 AND %2")
+                      .arg(stepColumns(), headerSql(where)));
     if (!st.isValid())
         return failure(db, QStringLiteral("reading the journal"));
     if (bind)
@@ -132,6 +172,38 @@ Result<QList<StepInfo>> stepsWhere(ManagedObjectContext& context, const QString&
     return out;
 }
 
+Result<void> walkBack(SqliteDatabase& db, const std::function<bool(const StepInfo&)>& visit) {
+    SqliteStatement& before = db.cached(
+        QStringLiteral("SELECT seq / %1 FROM main.Journal WHERE seq < ?1 ORDER BY seq DESC LIMIT 1")
+            .arg(kRowsPerStep));
+    qint64 bound = std::numeric_limits<qint64>::max();
+    for (;;) {
+        before.bindInt(1, bound);
+        const int rc = before.step();
+        const qint64 step = rc == SQLITE_ROW ? before.columnInt(0) : 0;
+        before.reset();
+        if (rc != SQLITE_ROW && rc != SQLITE_DONE)
+            return failure(db, QStringLiteral("reading the journal"));
+        if (rc == SQLITE_DONE)
+            return {};
+        bound = step * kRowsPerStep;
+        static const QString headerAt =
+            QStringLiteral("SELECT %1 FROM main.Journal WHERE seq = ?1 AND tbl = 0")
+                .arg(stepColumns());
+        SqliteStatement& header = db.cached(headerAt);
+        header.bindInt(1, bound);
+        const int found = header.step();
+        const std::optional<StepInfo> s =
+            found == SQLITE_ROW ? std::optional<StepInfo>(stepAt(header, 0)) : std::nullopt;
+        header.reset();
+        if (found != SQLITE_ROW && found != SQLITE_DONE)
+            return failure(db, QStringLiteral("reading the journal"));
+        // Rows whose header went (none should) are passed over.
+        if (s && !visit(*s))
+            return {};
+    }
+}
+
 Result<std::optional<StepInfo>> firstOf(Result<QList<StepInfo>> found) {
     if (!found.ok())
         return found.error();
@@ -140,10 +212,41 @@ Result<std::optional<StepInfo>> firstOf(Result<QList<StepInfo>> found) {
     return std::optional<StepInfo>(found.value().first());
 }
 
-QString inReach() {
-    return QStringLiteral(
-        "pk > coalesce((SELECT max(pk) FROM main.JournalSteps WHERE kind = 'Restore' AND "
-        "state <> 0), 0)");
+Result<qint64> reachFloor(SqliteDatabase& db) {
+    // Restores are few and found by their own index.
+    const Result<QList<StepInfo>> restores = stepsWhere(
+        db, QStringLiteral("{kind} = 'Restore' AND {state} <> 0 ORDER BY seq DESC LIMIT 1"));
+    if (!restores.ok())
+        return restores.error();
+    return restores.value().isEmpty() ? qint64(0) : restores.value().first().pk;
+}
+
+Result<qint64> firstStepSince(SqliteDatabase& db, qint64 time) {
+    SqliteStatement& next = db.cached(
+        QStringLiteral("SELECT seq / %1 FROM main.Journal WHERE seq >= ?1 ORDER BY seq LIMIT 1")
+            .arg(kRowsPerStep));
+    SqliteStatement& header = db.cached(
+        headerSql(QStringLiteral("SELECT {time} FROM main.Journal WHERE seq = ?1 AND tbl = 0")));
+    qint64 from = 0;
+    for (;;) {
+        next.bindInt(1, from);
+        int rc = next.step();
+        const qint64 step = rc == SQLITE_ROW ? next.columnInt(0) : 0;
+        next.reset();
+        if (rc == SQLITE_DONE)
+            return qint64(0);
+        if (rc != SQLITE_ROW)
+            return failure(db, QStringLiteral("reading the journal"));
+        header.bindInt(1, step * kRowsPerStep);
+        rc = header.step();
+        const bool since = rc == SQLITE_ROW && header.columnInt(0) >= time;
+        header.reset();
+        if (rc != SQLITE_ROW && rc != SQLITE_DONE)
+            return failure(db, QStringLiteral("reading the journal"));
+        if (since)
+            return step;
+        from = (step + 1) * kRowsPerStep;
+    }
 }
 
 Error refusal(const QString& message) {
@@ -167,22 +270,25 @@ Result<Image> current(SqliteDatabase& db, const Kept& k, qint64 pk) {
     return out;
 }
 
-// The row as it was before `step` (or, with `after`, once `step` was done): the image of the
-// first journal entry for it from then on, or the row as it is now when nothing changed it
-// since.
-Result<Image> stateAt(SqliteDatabase& db, const Kept& k, qint64 pk, qint64 step, bool after) {
-    SqliteStatement& st =
-        db.cached(QStringLiteral("SELECT op, %1 FROM main.%2 WHERE pk = ?1 AND seq >= (?2 + %3) * "
-                                 "%4 ORDER BY seq LIMIT 1")
-                      .arg(k.columns.join(QLatin1Char(',')), k.journal,
-                           after ? QStringLiteral("1") : QStringLiteral("0"))
-                      .arg(kRowsPerStep));
+Image imageAt(SqliteStatement& st, const Kept& k, int op, int first) {
+    if (st.columnInt(op) == Inserted)
+        return {};
+    return {true, valuesAt(st, k, first)};
+}
+
+Result<Image> stateAt(SqliteDatabase& db, const Kept& k, qint64 pk, qint64 step) {
+    SqliteStatement& st = db.cached(
+        QStringLiteral("SELECT op, %1 FROM main.Journal WHERE seq > ?2 * %2 AND tbl = %3 AND "
+                       "pk = ?1 ORDER BY seq LIMIT 1")
+            .arg(k.values.join(QLatin1Char(',')))
+            .arg(kRowsPerStep)
+            .arg(k.code));
     st.bindInt(1, pk);
     st.bindInt(2, step);
     const int rc = st.step();
     Image out;
-    if (rc == SQLITE_ROW && st.columnInt(0) != Inserted)
-        out = {true, valuesAt(st, k, 1)};
+    if (rc == SQLITE_ROW)
+        out = imageAt(st, k, 0, 1);
     st.reset();
     if (rc == SQLITE_DONE)
         return current(db, k, pk);

@@ -21,12 +21,14 @@ namespace {
 bool reverse(SqliteDatabase& db, qint64 step) {
     for (const Kept& k : kept()) {
         const QString first =
-            QStringLiteral("j.seq = (SELECT min(i.seq) FROM main.%1 i WHERE i.pk = j.pk AND %2)")
-                .arg(k.journal, inStep(QStringLiteral("i")));
+            QStringLiteral("j.seq IN (SELECT min(i.seq) FROM main.Journal i WHERE %1 AND i.tbl = "
+                           "%2 GROUP BY i.pk)")
+                .arg(inStep(QStringLiteral("i")))
+                .arg(k.code);
         SqliteStatement& gone = db.cached(
-            QStringLiteral("DELETE FROM main.%1 WHERE pk IN (SELECT j.pk FROM main.%2 j WHERE "
-                           "%4 AND j.op = 0 AND %3)")
-                .arg(quoted(k.table), k.journal, first, inStep(QStringLiteral("j"))));
+            QStringLiteral("DELETE FROM main.%1 WHERE pk IN (SELECT j.pk FROM main.Journal j WHERE "
+                           "%2 AND j.op = 0)")
+                .arg(quoted(k.table), first));
         gone.bindInt(1, step);
         const bool deleted = gone.step() == SQLITE_DONE;
         gone.reset();
@@ -37,10 +39,10 @@ bool reverse(SqliteDatabase& db, qint64 step) {
             sets << QStringLiteral("%1 = excluded.%1").arg(c);
         // A coin is updated in place, so that the value history sees the change it is; a
         // picture row is replaced whole, which its journal trigger sees before it happens.
-        const QString select = QStringLiteral("SELECT j.pk, %1 FROM main.%2 j WHERE %4 "
-                                              "AND j.op <> 0 AND %3 ORDER BY j.seq")
-                                   .arg(prefixed(k.columns, QStringLiteral("j.")), k.journal, first,
-                                        inStep(QStringLiteral("j")));
+        const QString select =
+            QStringLiteral("SELECT j.pk, %1 FROM main.Journal j WHERE %2 AND j.op <> 0 ORDER BY "
+                           "j.seq")
+                .arg(prefixed(k.values, QStringLiteral("j.")), first);
         SqliteStatement& back = db.cached(
             k.pictures ? QStringLiteral("INSERT OR REPLACE INTO main.%1 (pk, %2) %3")
                              .arg(quoted(k.table), k.columns.join(QLatin1Char(',')), select)
@@ -57,6 +59,16 @@ bool reverse(SqliteDatabase& db, qint64 step) {
     return true;
 }
 
+// Runs one statement of the step's own bookkeeping, its parameters bound in order.
+bool note(SqliteDatabase& db, const QString& sql, const QList<qint64>& values) {
+    SqliteStatement& st = db.cached(sql);
+    for (int i = 0; i < values.size(); ++i)
+        st.bindInt(i + 1, values[i]);
+    const bool done = st.step() == SQLITE_DONE;
+    st.reset();
+    return done;
+}
+
 } // namespace
 
 namespace {
@@ -65,25 +77,20 @@ Result<StepInfo> undoSteps(ManagedObjectContext& context, const QList<StepInfo>&
     const Result<qint64> written = context.writeStep(
         {Undo, oldest.subject, oldest.kind, ValueHistory::Undo, oldest.pk, true},
         [&](SqliteDatabase& db, qint64 id) {
-            for (const StepInfo& s : newestFirst) {
-                if (!reverse(db, s.pk))
+            for (const StepInfo& s : newestFirst)
+                if (!reverse(db, s.pk) ||
+                    !note(db,
+                          headerSql(
+                              QStringLiteral("UPDATE main.Journal SET {state} = 1, {undoneBy} = "
+                                             "?1 WHERE seq = ?2 * %1")
+                                  .arg(kRowsPerStep)),
+                          {id, s.pk}))
                     return false;
-                SqliteStatement& mark = db.cached(QStringLiteral(
-                    "UPDATE main.JournalSteps SET state = 1, undoneBy = ?1 WHERE pk = ?2"));
-                mark.bindInt(1, id);
-                mark.bindInt(2, s.pk);
-                const bool marked = mark.step() == SQLITE_DONE;
-                mark.reset();
-                if (!marked)
-                    return false;
-            }
-            SqliteStatement& count =
-                db.cached(QStringLiteral("UPDATE main.JournalSteps SET steps = ?1 WHERE pk = ?2"));
-            count.bindInt(1, newestFirst.size());
-            count.bindInt(2, id);
-            const bool counted = count.step() == SQLITE_DONE;
-            count.reset();
-            return counted;
+            return note(
+                db,
+                headerSql(QStringLiteral("UPDATE main.Journal SET {steps} = ?1 WHERE seq = ?2 * %1")
+                              .arg(kRowsPerStep)),
+                {newestFirst.size(), id});
         });
     if (!written.ok())
         return written.error();
@@ -108,18 +115,26 @@ Result<int> undoBackTo(ManagedObjectContext& context, qint64 stepPk) {
     if (context.hasChanges())
         if (Result<void> saved = context.save(); !saved.ok())
             return saved.error();
-    const Result<QList<StepInfo>> inPlace = stepsWhere(
-        context,
-        QStringLiteral("WHERE state = 0 AND pk >= ?1 AND %1 ORDER BY pk DESC").arg(inReach()),
-        [stepPk](SqliteStatement& st) { st.bindInt(1, stepPk); });
-    if (!inPlace.ok())
-        return inPlace.error();
-    if (inPlace.value().isEmpty() || inPlace.value().last().pk != stepPk)
+    SqliteDatabase& db = *context.database();
+    const Result<qint64> floor = reachFloor(db);
+    if (!floor.ok())
+        return floor.error();
+    QList<StepInfo> inPlace;
+    const Result<void> walked = walkBack(db, [&](const StepInfo& s) {
+        if (s.pk < stepPk || s.pk <= floor.value())
+            return false;
+        if (s.state == StepInfo::State::InPlace)
+            inPlace << s;
+        return true;
+    });
+    if (!walked.ok())
+        return walked.error();
+    if (inPlace.isEmpty() || inPlace.last().pk != stepPk)
         return refusal(tr("That change cannot be undone any more."));
-    const Result<StepInfo> undone = undoSteps(context, inPlace.value());
+    const Result<StepInfo> undone = undoSteps(context, inPlace);
     if (!undone.ok())
         return undone.error();
-    return int(inPlace.value().size());
+    return int(inPlace.size());
 }
 
 Result<StepInfo> redo(ManagedObjectContext& context) {
@@ -134,10 +149,11 @@ Result<StepInfo> redo(ManagedObjectContext& context) {
         return refusal(tr("There is nothing to redo."));
     const StepInfo& x = *target.value();
     // Every step the undo took back comes back with it.
-    SqliteStatement& by =
-        db.cached(QStringLiteral("SELECT undoneBy, (SELECT count(*) FROM main.JournalSteps t "
-                                 "WHERE t.undoneBy = s.undoneBy AND t.state = 1) FROM "
-                                 "main.JournalSteps s WHERE pk = ?1"));
+    SqliteStatement& by = db.cached(
+        headerSql(QStringLiteral("SELECT s.{undoneBy}, (SELECT count(*) FROM main.Journal t WHERE "
+                                 "t.tbl = 0 AND t.{state} = 1 AND t.{undoneBy} = s.{undoneBy}) "
+                                 "FROM main.Journal s WHERE seq = ?1 * %1")
+                      .arg(kRowsPerStep)));
     by.bindInt(1, x.pk);
     const bool read = by.step() == SQLITE_ROW;
     const qint64 undoStep = read ? by.columnInt(0) : 0;
@@ -148,21 +164,18 @@ Result<StepInfo> redo(ManagedObjectContext& context) {
     const Result<qint64> written = context.writeStep(
         {Redo, x.subject, x.kind, ValueHistory::Redo, undoStep, true},
         [&](SqliteDatabase& d, qint64 id) {
-            if (!reverse(d, undoStep))
-                return false;
-            SqliteStatement& mark = d.cached(
-                QStringLiteral("UPDATE main.JournalSteps SET state = 0, undoneBy = NULL WHERE "
-                               "undoneBy = ?1 AND state = 1"));
-            mark.bindInt(1, undoStep);
-            const bool marked = mark.step() == SQLITE_DONE;
-            mark.reset();
-            SqliteStatement& steps =
-                d.cached(QStringLiteral("UPDATE main.JournalSteps SET steps = ?1 WHERE pk = ?2"));
-            steps.bindInt(1, count);
-            steps.bindInt(2, id);
-            const bool counted = steps.step() == SQLITE_DONE;
-            steps.reset();
-            return marked && counted;
+            return reverse(d, undoStep) &&
+                   note(
+                       d,
+                       headerSql(QStringLiteral("UPDATE main.Journal SET {state} = 0, {undoneBy} = "
+                                                "NULL WHERE tbl = 0 AND {state} = 1 AND "
+                                                "{undoneBy} = ?1")),
+                       {undoStep}) &&
+                   note(d,
+                        headerSql(QStringLiteral(
+                                      "UPDATE main.Journal SET {steps} = ?1 WHERE seq = ?2 * %1")
+                                      .arg(kRowsPerStep)),
+                        {count, id});
         });
     if (!written.ok())
         return written.error();
@@ -183,23 +196,30 @@ Result<void> recordRestore(ManagedObjectContext& context, const QString& before,
         return failure(db, QStringLiteral("reading the collection as it was"));
     const Result<qint64> written =
         context.writeStep({Restore, subject, {}, {}, 0, false}, [&](SqliteDatabase& d, qint64 id) {
+            // Numbered after the step's header and after one another.
+            const QString next =
+                QStringLiteral("(SELECT max(seq) FROM main.Journal WHERE seq BETWEEN %1 * %2 AND "
+                               "%1 * %2 + %2 - 1) + row_number() OVER ()")
+                    .arg(id)
+                    .arg(kRowsPerStep);
             for (const Kept& k : kept()) {
                 const QString cols = k.columns.join(QLatin1Char(','));
-                const QString step = QString::number(id);
+                const QString values = k.values.join(QLatin1Char(','));
                 if (!d.exec(QStringLiteral(
-                                "INSERT INTO main.%1 (seq, step, op, pk, %2) SELECT %3 * %6 + "
-                                "row_number() OVER (), %3, CASE WHEN EXISTS (SELECT 1 FROM "
-                                "main.%4 n WHERE n.pk = o.pk) THEN 1 ELSE 2 END, o.pk, %5 FROM "
-                                "(SELECT pk, %2 FROM old.%4 EXCEPT SELECT pk, %2 FROM main.%4) o")
-                                .arg(k.journal, cols, step, quoted(k.table),
-                                     prefixed(k.columns, QStringLiteral("o.")))
-                                .arg(kRowsPerStep)) ||
-                    // Numbered after the rows above: half the step's numbers for each.
-                    !d.exec(QStringLiteral("INSERT INTO main.%1 (seq, step, op, pk) SELECT %2 * %4 "
-                                           "+ %4 / 2 + row_number() OVER (), %2, 0, pk FROM "
-                                           "(SELECT pk FROM main.%3 EXCEPT SELECT pk FROM old.%3)")
-                                .arg(k.journal, step, quoted(k.table))
-                                .arg(kRowsPerStep)))
+                                "INSERT INTO main.Journal (seq, tbl, op, pk, %1) SELECT %2, %3, "
+                                "CASE WHEN EXISTS (SELECT 1 FROM main.%4 n WHERE n.pk = o.pk) "
+                                "THEN 1 ELSE 2 END, o.pk, %5 FROM (SELECT pk, %6 FROM old.%4 "
+                                "EXCEPT SELECT pk, %6 FROM main.%4) o")
+                                .arg(values, next)
+                                .arg(k.code)
+                                .arg(quoted(k.table), prefixed(k.columns, QStringLiteral("o.")),
+                                     cols)) ||
+                    !d.exec(QStringLiteral("INSERT INTO main.Journal (seq, tbl, op, pk) SELECT %1, "
+                                           "%2, 0, pk FROM (SELECT pk FROM main.%3 EXCEPT SELECT "
+                                           "pk FROM old.%3)")
+                                .arg(next)
+                                .arg(k.code)
+                                .arg(quoted(k.table))))
                     return false;
             }
             return true;

@@ -180,6 +180,8 @@ private:
     // Makes the journal step the pending writes go to, dated `now`, unless it is made already;
     // false when a statement fails.
     bool openStep(const QDateTime& now);
+    // Writes a new step's header; its number, or 0 when a statement fails.
+    qint64 newStep(const DirectStep& asked, const QDateTime& now);
     bool stampStep(qint64 step);
     // A save that is no step's ends its own.
     void closeOwnStep();

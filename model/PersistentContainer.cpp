@@ -101,7 +101,7 @@ QStringList schema() {
     return sql + indexes() + ValueHistory::schema() + Journal::schema();
 }
 
-// From schema 4 to 5: the journal's tables, and the records' tables made again so that their
+// From schema 4: the journal's table, and the records' tables made again so that their
 // rows are numbered as the journal needs; every row keeps its number.
 QStringList journalBegins() {
     QStringList sql;
@@ -348,6 +348,8 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
                   << ValueHistory::fold();
         if (current > 0 && current < 5)
             steps << journalBegins();
+        if (current == 5)
+            steps << Journal::fromSeparateTables();
         steps << setApplicationId();
         if (!db_->exec(QStringLiteral("BEGIN IMMEDIATE")))
             return failure(db_->errorCode(), db_->errorMessage());

@@ -34,7 +34,7 @@ QString missing(sqlite3* db) {
         for (const QString& table : ValueHistory::tables())
             if (columnsOf(table).isEmpty())
                 return QStringLiteral("there is no table %1").arg(table);
-    if (version >= 5)
+    if (version >= 6)
         for (const QString& table : Journal::tables())
             if (columnsOf(table).isEmpty())
                 return QStringLiteral("there is no table %1").arg(table);

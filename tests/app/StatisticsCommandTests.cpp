@@ -213,3 +213,36 @@ TEST_F(PelvaneTest, UndoAndChangesFromTheCommandLine) {
         EXPECT_TRUE(r.errors.contains("cannot be combined")) << qPrintable(r.errors);
     }
 }
+
+// A journal written before its steps and rows shared one table is carried over whole: the same
+// steps in the same states, and undo reaches back through them (the second import was undone
+// and stays ready to redo; undoing now takes back the first import, pictures included).
+TEST_F(PelvaneTest, AJournalOfTheEarlierLayoutIsCarriedOver) {
+    const QString store = dir() + "/store";
+    QDir().mkpath(store);
+    const QString file = store + "/Pelvane.sqlite";
+    ASSERT_TRUE(QFile::copy(PELVANE_TEST_DATA "/stores/written-by-schema-5.sqlite", file));
+    QFile(file).setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+
+    ProgramRun r = runProgram(store, {"--changes"});
+    ASSERT_EQ(r.exitCode, 0) << qPrintable(r.errors);
+    QStringList lines = r.output.trimmed().split('\n');
+    for (QString& line : lines)
+        line = line.section("  ", 1);
+    EXPECT_EQ(
+        lines,
+        QStringList({"Undid the Import of b.csv", "Imported b.csv: 3 created, 0 updated  (undone)",
+                     "Undid the Import of b.csv", "Imported b.csv: 3 created, 0 updated  (undone)",
+                     "Imported a.csv: 3 created, 0 updated"}));
+    EXPECT_EQ(runProgram(store, {"--stats"}).output.section('\n', 0, 0), "Coins: 3");
+
+    r = runProgram(store, {"--undo"});
+    EXPECT_EQ(r.output, "Undid the Import of a.csv\n") << qPrintable(r.errors);
+    EXPECT_EQ(runProgram(store, {"--stats"}).output.section('\n', 0, 0), "Coins: 0");
+    OtherConnection raw(file);
+    EXPECT_EQ(raw.number("SELECT count(*) FROM Coins_pictures"), 0);
+    EXPECT_EQ(raw.number("PRAGMA user_version"), PersistentContainer::SchemaVersion);
+    EXPECT_EQ(raw.number("SELECT count(*) FROM sqlite_master WHERE name LIKE 'Journal_%' AND "
+                         "type = 'table'"),
+              0);
+}

@@ -200,7 +200,7 @@ TEST_F(JournalTest, PruningKeepsTheDaysAndTheCount) {
     const auto versions = Journal::versionsOf(ctx(), c->objectID());
     EXPECT_EQ(versions.valueOr({}).size(), 4);
     EXPECT_EQ(OtherConnection(QDir(dir()).filePath("Pelvane.sqlite"))
-                  .number("SELECT count(*) FROM Journal_Coins WHERE step NOT IN (SELECT pk FROM "
-                          "JournalSteps)"),
+                  .number("SELECT count(*) FROM Journal WHERE seq / 16777216 NOT IN (SELECT "
+                          "seq / 16777216 FROM Journal WHERE tbl = 0)"),
               0);
 }
