@@ -4,6 +4,7 @@
 #include "model/CoinAttributes.h"
 #include "model/ContextSql.h"
 #include "model/Journal.h"
+#include "model/Originals.h"
 #include "model/Snapshots.h"
 #include "model/Sqlite.h"
 #include "model/StoreFiles.h"
@@ -98,7 +99,7 @@ QStringList schema() {
         if (e->hasData())
             sql << tableStatement(*e, true);
     }
-    return sql + indexes() + ValueHistory::schema() + Journal::schema();
+    return sql + indexes() + ValueHistory::schema() + Journal::schema() + Originals::schema();
 }
 
 // From schema 4: the journal's table, and the records' tables made again so that their
@@ -350,6 +351,8 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
             steps << journalBegins();
         if (current == 5)
             steps << Journal::fromSeparateTables();
+        if (current > 0 && current < 7)
+            steps << Originals::schema();
         steps << setApplicationId();
         if (!db_->exec(QStringLiteral("BEGIN IMMEDIATE")))
             return failure(db_->errorCode(), db_->errorMessage());

@@ -2,6 +2,7 @@
 
 #include "model/Entity.h"
 #include "model/Journal.h"
+#include "model/Originals.h"
 #include "model/ValueHistory.h"
 
 #include <QSet>
@@ -36,6 +37,10 @@ QString missing(sqlite3* db) {
                 return QStringLiteral("there is no table %1").arg(table);
     if (version >= 6)
         for (const QString& table : Journal::tables())
+            if (columnsOf(table).isEmpty())
+                return QStringLiteral("there is no table %1").arg(table);
+    if (version >= 7)
+        for (const QString& table : Originals::tables())
             if (columnsOf(table).isEmpty())
                 return QStringLiteral("there is no table %1").arg(table);
     for (const EntityDescription* e : Model::entities()) {

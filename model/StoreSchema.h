@@ -12,7 +12,8 @@ namespace StoreSchema {
 // 4: the value history (ValueHistory).
 // 5: the change journal (Journal); records' rows never numbered as a deleted one.
 // 6: the journal's steps and rows in one table.
-inline constexpr int Version = 6;
+// 7: the links from pictures to their originals (Originals).
+inline constexpr int Version = 7;
 // Written into every store's header, so that a restore can tell our stores from other files.
 inline constexpr int ApplicationId = 0x50656C76; // "Pelv"
 // The first table or column the model needs that the open database lacks, said for a person;

@@ -274,6 +274,20 @@ std::optional<QSize> decodedSize(const QByteArray& bytes) {
     return image.size();
 }
 
+std::optional<QSize> shownSize(const QByteArray& bytes) {
+    QByteArray shared = bytes; // QBuffer wants an array it may write; this one is only read
+    QBuffer buffer(&shared);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    reader.setAutoTransform(true);
+    QSize size = reader.size();
+    if (!size.isValid())
+        return std::nullopt;
+    if (reader.transformation() & QImageIOHandler::TransformationRotate90)
+        size.transpose();
+    return size;
+}
+
 std::optional<QSize> plainJpegSize(const QByteArray& bytes) {
     if (!bytes.startsWith("\xFF\xD8"))
         return std::nullopt;

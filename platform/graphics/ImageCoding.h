@@ -23,6 +23,9 @@ std::optional<QSize> decodedSize(const QByteArray& bytes);
 // plain colour JPEG read through without a warning, nothing in it that decode() would act on
 // (Exif turn, colour profile). Nothing for any other bytes.
 std::optional<QSize> plainJpegSize(const QByteArray& bytes);
+// The size a photo is shown at (after its Exif turn), read from its header alone; nothing when
+// the bytes are no picture.
+std::optional<QSize> shownSize(const QByteArray& bytes);
 // The picture drawn onto a 100 x 100 canvas, stretched to the whole square whatever its shape.
 QImage redrawnForStorage(const QImage& image);
 // JPEG at a quality from 0 to 1; empty when encoding fails.

@@ -109,7 +109,7 @@ TEST_F(PelvaneTest, RestoreRefusesWhatIsNoWholeBackup) {
              QFile::copy(path("good.sqlite"), f);
              OtherConnection(f).exec("PRAGMA user_version=9");
          },
-         "was written by a newer Pelvane (store version 9; this one reads up to 6)"},
+         "was written by a newer Pelvane (store version 9; this one reads up to 7)"},
         {"no-notes.sqlite",
          [this](const QString& f) {
              QFile::copy(path("good.sqlite"), f);

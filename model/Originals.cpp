@@ -1,0 +1,246 @@
+#include "model/Originals.h"
+
+#include "model/Journal.h"
+#include "model/ManagedObjectContext.h"
+#include "model/Sqlite.h"
+#include "model/StoreFiles.h"
+#include "platform/core/Files.h"
+
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+#include <sqlite3.h>
+
+namespace Originals {
+
+namespace {
+Error failure(SqliteDatabase& db, const QString& doing) {
+    return Error::because(db.errorCode(), db.errorMessage(), doing);
+}
+
+Error plain(const QString& message) {
+    Error e;
+    e.message = message;
+    return e;
+}
+
+QString storeOf(SqliteDatabase& db) {
+    const char* name = sqlite3_db_filename(db.handle(), "main");
+    return name ? QString::fromLocal8Bit(name) : QString();
+}
+
+QString linkKey(const QByteArray& picture) {
+    return hashOf(picture);
+}
+} // namespace
+
+QStringList schema() {
+    // A picture's key is the SHA-256 of its 100 x 100 bytes; the original's size spares the
+    // screens a decode to lay it out.
+    return {
+        QStringLiteral("CREATE TABLE OriginalLinks (picture TEXT PRIMARY KEY, original TEXT NOT "
+                       "NULL, width INTEGER NOT NULL, height INTEGER NOT NULL) WITHOUT ROWID")};
+}
+
+QStringList tables() {
+    return {QStringLiteral("OriginalLinks")};
+}
+
+QString folderFor(const QString& storePath) {
+    return QFileInfo(storePath).absolutePath() + QStringLiteral("/Originals");
+}
+
+QString hashOf(const QByteArray& bytes) {
+    return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
+}
+
+bool keepable(qint64 bytes, const QSize& size) {
+    return bytes <= MaxBytes && size.isValid() && qint64(size.width()) * size.height() <= MaxPixels;
+}
+
+Result<Original> keep(ManagedObjectContext& context, const QByteArray& bytes, const QSize& size) {
+    if (!keepable(bytes.size(), size))
+        return plain(QStringLiteral("The photo is too large to keep (at most 64 megapixels and 50 "
+                                    "MB)"));
+    const QString folder = folderFor(storeOf(*context.database()));
+    Original o{hashOf(bytes), {}, size};
+    o.path = folder + QLatin1Char('/') + o.hash;
+    if (!QDir().mkpath(folder))
+        return StoreFiles::systemError(QStringLiteral("Cannot make the folder %1").arg(folder));
+    // A file of that name holds these bytes already, unless it was damaged since.
+    if (QFileInfo(o.path).size() == bytes.size() && read(o).ok())
+        return o;
+    const QString part = StoreFiles::temporaryBeside(o.path);
+    if (part.isEmpty())
+        return StoreFiles::systemError(QStringLiteral("Cannot write %1").arg(o.path));
+    QFile out(part);
+    if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate) || out.write(bytes) != bytes.size() ||
+        !out.flush()) {
+        const Error e = StoreFiles::systemError(QStringLiteral("Cannot write %1").arg(o.path));
+        out.close();
+        QFile::remove(part);
+        return e;
+    }
+    out.close();
+    if (Result<void> placed = StoreFiles::replace(part, o.path); !placed.ok()) {
+        QFile::remove(part);
+        return placed.error();
+    }
+    return o;
+}
+
+Result<void> link(ManagedObjectContext& context, const QByteArray& picture,
+                  const Original& original) {
+    SqliteDatabase& db = *context.database();
+    SqliteStatement& st = db.cached(
+        QStringLiteral("INSERT OR REPLACE INTO main.OriginalLinks (picture, original, width, "
+                       "height) VALUES (?1, ?2, ?3, ?4)"));
+    st.bindText(1, linkKey(picture));
+    st.bindText(2, original.hash);
+    st.bindInt(3, original.size.width());
+    st.bindInt(4, original.size.height());
+    const bool done = st.step() == SQLITE_DONE;
+    st.reset();
+    if (!done)
+        return failure(db, QStringLiteral("linking the original"));
+    return {};
+}
+
+std::optional<Original> of(ManagedObjectContext& context, const QByteArray& picture) {
+    if (picture.isEmpty())
+        return std::nullopt;
+    SqliteDatabase& db = *context.database();
+    SqliteStatement& st = db.cached(QStringLiteral(
+        "SELECT original, width, height FROM main.OriginalLinks WHERE picture = ?1"));
+    st.bindText(1, linkKey(picture));
+    std::optional<Original> out;
+    if (st.step() == SQLITE_ROW) {
+        Original o;
+        o.hash = st.columnText(0);
+        o.size = QSize(int(st.columnInt(1)), int(st.columnInt(2)));
+        o.path = folderFor(storeOf(db)) + QLatin1Char('/') + o.hash;
+        out = o;
+    }
+    st.reset();
+    return out;
+}
+
+Result<QByteArray> read(const Original& original) {
+    QFile file(original.path);
+    if (!file.open(QIODevice::ReadOnly))
+        return plain(QStringLiteral("The original photo %1 is missing").arg(original.path));
+    if (file.size() > MaxBytes)
+        return plain(QStringLiteral("The original photo %1 is damaged").arg(original.path));
+    const QByteArray bytes = file.readAll();
+    if (hashOf(bytes) != original.hash)
+        return plain(QStringLiteral("The original photo %1 is damaged").arg(original.path));
+    return bytes;
+}
+
+Result<QList<Original>> linked(SqliteDatabase& db, const QString& storePath) {
+    SqliteStatement& st = db.cached(QStringLiteral(
+        "SELECT original, max(width), max(height) FROM main.OriginalLinks GROUP BY original"));
+    if (!st.isValid())
+        return failure(db, QStringLiteral("reading the originals"));
+    QList<Original> out;
+    int rc;
+    while ((rc = st.step()) == SQLITE_ROW) {
+        Original o;
+        o.hash = st.columnText(0);
+        o.size = QSize(int(st.columnInt(1)), int(st.columnInt(2)));
+        o.path = folderFor(storePath) + QLatin1Char('/') + o.hash;
+        out << o;
+    }
+    st.reset();
+    if (rc != SQLITE_DONE)
+        return failure(db, QStringLiteral("reading the originals"));
+    return out;
+}
+
+Result<int> collect(ManagedObjectContext& context, const QString& storePath,
+                    const QStringList& snapshots) {
+    SqliteDatabase& db = *context.database();
+    const QString folder = folderFor(storePath);
+    const QStringList files = QDir(folder).entryList(QDir::Files);
+    // The pictures still held: by the collection and by its journal (tbl 2 is the coins'
+    // pictures; v0 and v1 the front and the back).
+    QSet<QString> held;
+    {
+        SqliteStatement& links =
+            db.cached(QStringLiteral("SELECT count(*) FROM main.OriginalLinks"));
+        const qint64 count = links.step() == SQLITE_ROW ? links.columnInt(0) : 0;
+        links.reset();
+        if (count == 0 && files.isEmpty())
+            return 0;
+    }
+    const int pictures = Journal::tableCode(Model::coins(), true);
+    const QString sql =
+        QStringLiteral("SELECT frontImage, backImage FROM main.Coins_pictures UNION ALL SELECT "
+                       "v0, v1 FROM main.Journal WHERE tbl = %1")
+            .arg(pictures);
+    SqliteStatement& all = db.cached(sql);
+    if (!all.isValid())
+        return failure(db, QStringLiteral("reading the pictures"));
+    int rc;
+    while ((rc = all.step()) == SQLITE_ROW)
+        for (int c = 0; c < 2; ++c)
+            if (!all.isNull(c))
+                held.insert(linkKey(all.columnBlob(c)));
+    all.reset();
+    if (rc != SQLITE_DONE)
+        return failure(db, QStringLiteral("reading the pictures"));
+    // Links of pictures no longer held go.
+    QStringList gone;
+    SqliteStatement& keys = db.cached(QStringLiteral("SELECT picture FROM main.OriginalLinks"));
+    while (keys.step() == SQLITE_ROW)
+        if (!held.contains(keys.columnText(0)))
+            gone << keys.columnText(0);
+    keys.reset();
+    SqliteStatement& drop =
+        db.cached(QStringLiteral("DELETE FROM main.OriginalLinks WHERE picture = ?1"));
+    for (const QString& key : std::as_const(gone)) {
+        drop.bindText(1, key);
+        drop.step();
+        drop.reset();
+    }
+    // The originals named by a link: of the store, and of every snapshot (as it was taken).
+    QSet<QString> named;
+    SqliteStatement& originals =
+        db.cached(QStringLiteral("SELECT DISTINCT original FROM main.OriginalLinks"));
+    while (originals.step() == SQLITE_ROW)
+        named.insert(originals.columnText(0));
+    originals.reset();
+    for (const QString& snapshot : snapshots) {
+        StoreFiles::Connection other(snapshot, StoreFiles::Connection::Inspect);
+        if (!other.ok())
+            return 0; // a snapshot that cannot be read might name any of them: none goes
+        sqlite3_stmt* st = nullptr;
+        if (sqlite3_prepare_v2(other.handle(), "SELECT DISTINCT original FROM OriginalLinks", -1,
+                               &st, nullptr) != SQLITE_OK) {
+            sqlite3_finalize(st);
+            continue; // a snapshot of a store from before originals names none
+        }
+        while (sqlite3_step(st) == SQLITE_ROW)
+            named.insert(
+                QString::fromLatin1(reinterpret_cast<const char*>(sqlite3_column_text(st, 0))));
+        sqlite3_finalize(st);
+    }
+    int removed = 0;
+    for (const QString& name : files) {
+        // Only files named as originals are; a copy being written has a name of its own.
+        if (name.size() != 64 || named.contains(name))
+            continue;
+        // One kept within the hour may be on its way to a link of a save not yet committed.
+        const QFileInfo info(folder + QLatin1Char('/') + name);
+        if (info.lastModified().secsTo(QDateTime::currentDateTime()) < 3600)
+            continue;
+        if (QFile::remove(folder + QLatin1Char('/') + name))
+            ++removed;
+    }
+    return removed;
+}
+
+} // namespace Originals
