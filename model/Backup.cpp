@@ -1,5 +1,6 @@
 #include "model/Backup.h"
 
+#include "model/Originals.h"
 #include "model/Seal.h"
 #include "model/StoreFiles.h"
 #include "model/StoreLock.h"
@@ -19,7 +20,7 @@ namespace Backup {
 
 namespace {
 Result<qint64> copyOf(const QString& storePath, const QString& target, const Progress& progress,
-                      bool overExisting) {
+                      bool overExisting, bool withOriginals) {
     if (!Files::status(storePath).isFile)
         return failure(SQLITE_CANTOPEN,
                        QStringLiteral("There is no collection at %1").arg(storePath));
@@ -50,6 +51,11 @@ Result<qint64> copyOf(const QString& storePath, const QString& target, const Pro
         Connection copy(temporary, Connection::Create);
         if (!copy.ok())
             return fail(copy.error());
+        // A snapshot shares the originals' folder with the store; a backup carries its own.
+        if (withOriginals)
+            if (const Result<int> added = Originals::addToBackup(copy.handle(), storePath);
+                !added.ok())
+                return fail(added.error());
         // The copy's checksum and SQLite's check of it read it side by side, one core each.
         std::optional<QString> problem;
         std::thread checker([&] {
@@ -84,11 +90,11 @@ Result<qint64> write(const QString& storePath, const QString& target, const Prog
     if (const Result<void> allowed = Files::isWritableTarget(target); !allowed.ok())
         return failure(SQLITE_CANTOPEN,
                        QStringLiteral("Cannot write %1: %2").arg(target, allowed.error().message));
-    return copyOf(storePath, target, progress, true);
+    return copyOf(storePath, target, progress, true, true);
 }
 
 Result<qint64> writeNew(const QString& storePath, const QString& target) {
-    return copyOf(storePath, target, {}, false);
+    return copyOf(storePath, target, {}, false, false);
 }
 
 Result<StoreInfo> checkOpen(const Connection& db, const QString& path) {

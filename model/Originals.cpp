@@ -4,6 +4,7 @@
 #include "model/ManagedObjectContext.h"
 #include "model/Sqlite.h"
 #include "model/StoreFiles.h"
+#include "platform/core/Console.h"
 #include "platform/core/Files.h"
 
 #include <QCryptographicHash>
@@ -61,6 +62,32 @@ bool keepable(qint64 bytes, const QSize& size) {
     return bytes <= MaxBytes && size.isValid() && qint64(size.width()) * size.height() <= MaxPixels;
 }
 
+Result<void> put(const QString& folder, const QString& hash, const QByteArray& bytes) {
+    const QString path = folder + QLatin1Char('/') + hash;
+    if (!QDir().mkpath(folder))
+        return StoreFiles::systemError(QStringLiteral("Cannot make the folder %1").arg(folder));
+    // A file of that name holds these bytes already, unless it was damaged since.
+    if (QFileInfo(path).size() == bytes.size() && read({hash, path, {}}).ok())
+        return {};
+    const QString part = StoreFiles::temporaryBeside(path);
+    if (part.isEmpty())
+        return StoreFiles::systemError(QStringLiteral("Cannot write %1").arg(path));
+    QFile out(part);
+    if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate) || out.write(bytes) != bytes.size() ||
+        !out.flush()) {
+        const Error e = StoreFiles::systemError(QStringLiteral("Cannot write %1").arg(path));
+        out.close();
+        QFile::remove(part);
+        return e;
+    }
+    out.close();
+    if (Result<void> placed = StoreFiles::replace(part, path); !placed.ok()) {
+        QFile::remove(part);
+        return placed.error();
+    }
+    return {};
+}
+
 Result<Original> keep(ManagedObjectContext& context, const QByteArray& bytes, const QSize& size) {
     if (!keepable(bytes.size(), size))
         return plain(QStringLiteral("The photo is too large to keep (at most 64 megapixels and 50 "
@@ -68,27 +95,8 @@ Result<Original> keep(ManagedObjectContext& context, const QByteArray& bytes, co
     const QString folder = folderFor(storeOf(*context.database()));
     Original o{hashOf(bytes), {}, size};
     o.path = folder + QLatin1Char('/') + o.hash;
-    if (!QDir().mkpath(folder))
-        return StoreFiles::systemError(QStringLiteral("Cannot make the folder %1").arg(folder));
-    // A file of that name holds these bytes already, unless it was damaged since.
-    if (QFileInfo(o.path).size() == bytes.size() && read(o).ok())
-        return o;
-    const QString part = StoreFiles::temporaryBeside(o.path);
-    if (part.isEmpty())
-        return StoreFiles::systemError(QStringLiteral("Cannot write %1").arg(o.path));
-    QFile out(part);
-    if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate) || out.write(bytes) != bytes.size() ||
-        !out.flush()) {
-        const Error e = StoreFiles::systemError(QStringLiteral("Cannot write %1").arg(o.path));
-        out.close();
-        QFile::remove(part);
-        return e;
-    }
-    out.close();
-    if (Result<void> placed = StoreFiles::replace(part, o.path); !placed.ok()) {
-        QFile::remove(part);
-        return placed.error();
-    }
+    if (Result<void> written = put(folder, o.hash, bytes); !written.ok())
+        return written.error();
     return o;
 }
 
@@ -140,24 +148,91 @@ Result<QByteArray> read(const Original& original) {
     return bytes;
 }
 
-Result<QList<Original>> linked(SqliteDatabase& db, const QString& storePath) {
-    SqliteStatement& st = db.cached(QStringLiteral(
-        "SELECT original, max(width), max(height) FROM main.OriginalLinks GROUP BY original"));
-    if (!st.isValid())
-        return failure(db, QStringLiteral("reading the originals"));
-    QList<Original> out;
-    int rc;
-    while ((rc = st.step()) == SQLITE_ROW) {
-        Original o;
-        o.hash = st.columnText(0);
-        o.size = QSize(int(st.columnInt(1)), int(st.columnInt(2)));
-        o.path = folderFor(storePath) + QLatin1Char('/') + o.hash;
-        out << o;
+Result<int> addToBackup(sqlite3* copy, const QString& storePath) {
+    const QString folder = folderFor(storePath);
+    QStringList hashes;
+    {
+        sqlite3_stmt* st = nullptr;
+        if (sqlite3_prepare_v2(copy, "SELECT DISTINCT original FROM OriginalLinks", -1, &st,
+                               nullptr) != SQLITE_OK) {
+            sqlite3_finalize(st);
+            return 0; // a store from before originals links none
+        }
+        while (sqlite3_step(st) == SQLITE_ROW)
+            hashes << QString::fromLatin1(
+                reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
+        sqlite3_finalize(st);
     }
-    st.reset();
-    if (rc != SQLITE_DONE)
-        return failure(db, QStringLiteral("reading the originals"));
-    return out;
+    if (hashes.isEmpty())
+        return 0;
+    if (sqlite3_exec(copy,
+                     "CREATE TABLE BackupOriginals (hash TEXT PRIMARY KEY, bytes BLOB NOT NULL)",
+                     nullptr, nullptr, nullptr) != SQLITE_OK)
+        return Error::because(sqlite3_errcode(copy), QString::fromUtf8(sqlite3_errmsg(copy)),
+                              QStringLiteral("adding the originals"));
+    sqlite3_stmt* insert = nullptr;
+    sqlite3_prepare_v2(copy, "INSERT INTO BackupOriginals (hash, bytes) VALUES (?1, ?2)", -1,
+                       &insert, nullptr);
+    int added = 0;
+    for (const QString& hash : std::as_const(hashes)) {
+        const Result<QByteArray> bytes = read({hash, folder + QLatin1Char('/') + hash, {}});
+        if (!bytes.ok()) {
+            Console::log(QStringLiteral("%1: the backup holds the 100 x 100 picture only")
+                             .arg(bytes.error().message));
+            continue;
+        }
+        const QByteArray key = hash.toLatin1();
+        sqlite3_bind_text(insert, 1, key.constData(), int(key.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_blob(insert, 2, bytes.value().constData(), int(bytes.value().size()),
+                          SQLITE_STATIC);
+        const int rc = sqlite3_step(insert);
+        sqlite3_reset(insert);
+        if (rc != SQLITE_DONE) {
+            const Error e =
+                Error::because(sqlite3_errcode(copy), QString::fromUtf8(sqlite3_errmsg(copy)),
+                               QStringLiteral("adding the originals"));
+            sqlite3_finalize(insert);
+            return e;
+        }
+        ++added;
+    }
+    sqlite3_finalize(insert);
+    return added;
+}
+
+Result<int> takeFromBackup(sqlite3* copy, const QString& storePath) {
+    sqlite3_stmt* st = nullptr;
+    if (sqlite3_prepare_v2(copy, "SELECT hash, bytes FROM BackupOriginals", -1, &st, nullptr) !=
+        SQLITE_OK) {
+        sqlite3_finalize(st);
+        return 0; // a backup without originals
+    }
+    const QString folder = folderFor(storePath);
+    int written = 0;
+    while (sqlite3_step(st) == SQLITE_ROW) {
+        const QString hash =
+            QString::fromLatin1(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
+        const QByteArray bytes(static_cast<const char*>(sqlite3_column_blob(st, 1)),
+                               sqlite3_column_bytes(st, 1));
+        // A photo whose bytes do not match its name is damaged: it stays out of the folder.
+        if (hash.size() != 64 || hashOf(bytes) != hash) {
+            Console::log(
+                QStringLiteral("The original photo %1 in the backup is damaged").arg(hash));
+            continue;
+        }
+        if (const Result<void> put_ = put(folder, hash, bytes); !put_.ok()) {
+            sqlite3_finalize(st);
+            return put_.error();
+        }
+        ++written;
+    }
+    sqlite3_finalize(st);
+    // Out of the store again, and the space with them: snapshots copy the store whole.
+    if (sqlite3_exec(copy, "DROP TABLE BackupOriginals", nullptr, nullptr, nullptr) != SQLITE_OK ||
+        sqlite3_exec(copy, "VACUUM", nullptr, nullptr, nullptr) != SQLITE_OK)
+        return Error::because(sqlite3_errcode(copy), QString::fromUtf8(sqlite3_errmsg(copy)),
+                              QStringLiteral("taking the originals out of the backup"));
+    return written;
 }
 
 Result<int> collect(ManagedObjectContext& context, const QString& storePath,

@@ -22,6 +22,7 @@
 
 class ManagedObjectContext;
 class SqliteDatabase;
+struct sqlite3;
 
 namespace Originals {
 
@@ -60,8 +61,18 @@ std::optional<Original> of(ManagedObjectContext& context, const QByteArray& pict
 // names it, and the screens show the 100 x 100 picture instead.
 Result<QByteArray> read(const Original& original);
 
-// Every original the store links, for a backup: hash and file.
-Result<QList<Original>> linked(SqliteDatabase& db, const QString& storePath);
+// Writes bytes known by their hash into the folder, synced, unless a whole file of that name is
+// there already (a restore brings originals back this way).
+Result<void> put(const QString& folder, const QString& hash, const QByteArray& bytes);
+
+// A backup is one file: the originals its collection links travel inside it, in a table of
+// their own, and a restore puts them back into the folder before the table goes.
+// Adds them to the copy (an open database of the store at `storePath`); each one missing or
+// damaged is said on the console and left out. How many went in.
+Result<int> addToBackup(sqlite3* copy, const QString& storePath);
+// Takes them out of a copy about to become the store at `storePath`, into its folder, and drops
+// the table. How many were written.
+Result<int> takeFromBackup(sqlite3* copy, const QString& storePath);
 
 // Drops the links of pictures that neither the collection nor its journal hold any more, then
 // the files in the folder that no link names, in the store nor in any of `snapshots`. How many

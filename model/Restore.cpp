@@ -1,5 +1,6 @@
 #include "model/Restore.h"
 
+#include "model/Originals.h"
 #include "model/Seal.h"
 #include "model/Snapshots.h"
 #include "model/StoreFiles.h"
@@ -119,6 +120,12 @@ Result<std::shared_ptr<Candidate>> prepare(const QString& storePath, const QStri
         candidate->info_ = info.value();
         if (const Result<void> opened = Seal::unseal(db.handle()); !opened.ok())
             return opened.error();
+        // The photos a backup carries go into the folder before anything else changes: they are
+        // named by their content, so none is ever replaced by another.
+        if (const Result<int> taken = Originals::takeFromBackup(db.handle(), real); !taken.ok())
+            return failure(taken.error().code, QStringLiteral("Cannot bring back the original "
+                                                              "photos of %1: %2")
+                                                   .arg(file, taken.error().message));
     }
     // An older schema is brought up to date on the copy, never on the file given.
     if (candidate->info_.schemaVersion < StoreSchema::Version)

@@ -30,6 +30,7 @@ void AddViewController::SaveNewCardButtonClicked() {
     managedObjectContext = Application::viewContext();
     auto coin = managedObjectContext->insert<Coins>();
     CoinFormRules::applyAddForm(*coin, texts, CoinID);
+    keepOriginals(*managedObjectContext, texts);
     if (const auto error = managedObjectContext->save(); !error.ok())
         Console::log(error.error().description());
     Console::log(QStringLiteral("Back button Clicked"));

@@ -265,16 +265,69 @@ void CoinFormViewController::openCamera(bool front) {
 }
 
 void CoinFormViewController::imageTaken(const QImage& image) {
+    // The camera hands over a picture, not a file: its original is that picture as a JPEG.
     if (isFrontImage) {
         chosenFrontImage = image;
         FrontImage->setImage(image);
+        takeOriginal(FrontImage, ImageCoding::jpeg(image, 0.92));
         isFrontImage = false;
     } else if (isBackImage) {
         chosenBackImage = image;
         BackImage->setImage(image);
+        takeOriginal(BackImage, ImageCoding::jpeg(image, 0.92));
         isBackImage = false;
     }
     isFromCamera = false;
+}
+
+void CoinFormViewController::takeOriginal(ImageView* view, const QByteArray& bytes) {
+    SideOriginal& side = originalOf(view);
+    side = {};
+    if (!view->hasImage())
+        return;
+    const std::optional<QSize> size = ImageCoding::shownSize(bytes);
+    if (!size || !Originals::keepable(bytes.size(), *size)) {
+        present(AlertController::okAlert(
+            tr("Photo Too Large"),
+            tr("The photo is larger than 64 megapixels or 50 MB. The coin keeps its 100 x 100 "
+               "picture of it, without the photo itself.")));
+        return;
+    }
+    side = {view->image().cacheKey(), bytes, *size, std::nullopt};
+}
+
+void CoinFormViewController::noteOriginal(ImageView* view, const QByteArray& stored) {
+    SideOriginal& side = originalOf(view);
+    side = {};
+    if (!view->hasImage())
+        return;
+    if (auto o = Originals::of(*Application::viewContext(), stored))
+        side = {view->image().cacheKey(), {}, o->size, o};
+}
+
+void CoinFormViewController::keepOriginals(ManagedObjectContext& context,
+                                           const CoinFormTexts& texts) {
+    for (ImageView* view : {FrontImage, BackImage}) {
+        SideOriginal& side = originalOf(view);
+        const std::optional<QByteArray>& picture =
+            view == FrontImage ? texts.frontImage : texts.backImage;
+        // A picture changed or removed since leaves its original behind.
+        if (!picture || side.imageKey == 0 || view->image().cacheKey() != side.imageKey)
+            continue;
+        if (!side.kept) {
+            const Result<Originals::Original> kept =
+                Originals::keep(context, side.bytes, side.size);
+            if (!kept.ok()) {
+                Console::log(kept.error().description());
+                continue;
+            }
+            side.kept = kept.value();
+            side.bytes.clear();
+        }
+        if (const Result<void> linked = Originals::link(context, *picture, *side.kept);
+            !linked.ok())
+            Console::log(linked.error().description());
+    }
 }
 
 void CoinFormViewController::attach(bool front) {
@@ -298,13 +351,17 @@ void CoinFormViewController::documentPicked(const QString& path) {
     if (!file.open(QIODevice::ReadOnly))
         return;
     // Bytes that are no picture (a PDF, say) leave the view empty.
-    (isFrontImage ? FrontImage : BackImage)->setImage(ImageCoding::decode(file.readAll()));
+    const QByteArray bytes = file.readAll();
+    ImageView* view = isFrontImage ? FrontImage : BackImage;
+    view->setImage(ImageCoding::decode(bytes));
+    takeOriginal(view, bytes);
 }
 
 void CoinFormViewController::paste(ImageView* view) {
     const QImage image = QApplication::clipboard()->image();
     if (!image.isNull()) {
         view->setImage(image);
+        takeOriginal(view, ImageCoding::jpeg(image, 0.92));
         return;
     }
     present(AlertController::okAlert(QStringLiteral("Clipboard"),

@@ -1,6 +1,7 @@
 #pragma once
 // What the add and edit screens share: the form's fields and their input filters, the three
 // pickers fed by the reference lists, and the picture actions of both sides.
+#include "model/Originals.h"
 #include "model/Records.h"
 #include "platform/kit/PickerView.h"
 #include "platform/kit/TextInput.h"
@@ -70,9 +71,26 @@ protected:
     void rememberOpeningState();
     // A picture removed from the store at once is no change left to lose.
     void rememberShownPicture(bool front);
+    // The photo a view's picture was made from, kept with the coin when it is saved: bytes that
+    // are too large to keep are refused with a notice, and the coin keeps its 100 x 100 picture.
+    void takeOriginal(ImageView* view, const QByteArray& bytes);
+    // The original the store links to a picture the form shows, kept through a save.
+    void noteOriginal(ImageView* view, const QByteArray& stored);
+    // Before the coin is saved: each side's original kept (written and synced) and linked to
+    // the 100 x 100 picture the save stores, so that no saved coin lacks its original.
+    void keepOriginals(ManagedObjectContext& context, const CoinFormTexts& texts);
     QFormLayout* form_;
 
 private:
+    // A side's original, for as long as the view shows the picture made from it.
+    struct SideOriginal {
+        qint64 imageKey = 0;
+        QByteArray bytes; // a new photo, not kept yet
+        QSize size;
+        std::optional<Originals::Original> kept;
+    };
+    SideOriginal originals_[2];
+    SideOriginal& originalOf(ImageView* view) { return originals_[view == FrontImage ? 0 : 1]; }
     struct Shown {
         QStringList texts;
         QImage front, back;

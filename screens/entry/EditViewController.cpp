@@ -99,6 +99,8 @@ void EditViewController::fillForm() {
     BackImage->setImage(detailItem->hasValue(Coins::Attr::backImage)
                             ? ImageCoding::decode(detailItem->backImage())
                             : QImage());
+    noteOriginal(FrontImage, detailItem->frontImage());
+    noteOriginal(BackImage, detailItem->backImage());
 }
 
 void EditViewController::storeChanged() {
@@ -126,7 +128,9 @@ void EditViewController::SaveButtonClicked() {
     Results = fetchOrPrint<Coins>(*managedObjectContext, request).valueOr({});
     ResultsCount = int(Results.size());
     if (ResultsCount > 0) {
-        CoinFormRules::applyEditForm(*Results.first(), formTexts());
+        const CoinFormTexts texts = formTexts();
+        keepOriginals(*managedObjectContext, texts);
+        CoinFormRules::applyEditForm(*Results.first(), texts);
         managedObjectContext->save(); // a failure is dropped, as the screen always did
     }
     Console::log(CalledFromList);

@@ -2,6 +2,9 @@
 #include "model/PrintedFetch.h"
 
 #include "model/Journal.h"
+#include "model/Originals.h"
+#include "model/PersistentContainer.h"
+#include "model/Snapshots.h"
 #include "model/ValueHistory.h"
 #include "platform/core/Console.h"
 #include "platform/core/Fatal.h"
@@ -34,6 +37,15 @@ void LaunchHousekeeping::run() {
     // The journal keeps what an undo, a version or a coin put back may still need, no more.
     if (const Result<qint64> pruned = Journal::prune(context, ValueHistory::now()); !pruned.ok())
         Console::log(pruned.error().description());
+    // Then the photos nothing can bring back any more: not the collection, its journal, nor a
+    // snapshot.
+    const QString store = Application::delegate().persistentContainer().storePath();
+    QStringList snapshots;
+    for (const Snapshots::Entry& e : Snapshots::list(store))
+        snapshots << e.path;
+    if (const Result<int> collected = Originals::collect(context, store, snapshots);
+        !collected.ok())
+        Console::log(collected.error().description());
     bool repair = false;
     if (!userDefaults_.boolForKey(AboutHasBeenLaunchedBeforeFlag)) {
         userDefaults_.setBool(true, AboutHasBeenLaunchedBeforeFlag);
