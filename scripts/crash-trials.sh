@@ -18,7 +18,8 @@
 # the backup, whole. Undo trials: the undo of the whole import killed at a random moment; the
 # collection is then the one with the import or the one before it, whole. Writer trials: an import started while a restore runs and killed at a
 # random moment; it waited for the restore, so the store is the backup with a leading part of
-# the import's coins, as in the import trials.
+# the import's coins, as in the import trials. Photo trials: coins saved one by one with their
+# photos, killed at a random moment; no saved coin lacks its whole photo.
 # Exits 1 when any trial fails; the failed trial's files are kept and named.
 set -euo pipefail
 
@@ -27,6 +28,7 @@ BUILD=$(cd "${2:-build}" && pwd)
 ROOT=$(cd "$(dirname "$0")/.." && pwd)
 PELVANE="$BUILD/pelvane"
 CHECK="$BUILD/pelvane_integrity_check"
+PHOTOS="$BUILD/pelvane_photo_saves"
 SAMPLE="$ROOT/samples/Pelvane-sample.csv"
 export QT_QPA_PLATFORM=offscreen
 
@@ -34,9 +36,10 @@ WORK=$(mktemp -d "${TMPDIR:-/tmp}/pelvane-trials.XXXXXX")
 keep=0
 trap '[ $keep -eq 1 ] || rm -rf "$WORK"' EXIT
 # Copies, so that a build during a long run does not change the program under trial.
-cp "$PELVANE" "$CHECK" "$WORK/"
+cp "$PELVANE" "$CHECK" "$PHOTOS" "$WORK/"
 PELVANE="$WORK/pelvane"
 CHECK="$WORK/pelvane_integrity_check"
+PHOTOS="$WORK/pelvane_photo_saves"
 
 # Lines of an export keyed by the import's four keys (country, denomination, mint mark, year),
 # one "key<TAB>line" a line, sorted.
@@ -93,6 +96,10 @@ start=$(date +%s%N)
 undo_ms=$(( ($(date +%s%N) - start) / 1000000 + 20 ))
 
 # Starts a command, kills it with SIGKILL after a random part of `ms` milliseconds.
+start=$(date +%s%N)
+"$PHOTOS" "$WORK/timing-photos" 300 > /dev/null 2>&1
+photos_ms=$(( ($(date +%s%N) - start) / 1000000 + 20 ))
+
 kill_at_random() {
   local ms=$1; shift
   "$@" > /dev/null 2>&1 &
@@ -238,9 +245,23 @@ for ((t = 1; t <= TRIALS; t++)); do
   kill_at_random $((restore_ms + 200 + import_ms)) "$PELVANE" --data-dir "$dir" --import "$WORK/import.csv"
   wait "$restoring" || { echo "writer trial $t failed: the restore did not finish"; failed=$((failed + 1)); keep=1; }
   verdict writer "$dir" "$(check_import "$dir")"
+
+  # Coins saved with their photos, killed at a random moment: no saved coin lacks its photo.
+  dir="$WORK/photos-$t"
+  kill_at_random "$photos_ms" "$PHOTOS" "$dir" 300
+  problem=""
+  if [ ! -e "$dir/Pelvane.sqlite" ]; then
+    : # killed before the collection was made: nothing was saved
+  elif ! "$CHECK" "$dir/Pelvane.sqlite" > /dev/null 2>&1; then
+    problem="the collection cannot be read"
+  elif ! "$PHOTOS" --check "$dir" > "$dir/check" 2>&1; then
+    problem="a coin lacks its photo: $(head -1 "$dir/check")"
+  fi
+  mkdir -p "$dir"
+  verdict photos "$dir" "$problem"
 done
 
-echo "crash trials: $TRIALS imports, exports, backups, restores, undos and imports during a restore killed, $failed failed" \
+echo "crash trials: $TRIALS imports, exports, backups, restores, undos, imports during a restore and saves with photos killed, $failed failed" \
      "(new coins saved before the kill: $saved_total in all; import ${import_ms} ms, export ${export_ms} ms," \
-     "backup ${backup_ms} ms, restore ${restore_ms} ms, undo ${undo_ms} ms)"
+     "backup ${backup_ms} ms, restore ${restore_ms} ms, undo ${undo_ms} ms, photos ${photos_ms} ms)"
 [ "$failed" -eq 0 ]
