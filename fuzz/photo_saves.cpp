@@ -57,7 +57,12 @@ int main(int argc, char** argv) {
     for (int i = 0; i < args[1].toInt(); ++i) {
         // Each photo its own bytes, and each coin its own 100 x 100 picture.
         QImage mark = photo;
-        mark.setPixel(i % 1200, (i / 1200) % 900, qRgb(i % 256, 0, 0));
+        QPainter number(&mark);
+        QFont font;
+        font.setPixelSize(400);
+        number.setFont(font);
+        number.drawText(mark.rect(), Qt::AlignCenter, QString::number(i));
+        number.end();
         const QByteArray bytes = base + QByteArray::number(i);
         auto coin = ctx.insert<Coins>();
         coin->setDenomination(QStringLiteral("Trial %1").arg(i));

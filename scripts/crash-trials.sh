@@ -250,7 +250,7 @@ for ((t = 1; t <= TRIALS; t++)); do
   dir="$WORK/photos-$t"
   kill_at_random "$photos_ms" "$PHOTOS" "$dir" 300
   problem=""
-  if [ ! -e "$dir/Pelvane.sqlite" ]; then
+  if [ ! -s "$dir/Pelvane.sqlite" ]; then
     : # killed before the collection was made: nothing was saved
   elif ! "$CHECK" "$dir/Pelvane.sqlite" > /dev/null 2>&1; then
     problem="the collection cannot be read"
