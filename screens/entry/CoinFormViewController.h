@@ -70,6 +70,10 @@ protected:
     void rememberOpeningState();
     // A picture removed from the store at once is no change left to lose.
     void rememberShownPicture(bool front);
+    // Shows the original of the stored `picture` in `view` once it is decoded (off the UI
+    // thread, at twice the view's pixels); the view shows its 100 x 100 until then, and for
+    // good when the original is missing or damaged.
+    void showOriginal(ImageView* view, ManagedObjectContext& context, const QByteArray& picture);
     QFormLayout* form_;
 
 private:

@@ -99,6 +99,10 @@ void EditViewController::fillForm() {
     BackImage->setImage(detailItem->hasValue(Coins::Attr::backImage)
                             ? ImageCoding::decode(detailItem->backImage())
                             : QImage());
+    if (ManagedObjectContext* context = detailItem->managedObjectContext()) {
+        showOriginal(FrontImage, *context, detailItem->frontImage());
+        showOriginal(BackImage, *context, detailItem->backImage());
+    }
 }
 
 void EditViewController::storeChanged() {
