@@ -90,7 +90,7 @@ void ZoomViewController::viewDidLoad() {
         }
     } else {
         // The coin's sides, each only if it has a picture, front first.
-        const std::pair<Coins::Attr, QByteArray> pictures[] = {
+        const std::pair<int, QByteArray> pictures[] = {
             {Coins::Attr::frontImage, coin_->frontImage()},
             {Coins::Attr::backImage, coin_->backImage()}};
         for (int i = 0; i < 2; ++i) {
