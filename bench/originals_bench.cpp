@@ -51,12 +51,14 @@ int main(int argc, char** argv) {
         c->setCountry(QStringLiteral("Canada"));
         c->setMintMark(QStringLiteral("P"));
         c->setFrontImage(OriginalPhotos::kept(ctx, front));
-        c->setBackImage(back.isEmpty() ? BenchCollection::picture(1) : OriginalPhotos::kept(ctx, back));
+        c->setBackImage(back.isEmpty() ? BenchCollection::picture(1)
+                                       : OriginalPhotos::kept(ctx, back));
         return c;
     };
-    const CoinPtr twelve =
-        coin(QStringLiteral("1 Dollar"), OriginalPhotos::photo({4000, 3000}, 1), OriginalPhotos::photo({4000, 3000}, 2));
-    const CoinPtr twentyFour = coin(QStringLiteral("2 Dollars"), OriginalPhotos::photo({6000, 4000}, 3), {});
+    const CoinPtr twelve = coin(QStringLiteral("1 Dollar"), OriginalPhotos::photo({4000, 3000}, 1),
+                                OriginalPhotos::photo({4000, 3000}, 2));
+    const CoinPtr twentyFour =
+        coin(QStringLiteral("2 Dollars"), OriginalPhotos::photo({6000, 4000}, 3), {});
     if (!ctx.save().ok())
         return 1;
 
