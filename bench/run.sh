@@ -5,7 +5,7 @@ cd "$(dirname "$0")/.."
 cmake -S . -B build-bench -G Ninja -DCMAKE_BUILD_TYPE=Release -DPELVANE_TESTS=OFF >/dev/null
 cmake --build build-bench --target store_bench exchange_bench list_bench groups_bench valuation_bench \
   reference_bench import_screen_bench report_bench backup_bench statistics_bench list_table_bench \
-  scale_bench journal_bench >/dev/null
+  scale_bench journal_bench originals_bench >/dev/null
 export QT_QPA_PLATFORM=offscreen
 # The benchmarks' collections, and anything a stopped one leaves, go into one folder that goes
 # with the run.
@@ -25,3 +25,4 @@ export TMPDIR="$scratch"
 ./build-bench/bench/statistics_bench
 ./build-bench/bench/scale_bench
 ./build-bench/bench/journal_bench
+./build-bench/bench/originals_bench

@@ -35,6 +35,28 @@ QImage decode(const QByteArray& bytes) {
     return reader.read();
 }
 
+QImage decodeFitted(const QByteArray& bytes, const QSize& box) {
+    QByteArray shared = bytes; // QBuffer wants an array it may write; this one is only read
+    QBuffer buffer(&shared);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    reader.setAutoTransform(true);
+    const QSize stored = reader.size();
+    if (stored.isValid() && !saneSize(stored.width(), stored.height()))
+        return {};
+    reader.setAllocationLimit(int(MaxPixels * 4 / (1024 * 1024)) + 1);
+    if (stored.isValid() && box.isValid() && !box.isEmpty()) {
+        // The reader scales before it turns: the box is turned the other way first.
+        QSize storedBox = box;
+        if (reader.transformation() & QImageIOHandler::TransformationRotate90)
+            storedBox.transpose();
+        const QSize fitted = stored.scaled(storedBox, Qt::KeepAspectRatio).expandedTo({1, 1});
+        if (fitted.width() < stored.width())
+            reader.setScaledSize(fitted);
+    }
+    return reader.read();
+}
+
 namespace {
 struct JpegError {
     jpeg_error_mgr manager;

@@ -10,17 +10,25 @@ ImageView::ImageView(QWidget* parent)
 
 void ImageView::setImage(const QImage& image) {
     image_ = image;
+    shown_ = QImage();
+    ++generation_;
+    update();
+}
+
+void ImageView::setShownOriginal(const QImage& original) {
+    shown_ = original;
     update();
 }
 
 void ImageView::paintEvent(QPaintEvent*) {
-    if (image_.isNull())
+    const QImage& picture = shown_.isNull() ? image_ : shown_;
+    if (picture.isNull())
         return;
     QPainter p(this);
     p.setRenderHint(QPainter::SmoothPixmapTransform);
-    const QSize s = image_.size().scaled(size() - QSize(6, 6), Qt::KeepAspectRatio);
+    const QSize s = picture.size().scaled(size() - QSize(6, 6), Qt::KeepAspectRatio);
     const QRect target(QPoint((width() - s.width()) / 2, (height() - s.height()) / 2), s);
-    p.drawImage(target, image_);
+    p.drawImage(target, picture);
 }
 
 ActivityIndicator::ActivityIndicator(QWidget* parent)

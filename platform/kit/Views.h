@@ -9,15 +9,24 @@ class ImageView : public QWidget {
     Q_OBJECT
 public:
     explicit ImageView(QWidget* parent = nullptr);
+    // The picture the view holds (and a form saves). Setting it drops the shown original.
     QImage image() const { return image_; }
     void setImage(const QImage& image);
     bool hasImage() const { return !image_.isNull(); }
+    // A larger picture shown in place of image(), in its own proportions, until the next
+    // setImage(): the photo the held picture was made from.
+    void setShownOriginal(const QImage& original);
+    QImage shownOriginal() const { return shown_; }
+    // Counts the setImage() calls, so that a picture decoded late can tell whether it still
+    // belongs to what the view holds.
+    int generation() const { return generation_; }
 
 protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
-    QImage image_;
+    QImage image_, shown_;
+    int generation_ = 0;
 };
 
 class ActivityIndicator : public QWidget {

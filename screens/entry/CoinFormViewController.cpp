@@ -9,6 +9,7 @@
 #include "platform/kit/FileDrop.h"
 #include "platform/kit/Symbols.h"
 #include "screens/Application.h"
+#include "screens/entry/OriginalPictures.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -437,4 +438,21 @@ void CoinFormViewController::showTexts(const CoinFormTexts& t) {
     PeriodTextField->setText(t.period);
     DesignerTextField->setText(t.designer);
     NotesTextView->setText(t.notes);
+}
+
+void CoinFormViewController::showOriginal(ImageView* view, ManagedObjectContext& context,
+                                          const QByteArray& picture) {
+    if (picture.isEmpty())
+        return;
+    const std::optional<Originals::Original> original = Originals::of(context, picture);
+    if (!original)
+        return;
+    // A picture set in the meantime (another coin, a pasted photo) is not covered over.
+    const int generation = view->generation();
+    const QSize box = (QSizeF(view->size()) * view->devicePixelRatioF() * 2).toSize();
+    OriginalPictures::load(view, *original, {box},
+                           [view, generation](int, const QList<QImage>& pictures) {
+                               if (view->generation() == generation)
+                                   view->setShownOriginal(pictures.first());
+                           });
 }

@@ -79,6 +79,10 @@ protected:
     // Before the coin is saved: each side's original kept (written and synced) and linked to
     // the 100 x 100 picture the save stores, so that no saved coin lacks its original.
     void keepOriginals(ManagedObjectContext& context, const CoinFormTexts& texts);
+    // Shows the original of the stored `picture` in `view` once it is decoded (off the UI
+    // thread, at twice the view's pixels); the view shows its 100 x 100 until then, and for
+    // good when the original is missing or damaged.
+    void showOriginal(ImageView* view, ManagedObjectContext& context, const QByteArray& picture);
     QFormLayout* form_;
 
 private:

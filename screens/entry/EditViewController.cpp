@@ -101,6 +101,10 @@ void EditViewController::fillForm() {
                             : QImage());
     noteOriginal(FrontImage, detailItem->frontImage());
     noteOriginal(BackImage, detailItem->backImage());
+    if (ManagedObjectContext* context = detailItem->managedObjectContext()) {
+        showOriginal(FrontImage, *context, detailItem->frontImage());
+        showOriginal(BackImage, *context, detailItem->backImage());
+    }
 }
 
 void EditViewController::storeChanged() {

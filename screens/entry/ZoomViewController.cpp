@@ -1,13 +1,17 @@
 #include "screens/entry/ZoomViewController.h"
 
 #include "platform/Platform.h"
+#include "platform/core/Console.h"
+#include "platform/graphics/ImageCoding.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
 #include "screens/ProcessState.h"
 #include "screens/TextMessageAlert.h"
+#include "screens/entry/OriginalPictures.h"
 
 #include <QGestureEvent>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPinchGesture>
@@ -19,14 +23,49 @@ ZoomCollectionViewCell::ZoomCollectionViewCell(QWidget* parent)
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
-void ZoomCollectionViewCell::paintEvent(QPaintEvent*) {
+void ZoomCollectionViewCell::setOriginal(const QList<QImage>& sizes) {
+    original_ = sizes;
+    update();
+}
+
+QSize ZoomCollectionViewCell::pictureSize() const {
+    return original_.isEmpty() ? ZoomImage.size() : original_.first().size();
+}
+
+void ZoomCollectionViewCell::paintEvent(QPaintEvent* event) {
     QPainter p(this);
     p.setRenderHint(QPainter::SmoothPixmapTransform);
     p.setRenderHint(QPainter::Antialiasing);
+    const QRect inner = rect().adjusted(2, 2, -2, -2);
     QPainterPath clip;
-    clip.addRoundedRect(rect().adjusted(2, 2, -2, -2), 10, 10);
+    clip.addRoundedRect(inner, 10, 10);
     p.setClipPath(clip);
-    p.drawImage(rect().adjusted(2, 2, -2, -2), ZoomImage);
+    if (original_.isEmpty()) {
+        p.drawImage(inner, ZoomImage);
+    } else {
+        // In its own proportions, centred in the square.
+        const QSizeF fitted =
+            QSizeF(original_.first().size()).scaled(inner.size(), Qt::KeepAspectRatio);
+        const QRectF target(inner.x() + (inner.width() - fitted.width()) / 2,
+                            inner.y() + (inner.height() - fitted.height()) / 2, fitted.width(),
+                            fitted.height());
+        // The smallest size with at least the screen's pixels, and of it only the part on
+        // screen: a pan or zoom step costs about one screenful of drawing however large the
+        // photo is or how far it is zoomed in.
+        const qreal needed = target.width() * devicePixelRatioF();
+        const QImage* picture = &original_.first();
+        for (const QImage& size : original_)
+            if (size.width() >= needed)
+                picture = &size;
+        const QRectF part = target.intersected(QRectF(event->rect()));
+        if (!part.isEmpty()) {
+            const qreal sx = picture->width() / target.width();
+            const qreal sy = picture->height() / target.height();
+            p.drawImage(part, *picture,
+                        QRectF((part.x() - target.x()) * sx, (part.y() - target.y()) * sy,
+                               part.width() * sx, part.height() * sy));
+        }
+    }
     p.setClipping(false);
     p.setPen(QPen(Styling::visibleBorder(Qt::black), 2));
     p.drawRoundedRect(rect().adjusted(1, 1, -1, -1), 10, 10);
@@ -40,10 +79,33 @@ ZoomViewController::ZoomViewController(QWidget* parent)
 
 void ZoomViewController::viewDidLoad() {
     setTitle(QStringLiteral("Zoom"));
-    for (const QImage& image : ZoomImages) {
-        auto* cell = new ZoomCollectionViewCell(ZoomCollectionView);
-        cell->ZoomImage = image;
-        cells.append(cell);
+    ManagedObjectContext* context = coin_ ? coin_->managedObjectContext() : nullptr;
+    if (!context) {
+        sides_[0].stored = ShareFrontImageData;
+        sides_[1].stored = ShareBackImageData;
+        for (const QImage& image : ZoomImages) {
+            auto* cell = new ZoomCollectionViewCell(ZoomCollectionView);
+            cell->ZoomImage = image;
+            cells.append(cell);
+        }
+    } else {
+        // The coin's sides, each only if it has a picture, front first.
+        const std::pair<int, QByteArray> pictures[] = {
+            {Coins::Attr::frontImage, coin_->frontImage()},
+            {Coins::Attr::backImage, coin_->backImage()}};
+        for (int i = 0; i < 2; ++i) {
+            sides_[i].stored = pictures[i].second;
+            if (!coin_->hasValue(pictures[i].first))
+                continue;
+            auto* cell = new ZoomCollectionViewCell(ZoomCollectionView);
+            cell->setAccessibleName(i == 0 ? tr("Front picture") : tr("Back picture"));
+            cell->ZoomImage = ImageCoding::decode(pictures[i].second);
+            cells.append(cell);
+            if (!pictures[i].second.isEmpty())
+                sides_[i].original = Originals::of(*context, pictures[i].second);
+            if (sides_[i].original)
+                pending_.append({cell, *sides_[i].original});
+        }
     }
     navigationItem().rightItems = {{QStringLiteral("Share"), [this] { shareButtonClicked(); },
                                     nullptr, QStringLiteral("ShareButton")}};
@@ -52,7 +114,23 @@ void ZoomViewController::viewDidLoad() {
 }
 
 int ZoomViewController::numberOfItems() const {
-    return int(ZoomImages.size());
+    return int(cells.size());
+}
+
+void ZoomViewController::loadOriginal(ZoomCollectionViewCell* cell,
+                                      const Originals::Original& original) {
+    // First the photo fitted to its place on screen, quickly (libjpeg's scaled decode), then
+    // at full resolution with its halvings down to that place's size, for the zoom.
+    const QSize fit = (QSizeF(cell->size() - QSize(4, 4)) * devicePixelRatioF()).toSize();
+    OriginalPictures::load(
+        cell, original, {fit, QSize()},
+        [cell](int index, const QList<QImage>& sizes) {
+            if (index == 1 || !cell->showsOriginal())
+                cell->setOriginal(sizes);
+        },
+        [fit](int index, const QImage& picture) {
+            return index == 0 ? QList<QImage>{picture} : OriginalPictures::halvings(picture, fit);
+        });
 }
 
 void ZoomViewController::layoutCells() {
@@ -108,6 +186,13 @@ void ZoomViewController::mouseMoveEvent(QMouseEvent* event) {
 void ZoomViewController::resizeEvent(QResizeEvent* event) {
     ViewController::resizeEvent(event);
     layoutCells();
+    // The originals are decoded for the size they are shown at, known once the screen is laid
+    // out in its window.
+    if (parentWidget() && !pending_.isEmpty()) {
+        for (const auto& [cell, original] : std::as_const(pending_))
+            loadOriginal(cell, original);
+        pending_.clear();
+    }
 }
 
 void ZoomViewController::shareButtonClicked() {
@@ -115,8 +200,21 @@ void ZoomViewController::shareButtonClicked() {
         TextMessageAlert::presentLater(this);
         return;
     }
-    ShareItem front, back;
-    front.data = ShareFrontImageData;
-    back.data = ShareBackImageData;
-    Platform::shareSheet().present({front, back}, {}, this);
+    // The original photo's file where a side has one, else the stored picture.
+    QList<ShareItem> items;
+    for (const Side& side : sides_) {
+        ShareItem item;
+        item.data = side.stored;
+        if (side.original) {
+            const Result<QByteArray> bytes = Originals::read(*side.original);
+            if (bytes.ok()) {
+                item.data = bytes.value();
+                item.url = QUrl::fromLocalFile(side.original->path);
+            } else {
+                Console::log(bytes.error().description());
+            }
+        }
+        items << item;
+    }
+    Platform::shareSheet().present(items, {}, this);
 }
