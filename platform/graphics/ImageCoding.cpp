@@ -288,6 +288,27 @@ std::optional<QSize> shownSize(const QByteArray& bytes) {
     return size;
 }
 
+QImage decodeToFit(const QByteArray& bytes, const QSize& most) {
+    QByteArray shared = bytes;
+    QBuffer buffer(&shared);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    reader.setAutoTransform(true);
+    const QSize stored = reader.size();
+    if (!stored.isValid() || !saneSize(stored.width(), stored.height()) || most.isEmpty())
+        return {};
+    const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    const QSize shown = turned ? stored.transposed() : stored;
+    const QSize wanted = shown.scaled(most, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    // The scaled size is the file's own, before its turn.
+    if (wanted.width() < shown.width() && wanted.height() < shown.height())
+        reader.setScaledSize(turned ? wanted.transposed() : wanted);
+    // Smooth scaling from the reduced decode to the exact size.
+    reader.setQuality(90);
+    reader.setAllocationLimit(int(MaxPixels * 4 / (1024 * 1024)) + 1);
+    return reader.read();
+}
+
 std::optional<QSize> plainJpegSize(const QByteArray& bytes) {
     if (!bytes.startsWith("\xFF\xD8"))
         return std::nullopt;
