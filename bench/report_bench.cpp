@@ -1,16 +1,64 @@
 // Report figures: the PDF report of a breakdown list of 1,000 and of 4,000 coins with two
 // pictures each, from the share action to the closed file, with the peak memory of the larger
 // one; the report of a coin whose notes are a megabyte without a space; the print screen's
-// listing of 1,000 coins. One figure per line.
+// listing of 1,000 coins; the report of 1,000 coins whose pictures are drawn from their
+// originals. One figure per line.
 #include "BenchProgram.h"
 #include "ProcessMemory.h"
+#include "model/Originals.h"
+#include "platform/graphics/ImageCoding.h"
 #include "screens/groups/DenominationBreakdownTableViewController.h"
 #include "screens/groups/PrintCoinsViewController.h"
+
+#include <QImageWriter>
 
 using namespace BenchCollection;
 using namespace ProcessMemory;
 
 namespace {
+// A photo as a camera gives it: 3000 x 2000, busy enough that its JPEG is of a usual size.
+QByteArray photo(int seed) {
+    QImage image(3000, 2000, QImage::Format_RGB32);
+    image.fill(QColor::fromHsv(seed * 7 % 360, 90, 190));
+    QRandomGenerator rng{quint32(seed)};
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (int i = 0; i < 300; ++i) {
+        painter.setPen(QPen(QColor::fromRgb(rng.generate()), rng.bounded(1, 12)));
+        painter.drawEllipse(rng.bounded(3000), rng.bounded(2000), rng.bounded(400),
+                            rng.bounded(400));
+    }
+    painter.end();
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, "jpeg");
+    writer.setQuality(90);
+    if (!writer.write(image))
+        std::exit(1);
+    return bytes;
+}
+
+// 1,000 coins whose front and back pictures have originals: 50 photos, each kept once.
+void buildOriginals(ManagedObjectContext& context) {
+    std::vector<QByteArray> pictures;
+    for (int i = 0; i < 50; ++i) {
+        const QByteArray bytes = photo(i);
+        const Result<Originals::Original> kept =
+            Originals::keep(context, bytes, *ImageCoding::shownSize(bytes));
+        const QByteArray picture = ImageCoding::coinPictureData(ImageCoding::decode(bytes));
+        if (!kept.ok() || !Originals::link(context, picture, kept.value()).ok())
+            std::exit(1);
+        pictures.push_back(picture);
+    }
+    for (int i = 0; i < 1000; ++i) {
+        auto coin = context.insert<Coins>();
+        fill(*coin, i, pictures);
+        coin->setBackImage(pictures[std::size_t(i * 7 + 3) % pictures.size()]);
+        coin->setDenomination(QStringLiteral("Photo"));
+    }
+}
+
 // Two groups, each coin with a front and a back picture of its own.
 void buildGroups(const QString& dir) {
     PersistentContainer::setDefaultDirectory(dir);
@@ -32,6 +80,7 @@ void buildGroups(const QString& dir) {
     for (qsizetype i = 0; i < notes.size(); ++i)
         notes[i] = QLatin1Char("abcdefghijklmnopqrstuvwxyz0123456789"[i % 36]);
     coin->setNotes(notes);
+    buildOriginals(*c->viewContext());
     if (!c->viewContext()->save().ok())
         std::exit(1);
 }
@@ -78,6 +127,11 @@ int main(int argc, char** argv) {
 
     report(program, "Notes");
     print("report: notes of 1 MB without spaces", report(program, "Notes"), "s", "<= 1");
+
+    print("report: pdf of 1,000 coins with originals", report(program, "Photo"), "s", "<= 2");
+    const QFileInfo written(dir + QStringLiteral("/Documents/CoinListByDenomination.pdf"));
+    if (written.exists())
+        print("report: size of the pdf with originals", double(written.size()) / 1e6, "MB", "-");
 
     auto* listing = new PrintCoinsViewController;
     listing->setGroup(CoinGroup{GroupKind::Denomination, QStringLiteral("Dime"), true});

@@ -52,7 +52,6 @@ Result<void> PrintController::print(const QTextDocument& document, QPrinter& pri
     const QRectF printable = printer.pageRect(QPrinter::Point);
     PageRenderer renderer(*copy, QRectF(QPointF(0, 0), paper.size()),
                           printable.translated(-paper.topLeft()));
-    const int pages = renderer.numberOfPages();
     const int copies = printer.supportsMultipleCopies() ? 1 : printer.copyCount();
     QPainter painter;
     if (!painter.begin(&printer)) {
@@ -61,11 +60,10 @@ Result<void> PrintController::print(const QTextDocument& document, QPrinter& pri
     }
     const QRectF bounds(QPointF(0, 0), printer.paperRect(QPrinter::DevicePixel).size());
     for (int copy = 0; copy < copies; ++copy)
-        for (int page = 0; page < pages; ++page) {
+        renderer.drawPages(painter, bounds, [&](int page) {
             if (copy > 0 || page > 0)
                 printer.newPage();
-            renderer.drawPage(painter, page, bounds);
-        }
+        });
     if (!painter.end() || printer.printerState() == QPrinter::Error) {
         return Error::because(ErrorCode::CantOpen, QStringLiteral("The printer reported an error."),
                               QStringLiteral("printing"));

@@ -1,6 +1,7 @@
 #include "reports/CoinDocument.h"
 
 #include "model/Numbers.h"
+#include "model/Originals.h"
 #include "platform/core/Console.h"
 #include "platform/core/Files.h"
 #include "platform/graphics/ImageCoding.h"
@@ -21,11 +22,22 @@ QString shortest(double number) {
 }
 } // namespace
 
-CoinDocument::CoinDocument(qreal pictureWidth, Medium medium)
+CoinDocument::OriginalOf CoinDocument::originalsIn(ManagedObjectContext& context) {
+    return [&context](const QByteArray& picture) -> std::optional<PageOriginal> {
+        const std::optional<Originals::Original> original = Originals::of(context, picture);
+        if (!original)
+            return std::nullopt;
+        return PageOriginal{original->path, original->size,
+                            [o = *original] { return Originals::read(o); }};
+    };
+}
+
+CoinDocument::CoinDocument(qreal pictureWidth, Medium medium, OriginalOf originalOf)
     : document_(std::make_unique<QTextDocument>())
     , cursor_(document_.get())
     , pictureWidth_(pictureWidth)
-    , medium_(medium) {
+    , medium_(medium)
+    , originalOf_(std::move(originalOf)) {
     document_->setDefaultFont(blockFont());
     document_->setUndoRedoEnabled(false);
     black_.setForeground(Qt::black);
@@ -96,6 +108,12 @@ void CoinDocument::appendPicture(const QByteArray& bytes) {
             picture.name = QStringLiteral("coin-picture-%1").arg(pictures_.size());
             picture.height = pictureWidth_ * size->height() / size->width();
             document_->addResource(QTextDocument::ImageResource, QUrl(picture.name), bytes);
+            if (originalOf_)
+                if (std::optional<PageOriginal> original = originalOf_(bytes)) {
+                    picture.original = QStringLiteral("coin-original-%1").arg(pictures_.size());
+                    document_->addResource(QTextDocument::UserResource, QUrl(picture.original),
+                                           QVariant::fromValue(std::move(*original)));
+                }
         }
         found = pictures_.insert(bytes, picture);
     }
@@ -106,6 +124,8 @@ void CoinDocument::appendPicture(const QByteArray& bytes) {
     const qreal scale = medium_ == Medium::Paper ? kPixelsPerPoint : 1.0;
     image.setWidth(pictureWidth_ * scale);
     image.setHeight(found->height * scale);
+    if (!found->original.isEmpty())
+        image.setProperty(PageRenderer::OriginalProperty, found->original);
     cursor_.insertImage(image);
     append(QStringLiteral("   "));
 }
@@ -121,9 +141,10 @@ std::unique_ptr<QTextDocument> CoinDocument::take() {
     return std::move(document_);
 }
 
-std::unique_ptr<QTextDocument>
-CoinDocument::report(const QString& title, const QList<CoinPtr>& coins, qreal pictureWidth) {
-    CoinDocument d(pictureWidth, Medium::Paper);
+std::unique_ptr<QTextDocument> CoinDocument::report(const QString& title,
+                                                    const QList<CoinPtr>& coins, qreal pictureWidth,
+                                                    const OriginalOf& originalOf) {
+    CoinDocument d(pictureWidth, Medium::Paper, originalOf);
     d.measurePictures(coins);
     d.appendTitle(title, 21);
     using A = Coins::Attr;
@@ -167,8 +188,9 @@ QString CoinDocument::summaryLine(const Coins& coin) {
 
 std::unique_ptr<QTextDocument> CoinDocument::listing(const QString& title,
                                                      const QList<CoinPtr>& coins,
-                                                     const Lines& lines, qreal pictureWidth) {
-    CoinDocument d(pictureWidth, Medium::Screen);
+                                                     const Lines& lines, qreal pictureWidth,
+                                                     const OriginalOf& originalOf) {
+    CoinDocument d(pictureWidth, Medium::Screen, originalOf);
     d.measurePictures(coins);
     d.appendTitle(title, 17);
     for (const CoinPtr& c : coins) {

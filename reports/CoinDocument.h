@@ -4,6 +4,7 @@
 // one width; they differ in the title's size and in the lines of each coin.
 #include "model/Records.h"
 #include "platform/core/Error.h"
+#include "platform/graphics/PageRenderer.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -14,6 +15,7 @@
 #include <memory>
 #include <optional>
 
+class ManagedObjectContext;
 class QTextDocument;
 
 class CoinDocument {
@@ -21,8 +23,16 @@ public:
     // Where the document is seen: a page laid out in points (the PDF report), or a view on the
     // screen (the print listing), where a picture as wide as asked is that many pixels wide.
     enum class Medium { Paper, Screen };
-    // `pictureWidth`: the displayed width of every picture, in the medium's unit.
-    CoinDocument(qreal pictureWidth, Medium medium);
+    // The original a stored picture was made from, drawn in its place on paper; none for a
+    // picture without one.
+    using OriginalOf = std::function<std::optional<PageOriginal>(const QByteArray& picture)>;
+    // The originals the context's store links, read from their files as the pages are drawn.
+    static OriginalOf originalsIn(ManagedObjectContext& context);
+
+    // `pictureWidth`: the displayed width of every picture, in the medium's unit. A picture
+    // with an original (`originalOf`) takes the same room, and is drawn from its original on
+    // paper.
+    CoinDocument(qreal pictureWidth, Medium medium, OriginalOf originalOf = {});
     ~CoinDocument();
     CoinDocument(const CoinDocument&) = delete;
     CoinDocument& operator=(const CoinDocument&) = delete;
@@ -43,11 +53,13 @@ public:
 
     // The PDF report: the eighteen lines of every coin.
     static std::unique_ptr<QTextDocument> report(const QString& title, const QList<CoinPtr>& coins,
-                                                 qreal pictureWidth);
+                                                 qreal pictureWidth,
+                                                 const OriginalOf& originalOf = {});
     // The print listing, shown on the screen: each coin's `lines` and its summary line.
     using Lines = std::function<void(CoinDocument&, const Coins&)>;
     static std::unique_ptr<QTextDocument> listing(const QString& title, const QList<CoinPtr>& coins,
-                                                  const Lines& lines, qreal pictureWidth);
+                                                  const Lines& lines, qreal pictureWidth,
+                                                  const OriginalOf& originalOf = {});
     // The summary line of a coin in the print listing.
     static QString summaryLine(const Coins& coin);
 
@@ -72,11 +84,13 @@ private:
     QTextCharFormat black_;
     qreal pictureWidth_;
     Medium medium_;
-    // The resource name of each distinct picture, empty for bytes that do not decode, and its
-    // displayed height.
+    OriginalOf originalOf_;
+    // The resource name of each distinct picture, empty for bytes that do not decode, its
+    // displayed height and the resource name of its original, if it has one.
     struct Picture {
         QString name;
         qreal height = 0;
+        QString original;
     };
     QHash<QByteArray, Picture> pictures_;
     QHash<QByteArray, std::optional<QSize>> measured_;

@@ -104,15 +104,18 @@ FetchRequest GroupReport::listingRequest(const CoinGroup& group) {
     return request;
 }
 
-std::unique_ptr<QTextDocument>
-GroupReport::report(const CoinGroup& group, const QList<CoinPtr>& coins, qreal pictureWidth) {
+std::unique_ptr<QTextDocument> GroupReport::report(const CoinGroup& group,
+                                                   const QList<CoinPtr>& coins, qreal pictureWidth,
+                                                   const CoinDocument::OriginalOf& originalOf) {
     const GroupReport& r = of(group);
-    return CoinDocument::report(r.title + r.titleValue(*coins.first()), coins, pictureWidth);
+    return CoinDocument::report(r.title + r.titleValue(*coins.first()), coins, pictureWidth,
+                                originalOf);
 }
 
-std::unique_ptr<QTextDocument>
-GroupReport::listing(const CoinGroup& group, const QList<CoinPtr>& coins, qreal pictureWidth) {
+std::unique_ptr<QTextDocument> GroupReport::listing(const CoinGroup& group,
+                                                    const QList<CoinPtr>& coins, qreal pictureWidth,
+                                                    const CoinDocument::OriginalOf& originalOf) {
     const GroupReport& r = of(group);
     return CoinDocument::listing(r.title + r.titleValue(*coins.first()), coins, r.listingLines,
-                                 pictureWidth);
+                                 pictureWidth, originalOf);
 }

@@ -4,11 +4,11 @@
 // breakdown screens, the print screen and the command line all go through it.
 #include "model/Predicate.h"
 #include "model/Records.h"
+#include "reports/CoinDocument.h"
 #include "reports/CoinGroup.h"
 
 #include <memory>
 
-class CoinDocument;
 class QTextDocument;
 
 struct GroupReport {
@@ -33,10 +33,14 @@ struct GroupReport {
     static FetchRequest listRequest(const CoinGroup& group);
     // The print listing's coins: by denomination alone, in the group's direction.
     static FetchRequest listingRequest(const CoinGroup& group);
-    // The PDF report of `coins`, titled after the first; pictures `pictureWidth` points wide.
+    // The PDF report of `coins`, titled after the first; pictures `pictureWidth` points wide,
+    // drawn from their originals where `originalOf` names one.
     static std::unique_ptr<QTextDocument> report(const CoinGroup& group,
-                                                 const QList<CoinPtr>& coins, qreal pictureWidth);
-    // The print listing of `coins`, shown on a screen; pictures `pictureWidth` pixels wide.
+                                                 const QList<CoinPtr>& coins, qreal pictureWidth,
+                                                 const CoinDocument::OriginalOf& originalOf = {});
+    // The print listing of `coins`, shown on a screen; pictures `pictureWidth` pixels wide, and
+    // printed from their originals where `originalOf` names one.
     static std::unique_ptr<QTextDocument> listing(const CoinGroup& group,
-                                                  const QList<CoinPtr>& coins, qreal pictureWidth);
+                                                  const QList<CoinPtr>& coins, qreal pictureWidth,
+                                                  const CoinDocument::OriginalOf& originalOf = {});
 };

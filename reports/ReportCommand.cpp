@@ -60,7 +60,8 @@ int run(ManagedObjectContext& context, const QString& collection, const QStringL
                      qPrintable(path));
         return 1;
     }
-    const auto document = GroupReport::report(group, coins, kScreenWidth / 6);
+    const auto document =
+        GroupReport::report(group, coins, kScreenWidth / 6, CoinDocument::originalsIn(context));
     if (auto error = context.takeReadError())
         return unreadable(*error);
     // Said as the breakdown's share button says it, but a failure goes to stderr.

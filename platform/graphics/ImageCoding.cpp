@@ -35,28 +35,6 @@ QImage decode(const QByteArray& bytes) {
     return reader.read();
 }
 
-QImage decodeFitted(const QByteArray& bytes, const QSize& box) {
-    QByteArray shared = bytes; // QBuffer wants an array it may write; this one is only read
-    QBuffer buffer(&shared);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
-    reader.setAutoTransform(true);
-    const QSize stored = reader.size();
-    if (stored.isValid() && !saneSize(stored.width(), stored.height()))
-        return {};
-    reader.setAllocationLimit(int(MaxPixels * 4 / (1024 * 1024)) + 1);
-    if (stored.isValid() && box.isValid() && !box.isEmpty()) {
-        // The reader scales before it turns: the box is turned the other way first.
-        QSize storedBox = box;
-        if (reader.transformation() & QImageIOHandler::TransformationRotate90)
-            storedBox.transpose();
-        const QSize fitted = stored.scaled(storedBox, Qt::KeepAspectRatio).expandedTo({1, 1});
-        if (fitted.width() < stored.width())
-            reader.setScaledSize(fitted);
-    }
-    return reader.read();
-}
-
 namespace {
 struct JpegError {
     jpeg_error_mgr manager;
@@ -308,6 +286,29 @@ std::optional<QSize> shownSize(const QByteArray& bytes) {
     if (reader.transformation() & QImageIOHandler::TransformationRotate90)
         size.transpose();
     return size;
+}
+
+QImage decodeToFit(const QByteArray& bytes, const QSize& most) {
+    if (!most.isValid() || most.isEmpty())
+        return decodeToFit(bytes, QSize(MaxSide, MaxSide));
+    QByteArray shared = bytes;
+    QBuffer buffer(&shared);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    reader.setAutoTransform(true);
+    const QSize stored = reader.size();
+    if (!stored.isValid() || !saneSize(stored.width(), stored.height()))
+        return {};
+    const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    const QSize shown = turned ? stored.transposed() : stored;
+    const QSize wanted = shown.scaled(most, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    // The scaled size is the file's own, before its turn.
+    if (wanted.width() < shown.width() && wanted.height() < shown.height())
+        reader.setScaledSize(turned ? wanted.transposed() : wanted);
+    // Smooth scaling from the reduced decode to the exact size.
+    reader.setQuality(90);
+    reader.setAllocationLimit(int(MaxPixels * 4 / (1024 * 1024)) + 1);
+    return reader.read();
 }
 
 std::optional<QSize> plainJpegSize(const QByteArray& bytes) {

@@ -26,10 +26,11 @@ std::optional<QSize> plainJpegSize(const QByteArray& bytes);
 // The size a photo is shown at (after its Exif turn), read from its header alone; nothing when
 // the bytes are no picture.
 std::optional<QSize> shownSize(const QByteArray& bytes);
-// The picture as shown (after its Exif turn), decoded at a reduced scale that still covers
-// `box` in one side and fits it in the other: a JPEG is then drawn by libjpeg's scaled DCT,
-// a fraction of the full work. An invalid box gives the full size. Bounded as decode() is.
-QImage decodeFitted(const QByteArray& bytes, const QSize& box);
+// The picture as shown (after its Exif turn), no larger than `most` and keeping its shape, never
+// enlarged; a JPEG is decoded at 1/2, 1/4 or 1/8 of its size where that is enough, so a large
+// photo costs a fraction of a full decode. An invalid or empty `most` gives the full size. A null
+// image as decode() gives one.
+QImage decodeToFit(const QByteArray& bytes, const QSize& most);
 // The picture drawn onto a 100 x 100 canvas, stretched to the whole square whatever its shape.
 QImage redrawnForStorage(const QImage& image);
 // JPEG at a quality from 0 to 1; empty when encoding fails.

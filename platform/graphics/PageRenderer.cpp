@@ -1,5 +1,6 @@
 #include "platform/graphics/PageRenderer.h"
 
+#include "platform/core/Console.h"
 #include "platform/graphics/ImageCoding.h"
 #include "platform/graphics/PdfStandIns.h"
 
@@ -22,6 +23,7 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <cmath>
 #include <condition_variable>
 #include <map>
 #include <mutex>
@@ -88,45 +90,63 @@ public:
                     const QTextFormat& format) override {
         const Ready ready = decoded(position);
         const QImage& image = ready.image;
+        // An original keeps its own shape, centred in the box its picture fills.
+        QRectF target = rect;
+        if (!ready.shape.isEmpty()) {
+            const QSizeF fitted = ready.shape.scaled(rect.size(), Qt::KeepAspectRatio);
+            target = QRectF(rect.center() - QPointF(fitted.width(), fitted.height()) / 2, fitted);
+        }
         if (ready.plainSize.isValid()) {
-            const QImage& standIn = standInFor(ready.bytes, ready.plainSize);
-            painter->drawImage(rect, standIn, standIn.rect());
+            const QImage& standIn = standInFor(ready.key, ready.bytes, ready.plainSize);
+            painter->drawImage(target, standIn, standIn.rect());
         } else if (image.isNull()) {
             m_qt->drawObject(painter, rect, document, position, format);
         } else if (QThread::currentThread() == qApp->thread()) {
             const QPixmap pixmap = QPixmap::fromImage(image);
-            painter->drawPixmap(rect, pixmap, pixmap.rect());
+            painter->drawPixmap(target, pixmap, pixmap.rect());
         } else {
-            painter->drawImage(rect, image, image.rect());
+            painter->drawImage(target, image, image.rect());
         }
     }
 
     // Starts decoding the document's pictures given as bytes, in the order they are drawn, on
     // another core: a page then finds its pictures ready. A few are held at a time. With
-    // `intoPdf`, a plain JPEG is only checked: its own bytes go into the PDF.
+    // `intoPdf`, a plain JPEG is only checked: its own bytes go into the PDF. The originals
+    // are made ready on every core, each once however often it is drawn.
     void decodeAhead(QTextDocument& document, bool intoPdf) {
         stopDecoding();
         m_plan.clear();
         m_ready.clear();
         m_passed.clear();
         m_standIns.clear();
-        m_made = m_drawn = 0;
+        m_originals.clear();
+        m_made = m_drawn = m_nextOriginal = 0;
         m_stop = false;
         m_intoPdf = intoPdf;
+        std::map<std::pair<QString, QSize>, std::shared_ptr<Original>, Before> originals;
         for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
             for (auto it = block.begin(); !it.atEnd(); ++it) {
                 const QTextFragment fragment = it.fragment();
                 if (!fragment.charFormat().isImageFormat())
                     continue;
-                const QString name = fragment.charFormat().toImageFormat().name();
-                const QVariant bytes = document.resource(QTextDocument::ImageResource, QUrl(name));
-                if (bytes.typeId() == QMetaType::QByteArray)
-                    for (int i = 0; i < fragment.length(); ++i)
-                        m_plan.push_back({fragment.position() + i, bytes.toByteArray()});
+                const QTextImageFormat format = fragment.charFormat().toImageFormat();
+                const QVariant bytes =
+                    document.resource(QTextDocument::ImageResource, QUrl(format.name()));
+                if (bytes.typeId() != QMetaType::QByteArray)
+                    continue;
+                const std::shared_ptr<Original> original =
+                    originalOf(document, fragment.position(), format, originals);
+                for (int i = 0; i < fragment.length(); ++i)
+                    m_plan.push_back({fragment.position() + i, bytes.toByteArray(), original});
             }
         // A thread of its own: one of the pool's might never start while the pages wait on it.
-        if (m_plan.size() > 1)
-            m_decoding = std::thread([this] { decodeAll(); });
+        m_threaded = m_plan.size() > 1 || !m_originals.empty();
+        if (!m_threaded)
+            return;
+        m_decoding = std::thread([this] { decodeAll(); });
+        const std::size_t cores = std::size_t(std::max(1, QThread::idealThreadCount()));
+        for (std::size_t i = 0; i < std::min({cores, m_originals.size(), kMostMakers}); ++i)
+            m_makers.emplace_back([this] { makeOriginals(); });
     }
     void stopDecoding() {
         {
@@ -136,6 +156,9 @@ public:
         m_changed.notify_all();
         if (m_decoding.joinable())
             m_decoding.join();
+        for (std::thread& maker : m_makers)
+            maker.join();
+        m_makers.clear();
     }
 
     // Swaps every stand-in in `pdf` for its JPEG; false, with `pdf` as it was, when the PDF does
@@ -151,15 +174,36 @@ public:
     }
 
 private:
-    static constexpr std::size_t kAhead = 32, kBehind = 4;
+    static constexpr std::size_t kAhead = 32, kBehind = 4, kMostMakers = 8;
+    // A quality at which a photo's JPEG on paper shows nothing of its coding.
+    static constexpr double kOriginalQuality = 0.85;
+    // One original at one size on paper, made once.
+    struct Original {
+        PageOriginal source;
+        QSize pixels;   // asked for
+        QByteArray key; // tells its stand-in apart from the pictures' own bytes
+        bool made = false;
+        QByteArray jpeg; // empty when the original cannot be drawn
+        QSize plainSize; // the JPEG's, when it goes into a PDF as it is
+    };
+    struct Before {
+        bool operator()(const std::pair<QString, QSize>& a,
+                        const std::pair<QString, QSize>& b) const {
+            return std::tuple(a.first, a.second.width(), a.second.height()) <
+                   std::tuple(b.first, b.second.width(), b.second.height());
+        }
+    };
     struct Planned {
         int position;
         QByteArray bytes;
+        std::shared_ptr<Original> original;
     };
     struct Ready {
         QImage image;
         QByteArray bytes;
+        QByteArray key;  // tells stand-ins apart: the bytes, or the original's
         QSize plainSize; // valid for a JPEG that goes into the PDF as it is
+        QSizeF shape;    // an original's size, drawn fitted to the picture's box
     };
     struct Passed {
         QImage standIn;
@@ -169,13 +213,83 @@ private:
 
     // One stand-in per distinct picture, so that the engine writes each picture once however
     // often it is drawn; the engine tells images apart by their cache key.
-    const QImage& standInFor(const QByteArray& bytes, QSize size) {
-        auto found = m_standIns.find(bytes);
+    const QImage& standInFor(const QByteArray& key, const QByteArray& bytes, QSize size) {
+        auto found = m_standIns.find(key);
         if (found == m_standIns.end()) {
             m_passed.push_back({PdfStandIns::image(), bytes, size});
-            found = m_standIns.insert(bytes, m_passed.size() - 1);
+            found = m_standIns.insert(key, m_passed.size() - 1);
         }
         return m_passed[*found].standIn;
+    }
+
+    // The original the picture at `position` is drawn from, shared by every picture that shows
+    // it at the same size; none where the format names none.
+    std::shared_ptr<Original>
+    originalOf(QTextDocument& document, int position, const QTextImageFormat& format,
+               std::map<std::pair<QString, QSize>, std::shared_ptr<Original>, Before>& known) {
+        const QString name = format.stringProperty(PageRenderer::OriginalProperty);
+        if (name.isEmpty())
+            return nullptr;
+        const QVariant resource = document.resource(QTextDocument::UserResource, QUrl(name));
+        if (!resource.canConvert<PageOriginal>())
+            return nullptr;
+        PageOriginal source = resource.value<PageOriginal>();
+        if (source.size.isEmpty() || !source.read)
+            return nullptr;
+        const QSize pixels =
+            PageRenderer::originalPixels(source.size, intrinsicSize(&document, position, format));
+        if (pixels.isEmpty())
+            return nullptr;
+        std::shared_ptr<Original>& original = known[{name, pixels}];
+        if (!original) {
+            original = std::make_shared<Original>();
+            original->source = std::move(source);
+            original->pixels = pixels;
+            original->key = "original " + name.toUtf8() + ' ' + QByteArray::number(pixels.width()) +
+                            'x' + QByteArray::number(pixels.height());
+            m_originals.push_back(original);
+        }
+        return original;
+    }
+
+    // Reads, checks and scales the originals in the order they are first drawn, on as many
+    // threads as there are cores. One that cannot be read is said once on the console and its
+    // picture is drawn instead.
+    void makeOriginals() {
+        for (;;) {
+            std::shared_ptr<Original> original;
+            {
+                const std::lock_guard lock(m_mutex);
+                if (m_stop || m_nextOriginal == m_originals.size())
+                    return;
+                original = m_originals[m_nextOriginal++];
+            }
+            make(*original, m_intoPdf);
+            {
+                const std::lock_guard lock(m_mutex);
+                original->made = true;
+            }
+            m_changed.notify_all();
+        }
+    }
+    static void make(Original& original, bool intoPdf) {
+        const Result<QByteArray> bytes = original.source.read();
+        if (!bytes.ok()) {
+            Console::log(tr("Printing the coin's own picture: %1.").arg(bytes.error().message));
+            return;
+        }
+        const QImage image = ImageCoding::decodeToFit(bytes.value(), original.pixels);
+        if (image.isNull()) {
+            Console::log(tr("Printing the coin's own picture: the original photo %1 does not "
+                            "decode.")
+                             .arg(original.source.label));
+            return;
+        }
+        // In colour, as the PDF takes a JPEG as it is.
+        original.jpeg =
+            ImageCoding::jpeg(image.convertToFormat(QImage::Format_RGB32), kOriginalQuality);
+        if (intoPdf)
+            original.plainSize = ImageCoding::plainJpegSize(original.jpeg).value_or(QSize());
     }
 
     void decodeAll() {
@@ -187,12 +301,28 @@ private:
                     return;
             }
             Ready ready;
-            ready.bytes = m_plan[i].bytes;
-            if (m_intoPdf)
-                ready.plainSize = ImageCoding::plainJpegSize(ready.bytes).value_or(QSize());
-            // As Qt's handler reads the bytes: whatever format they are in.
-            if (!ready.plainSize.isValid())
-                ready.image = QImage::fromData(ready.bytes);
+            const std::shared_ptr<Original>& original = m_plan[i].original;
+            if (original) {
+                std::unique_lock lock(m_mutex);
+                m_changed.wait(lock, [&] { return m_stop || original->made; });
+                if (m_stop)
+                    return;
+            }
+            if (original && !original->jpeg.isEmpty()) {
+                ready.bytes = original->jpeg;
+                ready.key = original->key;
+                ready.shape = QSizeF(original->source.size);
+                ready.plainSize = original->plainSize;
+                if (!ready.plainSize.isValid())
+                    ready.image = QImage::fromData(ready.bytes);
+            } else {
+                ready.bytes = ready.key = m_plan[i].bytes;
+                if (m_intoPdf)
+                    ready.plainSize = ImageCoding::plainJpegSize(ready.bytes).value_or(QSize());
+                // As Qt's handler reads the bytes: whatever format they are in.
+                if (!ready.plainSize.isValid())
+                    ready.image = QImage::fromData(ready.bytes);
+            }
             {
                 const std::lock_guard lock(m_mutex);
                 m_ready.emplace(i, std::move(ready));
@@ -207,7 +337,7 @@ private:
         const auto at =
             std::lower_bound(m_plan.begin(), m_plan.end(), position,
                              [](const Planned& p, int pos) { return p.position < pos; });
-        if (at == m_plan.end() || at->position != position || m_plan.size() <= 1)
+        if (at == m_plan.end() || at->position != position || !m_threaded)
             return {};
         const std::size_t index = std::size_t(at - m_plan.begin());
         std::unique_lock lock(m_mutex);
@@ -235,7 +365,12 @@ private:
     std::size_t m_made = 0, m_drawn = 0;
     bool m_stop = false;
     bool m_intoPdf = false;
+    bool m_threaded = false;
     std::thread m_decoding;
+    // The originals in the order they are first drawn, and the next one to make.
+    std::vector<std::shared_ptr<Original>> m_originals;
+    std::size_t m_nextOriginal = 0;
+    std::vector<std::thread> m_makers;
     // The JPEGs that go into the PDF as they are, in the order their stand-ins were first drawn.
     std::vector<Passed> m_passed;
     QHash<QByteArray, std::size_t> m_standIns;
@@ -342,6 +477,17 @@ void writeExactPageBox(QByteArray& pdf, const QRectF& paper) {
 }
 } // namespace
 
+QSize PageRenderer::originalPixels(const QSize& size, const QSizeF& box) {
+    if (size.isEmpty() || box.isEmpty())
+        return {};
+    const QSizeF fitted = QSizeF(size).scaled(box, Qt::KeepAspectRatio);
+    const qreal perPixel = fitted.width() * OriginalDpi / 72 / size.width();
+    if (perPixel >= 1)
+        return size;
+    return QSize(int(std::ceil(size.width() * perPixel)), int(std::ceil(size.height() * perPixel)))
+        .boundedTo(size);
+}
+
 PageRenderer::PageRenderer(QTextDocument& document, const QRectF& paperRect,
                            const QRectF& printableRect)
     : m_layoutDevice(std::make_unique<PointDevice>(paperRect))
@@ -387,6 +533,17 @@ void PageRenderer::drawPage(QPainter& painter, int index, const QRectF& bounds) 
     context.palette.setColor(QPalette::Text, Qt::black);
     m_document.documentLayout()->draw(&painter, context);
     painter.restore();
+}
+
+void PageRenderer::drawPages(QPainter& painter, const QRectF& bounds,
+                             const std::function<void(int)>& before) const {
+    m_pictures->decodeAhead(m_document, false);
+    const auto stop = qScopeGuard([this] { m_pictures->stopDecoding(); });
+    for (int page = 0; page < numberOfPages(); ++page) {
+        if (before)
+            before(page);
+        drawPage(painter, page, bounds);
+    }
 }
 
 QByteArray PageRenderer::pdf(const std::function<void(int, int)>& progress) const {

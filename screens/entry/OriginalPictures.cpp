@@ -43,7 +43,7 @@ void load(QObject* receiver, const Originals::Original& original, const QList<QS
         for (int i = 0; i < boxes.size(); ++i) {
             if (promise.isCanceled())
                 return;
-            const QImage picture = ImageCoding::decodeFitted(bytes.value(), boxes[i]);
+            const QImage picture = ImageCoding::decodeToFit(bytes.value(), boxes[i]);
             if (picture.isNull()) {
                 promise.addResult(Step{
                     i,

@@ -14,7 +14,7 @@ class QObject;
 namespace OriginalPictures {
 
 // Reads the original (checked against its hash) and decodes it at each box of `boxes` in turn,
-// on the thread pool: ImageCoding::decodeFitted, an invalid box for the full size. Each picture
+// on the thread pool: ImageCoding::decodeToFit, an invalid box for the full size. Each picture
 // goes to `shown(index, picture)` on the UI thread as soon as it is drawn, for as long as
 // `receiver` lives. A missing or damaged file is one line on the console and nothing shown.
 // `extra`, when given, is run on the pool on each picture to make whatever else it needs

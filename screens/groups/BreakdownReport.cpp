@@ -35,7 +35,8 @@ void BreakdownTableViewController::ShareCoinButtonClicked() {
     const QList<CoinPtr> coins = listInUse();
     if (coins.isEmpty() || reportRunning_)
         return;
-    CoinString = GroupReport::report(*group_, coins, width() / 6.0);
+    CoinString = GroupReport::report(*group_, coins, width() / 6.0,
+                                     CoinDocument::originalsIn(*managedObjectContext));
     if (coins.size() < ReportInBackgroundFrom) {
         writePdf(CoinDocument::pdf(*CoinString));
         shareReport();

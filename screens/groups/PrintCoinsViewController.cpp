@@ -63,7 +63,8 @@ void PrintCoinsViewController::CreateFileClick() {
                                          QStringLiteral("No Coins to Print!")));
         return;
     }
-    std::unique_ptr<QTextDocument> listing = GroupReport::listing(*group_, CoinList, width() / 6.0);
+    std::unique_ptr<QTextDocument> listing = GroupReport::listing(
+        *group_, CoinList, width() / 6.0, CoinDocument::originalsIn(*managedObjectContext));
     CoinString = listing.get();
     FileTextView->setAttributedText(std::move(listing));
 }
