@@ -284,17 +284,20 @@ void CoinFormViewController::imageTaken(const QImage& image) {
 void CoinFormViewController::takeOriginal(ImageView* view, const QByteArray& bytes) {
     SideOriginal& side = originalOf(view);
     side = {};
-    if (!view->hasImage())
-        return;
     const std::optional<QSize> size = ImageCoding::shownSize(bytes);
-    if (!size || !Originals::keepable(bytes.size(), *size)) {
+    if (!size)
+        return; // no picture: the view says so by staying empty
+    if (!Originals::keepable(bytes.size(), *size)) {
         present(AlertController::okAlert(
             tr("Photo Too Large"),
-            tr("The photo is larger than 64 megapixels or 50 MB. The coin keeps its 100 x 100 "
-               "picture of it, without the photo itself.")));
+            view->hasImage()
+                ? tr("The photo is larger than 64 megapixels or 50 MB. The coin keeps its 100 x "
+                     "100 picture of it, without the photo itself.")
+                : tr("The photo is larger than 64 megapixels, more than the catalogue reads.")));
         return;
     }
-    side = {view->image().cacheKey(), bytes, *size, std::nullopt};
+    if (view->hasImage())
+        side = {view->image().cacheKey(), bytes, *size, std::nullopt};
 }
 
 void CoinFormViewController::noteOriginal(ImageView* view, const QByteArray& stored) {

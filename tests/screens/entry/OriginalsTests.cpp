@@ -108,3 +108,28 @@ TEST_F(OriginalsScreenTest, APhotoIsKeptByteForByteOnceAndComesBackWithItsPictur
     EXPECT_FALSE(Originals::read(*kept).ok());
     EXPECT_TRUE(Originals::read(*kept).error().message.contains("damaged"));
 }
+
+// A photo whose header claims more than 64 megapixels is refused with a notice, not kept.
+TEST_F(OriginalsScreenTest, APhotoTooLargeToKeepIsSaid) {
+    QByteArray bytes = photo(400, 300, "1 CENT");
+    const qsizetype sof = bytes.indexOf("\xFF\xC0");
+    ASSERT_GT(sof, 0);
+    // Height and width of the frame: 8000 x 9000.
+    bytes[sof + 5] = char(0x1F);
+    bytes[sof + 6] = char(0x40);
+    bytes[sof + 7] = char(0x23);
+    bytes[sof + 8] = char(0x28);
+    const QString file = dir() + "/huge.jpg";
+    writeFile(file, bytes);
+    auto* list = openList();
+    list->performSegue("AddCoin");
+    auto* add = topAs<AddViewController>();
+    ASSERT_NE(add, nullptr);
+    fakes.documentPicker->next = file;
+    add->FrontFolderButton->click();
+    EXPECT_EQ(alertText(), "Photo Too Large / The photo is larger than 64 megapixels, more than "
+                           "the catalogue reads.");
+    dismissAlert();
+    EXPECT_FALSE(add->FrontImage->hasImage());
+    EXPECT_FALSE(QDir(folder()).exists() && !QDir(folder()).isEmpty());
+}
