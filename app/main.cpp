@@ -157,7 +157,7 @@ int main(int argc, char** argv) {
 
     QApplication app(argc, argv);
     FatalMessage::installForWindowSession();
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.pelvane.Pelvane"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.pelvane.pelvane"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/pelvane.svg")));
     prepare(options);
     // One window on a collection: a second one says where the first is, and goes.

@@ -7,7 +7,7 @@ if(NOT result EQUAL 0)
   message(FATAL_ERROR "cmake --install failed: ${result}")
 endif()
 
-set(id org.pelvane.Pelvane)
+set(id org.pelvane.pelvane)
 set(expected bin/pelvane share/applications/${id}.desktop share/metainfo/${id}.metainfo.xml
     share/icons/hicolor/scalable/apps/${id}.svg)
 foreach(size 16 24 32 48 64 128 256)

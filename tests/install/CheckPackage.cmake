@@ -34,7 +34,7 @@ if(NOT result EQUAL 0)
 endif()
 
 # The launcher entry names the program and the icon; both are where a desktop looks for them.
-set(id org.pelvane.Pelvane)
+set(id org.pelvane.pelvane)
 set(entry_file ${root}/usr/share/applications/${id}.desktop)
 if(NOT EXISTS ${entry_file})
   message(FATAL_ERROR "the package has no launcher entry at /usr/share/applications")
