@@ -24,7 +24,7 @@ const Kind& Kind::denomination() {
             QT_TRANSLATE_NOOP("GroupTableViewController", "Sort and Search By Denomination"),
         .listName = QT_TRANSLATE_NOOP("GroupTableViewController", "Groups by denomination"),
         .countPredicate = "denomination = %@",
-        .pluralHeader = QT_TRANSLATE_NOOP("GroupTableViewController", "%n Denominations"),
+        .pluralHeader = QT_TRANSLATE_N_NOOP("GroupTableViewController", "%n Denominations"),
         .singularHeader = QT_TRANSLATE_NOOP("GroupTableViewController", "0 Denomination"),
         .select = [](const QString& v) { SelectedDenomination = v; },
         .groupValue = [](const QString& v) { return v; },
@@ -39,7 +39,7 @@ const Kind& Kind::country() {
             QT_TRANSLATE_NOOP("GroupTableViewController", "Search By Denomination"),
         .listName = QT_TRANSLATE_NOOP("GroupTableViewController", "Groups by country"),
         .countPredicate = "country = %@",
-        .pluralHeader = QT_TRANSLATE_NOOP("GroupTableViewController", "%n Countries"),
+        .pluralHeader = QT_TRANSLATE_N_NOOP("GroupTableViewController", "%n Countries"),
         .singularHeader = QT_TRANSLATE_NOOP("GroupTableViewController", "0 Country"),
         .select = [](const QString& v) { SelectedCountry = v; },
         .groupValue = [](const QString& v) { return v; },
@@ -52,7 +52,7 @@ const Kind& Kind::year() {
                                                                "Sort and Search By Year"),
                         .listName = QT_TRANSLATE_NOOP("GroupTableViewController", "Groups by year"),
                         .countPredicate = "year = %@", // with the year's decimal text
-                        .pluralHeader = QT_TRANSLATE_NOOP("GroupTableViewController", "%n Years"),
+                        .pluralHeader = QT_TRANSLATE_N_NOOP("GroupTableViewController", "%n Years"),
                         .singularHeader = QT_TRANSLATE_NOOP("GroupTableViewController", "0 Year"),
                         .select = [](const QString& v) { SelectedYear = v.toShort(); },
                         // as the 16-bit year stored above reads back
