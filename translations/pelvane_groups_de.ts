@@ -94,7 +94,7 @@
             <translation>Wert: %1 Gesamtwert: %2</translation>
         </message>
         <message>
-            <location line="+47" />
+            <location line="+48" />
             <source>Share</source>
             <translation>Teilen</translation>
         </message>
@@ -458,7 +458,7 @@ Schritt 2: Möglichkeit 1: Auf „In Dateien sichern“ klicken
             <translation>0 Jahre</translation>
         </message>
         <message>
-            <location line="+55" />
+            <location line="+56" />
             <source>‹ Back</source>
             <translation>‹ Zurück</translation>
         </message>
@@ -866,7 +866,7 @@ Schritt 2: Möglichkeit 1: Auf „In Dateien sichern“ klicken
     <context>
         <name>ReferenceTableViewController</name>
         <message>
-            <location filename="../screens/reference/ReferenceTableViewController.cpp" line="+49" />
+            <location filename="../screens/reference/ReferenceTableViewController.cpp" line="+50" />
             <source>Add</source>
             <translation>Hinzufügen</translation>
         </message>
@@ -977,7 +977,7 @@ Schritt 2: Möglichkeit 1: Auf „In Dateien sichern“ klicken
         <name>StatisticsViewController</name>
         <message>
             <location filename="../screens/statistics/StatisticsViewController.cpp" line="+34" />
-            <location line="+120" />
+            <location line="+124" />
             <location line="+1" />
             <location line="+1" />
             <location line="+1" />
@@ -985,7 +985,7 @@ Schritt 2: Möglichkeit 1: Auf „In Dateien sichern“ klicken
             <translation>Wert</translation>
         </message>
         <message>
-            <location line="-122" />
+            <location line="-126" />
             <source>Countries</source>
             <translation>Länder</translation>
         </message>
@@ -1072,6 +1072,7 @@ Schritt 2: Möglichkeit 1: Auf „In Dateien sichern“ klicken
         <message>
             <location line="+3" />
             <location line="+25" />
+            <location line="+1" />
             <source>Statistics</source>
             <translation>Statistik</translation>
         </message>
@@ -1086,7 +1087,12 @@ Schritt 2: Möglichkeit 1: Auf „In Dateien sichern“ klicken
             <translation>Daten exportieren …</translation>
         </message>
         <message>
-            <location line="+23" />
+            <location line="+24" />
+            <source>Columns</source>
+            <translation>Spalten</translation>
+        </message>
+        <message>
+            <location line="+2" />
             <location line="+4" />
             <source>Date</source>
             <translation>Datum</translation>

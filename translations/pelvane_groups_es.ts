@@ -94,7 +94,7 @@
             <translation>Valor: %1 Valor total: %2</translation>
         </message>
         <message>
-            <location line="+47" />
+            <location line="+48" />
             <source>Share</source>
             <translation>Compartir</translation>
         </message>
@@ -458,7 +458,7 @@ Paso 2: Opción 1: Pulsar el botón «Guardar en Archivos»
             <translation>0 años</translation>
         </message>
         <message>
-            <location line="+55" />
+            <location line="+56" />
             <source>‹ Back</source>
             <translation>‹ Atrás</translation>
         </message>
@@ -866,7 +866,7 @@ Paso 2: Opción 1: Pulsar el botón «Guardar en Archivos»
     <context>
         <name>ReferenceTableViewController</name>
         <message>
-            <location filename="../screens/reference/ReferenceTableViewController.cpp" line="+49" />
+            <location filename="../screens/reference/ReferenceTableViewController.cpp" line="+50" />
             <source>Add</source>
             <translation>Añadir</translation>
         </message>
@@ -977,7 +977,7 @@ Paso 2: Opción 1: Pulsar el botón «Guardar en Archivos»
         <name>StatisticsViewController</name>
         <message>
             <location filename="../screens/statistics/StatisticsViewController.cpp" line="+34" />
-            <location line="+120" />
+            <location line="+124" />
             <location line="+1" />
             <location line="+1" />
             <location line="+1" />
@@ -985,7 +985,7 @@ Paso 2: Opción 1: Pulsar el botón «Guardar en Archivos»
             <translation>Valor</translation>
         </message>
         <message>
-            <location line="-122" />
+            <location line="-126" />
             <source>Countries</source>
             <translation>Países</translation>
         </message>
@@ -1072,6 +1072,7 @@ Paso 2: Opción 1: Pulsar el botón «Guardar en Archivos»
         <message>
             <location line="+3" />
             <location line="+25" />
+            <location line="+1" />
             <source>Statistics</source>
             <translation>Estadísticas</translation>
         </message>
@@ -1086,7 +1087,12 @@ Paso 2: Opción 1: Pulsar el botón «Guardar en Archivos»
             <translation>Exportar datos…</translation>
         </message>
         <message>
-            <location line="+23" />
+            <location line="+24" />
+            <source>Columns</source>
+            <translation>Columnas</translation>
+        </message>
+        <message>
+            <location line="+2" />
             <location line="+4" />
             <source>Date</source>
             <translation>Fecha</translation>

@@ -94,7 +94,7 @@
             <translation>Valeur : %1 Valeur totale : %2</translation>
         </message>
         <message>
-            <location line="+47" />
+            <location line="+48" />
             <source>Share</source>
             <translation>Partager</translation>
         </message>
@@ -458,7 +458,7 @@ Step 2: Option 1: Click 'Save To Files' button
             <translation>0 année</translation>
         </message>
         <message>
-            <location line="+55" />
+            <location line="+56" />
             <source>‹ Back</source>
             <translation>‹ Retour</translation>
         </message>
@@ -866,7 +866,7 @@ Step 2: Option 1: Click 'Save To Files' button
     <context>
         <name>ReferenceTableViewController</name>
         <message>
-            <location filename="../screens/reference/ReferenceTableViewController.cpp" line="+49" />
+            <location filename="../screens/reference/ReferenceTableViewController.cpp" line="+50" />
             <source>Add</source>
             <translation>Ajouter</translation>
         </message>
@@ -977,7 +977,7 @@ Step 2: Option 1: Click 'Save To Files' button
         <name>StatisticsViewController</name>
         <message>
             <location filename="../screens/statistics/StatisticsViewController.cpp" line="+34" />
-            <location line="+120" />
+            <location line="+124" />
             <location line="+1" />
             <location line="+1" />
             <location line="+1" />
@@ -985,7 +985,7 @@ Step 2: Option 1: Click 'Save To Files' button
             <translation>Valeur</translation>
         </message>
         <message>
-            <location line="-122" />
+            <location line="-126" />
             <source>Countries</source>
             <translation>Pays</translation>
         </message>
@@ -1072,6 +1072,7 @@ Step 2: Option 1: Click 'Save To Files' button
         <message>
             <location line="+3" />
             <location line="+25" />
+            <location line="+1" />
             <source>Statistics</source>
             <translation>Statistiques</translation>
         </message>
@@ -1086,7 +1087,12 @@ Step 2: Option 1: Click 'Save To Files' button
             <translation>Exporter les données…</translation>
         </message>
         <message>
-            <location line="+23" />
+            <location line="+24" />
+            <source>Columns</source>
+            <translation>Colonnes</translation>
+        </message>
+        <message>
+            <location line="+2" />
             <location line="+4" />
             <source>Date</source>
             <translation>Date</translation>

@@ -94,7 +94,7 @@
             <translation>Стоимость: %1 Общая стоимость: %2</translation>
         </message>
         <message>
-            <location line="+47" />
+            <location line="+48" />
             <source>Share</source>
             <translation>Поделиться</translation>
         </message>
@@ -461,7 +461,7 @@ Step 2: Option 1: Click 'Save To Files' button
             <translation>0 лет</translation>
         </message>
         <message>
-            <location line="+55" />
+            <location line="+56" />
             <source>‹ Back</source>
             <translation>‹ Назад</translation>
         </message>
@@ -870,7 +870,7 @@ Step 2: Option 1: Click 'Save To Files' button
     <context>
         <name>ReferenceTableViewController</name>
         <message>
-            <location filename="../screens/reference/ReferenceTableViewController.cpp" line="+49" />
+            <location filename="../screens/reference/ReferenceTableViewController.cpp" line="+50" />
             <source>Add</source>
             <translation>Добавить</translation>
         </message>
@@ -981,7 +981,7 @@ Step 2: Option 1: Click 'Save To Files' button
         <name>StatisticsViewController</name>
         <message>
             <location filename="../screens/statistics/StatisticsViewController.cpp" line="+34" />
-            <location line="+120" />
+            <location line="+124" />
             <location line="+1" />
             <location line="+1" />
             <location line="+1" />
@@ -989,7 +989,7 @@ Step 2: Option 1: Click 'Save To Files' button
             <translation>Стоимость</translation>
         </message>
         <message>
-            <location line="-122" />
+            <location line="-126" />
             <source>Countries</source>
             <translation>Страны</translation>
         </message>
@@ -1076,6 +1076,7 @@ Step 2: Option 1: Click 'Save To Files' button
         <message>
             <location line="+3" />
             <location line="+25" />
+            <location line="+1" />
             <source>Statistics</source>
             <translation>Статистика</translation>
         </message>
@@ -1090,7 +1091,12 @@ Step 2: Option 1: Click 'Save To Files' button
             <translation>Экспортировать данные…</translation>
         </message>
         <message>
-            <location line="+23" />
+            <location line="+24" />
+            <source>Columns</source>
+            <translation>Столбцы</translation>
+        </message>
+        <message>
+            <location line="+2" />
             <location line="+4" />
             <source>Date</source>
             <translation>Дата</translation>

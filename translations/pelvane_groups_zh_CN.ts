@@ -94,7 +94,7 @@
             <translation>价值：%1 总价值：%2</translation>
         </message>
         <message>
-            <location line="+47" />
+            <location line="+48" />
             <source>Share</source>
             <translation>分享</translation>
         </message>
@@ -455,7 +455,7 @@ Step 2: Option 1: Click 'Save To Files' button
             <translation>0 个年份</translation>
         </message>
         <message>
-            <location line="+55" />
+            <location line="+56" />
             <source>‹ Back</source>
             <translation>‹ 返回</translation>
         </message>
@@ -862,7 +862,7 @@ Step 2: Option 1: Click 'Save To Files' button
     <context>
         <name>ReferenceTableViewController</name>
         <message>
-            <location filename="../screens/reference/ReferenceTableViewController.cpp" line="+49" />
+            <location filename="../screens/reference/ReferenceTableViewController.cpp" line="+50" />
             <source>Add</source>
             <translation>添加</translation>
         </message>
@@ -973,7 +973,7 @@ Step 2: Option 1: Click 'Save To Files' button
         <name>StatisticsViewController</name>
         <message>
             <location filename="../screens/statistics/StatisticsViewController.cpp" line="+34" />
-            <location line="+120" />
+            <location line="+124" />
             <location line="+1" />
             <location line="+1" />
             <location line="+1" />
@@ -981,7 +981,7 @@ Step 2: Option 1: Click 'Save To Files' button
             <translation>价值</translation>
         </message>
         <message>
-            <location line="-122" />
+            <location line="-126" />
             <source>Countries</source>
             <translation>国家</translation>
         </message>
@@ -1068,6 +1068,7 @@ Step 2: Option 1: Click 'Save To Files' button
         <message>
             <location line="+3" />
             <location line="+25" />
+            <location line="+1" />
             <source>Statistics</source>
             <translation>统计</translation>
         </message>
@@ -1082,7 +1083,12 @@ Step 2: Option 1: Click 'Save To Files' button
             <translation>导出数据…</translation>
         </message>
         <message>
-            <location line="+23" />
+            <location line="+24" />
+            <source>Columns</source>
+            <translation>列</translation>
+        </message>
+        <message>
+            <location line="+2" />
             <location line="+4" />
             <source>Date</source>
             <translation>日期</translation>

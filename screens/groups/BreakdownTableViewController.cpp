@@ -161,6 +161,7 @@ void BreakdownTableViewController::viewDidLoad() {
     searchController->placeAbove(
         tableView, tr(kind_.searchPlaceholder),
         [this](SearchController* s) { updateSearchResultsForSearchController(s); });
+    searchController->setAccessibleName(tr(kind_.searchPlaceholder));
     SortAsc = true;
     tableView->setDataSource(this);
     load();

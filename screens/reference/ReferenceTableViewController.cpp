@@ -43,6 +43,7 @@ void ReferenceTableViewController::viewDidLoad() {
     searchController->obscuresBackgroundDuringPresentation = false;
     tableView->setTableHeaderView(searchController);
     searchController->setPlaceholderText(ReferenceKinds::tr(kind_.placeholder));
+    searchController->setAccessibleName(ReferenceKinds::tr(kind_.placeholder));
     SortAsc = true;
     tableView->setDataSource(this);
     after(0, [this] { fetch(); });

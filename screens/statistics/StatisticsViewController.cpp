@@ -112,6 +112,7 @@ StatisticsViewController::StatisticsViewController(QWidget* parent)
     layout->addLayout(top);
     ChartTabs->setObjectName(QStringLiteral("ChartTabs"));
     ChartTabs->setUsesScrollButtons(true);
+    ChartTabs->setAccessibleName(tr("Statistics"));
     ChartTabs->tabBar()->setAccessibleName(tr("Statistics"));
     layout->addWidget(ChartTabs, 1);
     for (int p = 0; p < PageCount; ++p)
@@ -140,7 +141,9 @@ QWidget* StatisticsViewController::page(Page p, const QString& title) {
     if (p != ChangesPage) {
         Charts[p] = StatisticsCharts::makeView(widget);
         Charts[p]->setObjectName(title + QStringLiteral("Chart"));
+        // The chart takes focus through its viewport, which a reader names as the chart.
         Charts[p]->setAccessibleName(tr(kChartNames[p]));
+        Charts[p]->viewport()->setAccessibleName(tr(kChartNames[p]));
         box->addWidget(Charts[p], 3);
     }
     auto* table = new QTableWidget(widget);
@@ -150,6 +153,7 @@ QWidget* StatisticsViewController::page(Page p, const QString& title) {
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->verticalHeader()->hide();
     table->horizontalHeader()->setStretchLastSection(true);
+    table->horizontalHeader()->setAccessibleName(tr("Columns"));
     const QStringList headers[] = {
         {tr("Date"), tr("Pieces"), tr("Value")},
         {tr("Country"), tr("Pieces"), tr("Value")},
