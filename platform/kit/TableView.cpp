@@ -66,7 +66,19 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override {
         return parent.isValid() ? 0 : total_;
     }
-    QVariant data(const QModelIndex&, int) const override { return {}; }
+    // Rows are drawn by their cells; only a reader asks the model, for the row's text.
+    QVariant data(const QModelIndex& index, int role) const override {
+        int section = 0, row = 0;
+        if (role != Qt::AccessibleTextRole || !table_->source_ || !index.isValid())
+            return {};
+        const int kind = locate(index.row(), section, row);
+        if (kind == 1)
+            return table_->source_->accessibleTextForRow(table_, {section, row});
+        if (kind < 0)
+            return {};
+        const Section& sec = sections_[std::size_t(section)];
+        return kind == 0 ? sec.headerTitle : sec.footerTitle;
+    }
     // Headers and footers are passed over by the arrow keys.
     Qt::ItemFlags flags(const QModelIndex& index) const override {
         int section = 0, row = 0;

@@ -18,9 +18,9 @@ const QString kFileName = QStringLiteral("Pelvane.csv");
 
 ExportViewController::ExportViewController(QWidget* parent)
     : ViewController(parent)
-    , ExportButton(new QPushButton(QStringLiteral("Create Export File"), this))
-    , SaveButton(new QPushButton(QStringLiteral("Save To Files"), this))
-    , EmailButton(new QPushButton(QStringLiteral("Email File"), this))
+    , ExportButton(new QPushButton(tr("Create Export File"), this))
+    , SaveButton(new QPushButton(tr("Save To Files"), this))
+    , EmailButton(new QPushButton(tr("Email File"), this))
     , ExportTextView(new TextView(this))
     , HelpTextView(new TextView(this))
     , ProgressView_(new ProgressView(this))
@@ -30,6 +30,8 @@ ExportViewController::ExportViewController(QWidget* parent)
     EmailButton->setObjectName(QStringLiteral("EmailButton"));
     ExportTextView->setObjectName(QStringLiteral("ExportTextView"));
     HelpTextView->setObjectName(QStringLiteral("HelpTextView"));
+    ExportTextView->setAccessibleName(tr("Contents of the export file"));
+    HelpTextView->setAccessibleName(tr("How to export"));
     ExportTextView->setReadOnly(true);
     HelpTextView->setReadOnly(true);
     ExportTextView->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -49,7 +51,7 @@ ExportViewController::ExportViewController(QWidget* parent)
 }
 
 void ExportViewController::viewDidLoad() {
-    setTitle(QStringLiteral("Export Coins"));
+    setTitle(tr("Export Coins"));
     DarkMode = Appearance::isDark();
     for (QPushButton* b : {ExportButton, SaveButton, EmailButton})
         Styling::round(b, 10, 2, Qt::black);
@@ -60,11 +62,11 @@ void ExportViewController::viewDidLoad() {
     EmailButton->setEnabled(false);
     activityIndicator->raise();
     HelpTextView->setText(
-        QStringLiteral("Step 1: Create the Export File\n") +
-        QStringLiteral("Step 2: Option 1: Click 'Save To Files' button\n") +
-        QStringLiteral("             Option 2: Click the Email File button to email the file to "
-                       "yourself and then from your email save the file to your iCloud Drive. "
-                       "There are size limits to email attachments for most carriers."));
+        tr("Step 1: Create the Export File\n"
+           "Step 2: Option 1: Click 'Save To Files' button\n"
+           "             Option 2: Click the Email File button to email the file to "
+           "yourself and then from your email save the file to your iCloud Drive. "
+           "There are size limits to email attachments for most carriers."));
 }
 
 void ExportViewController::resizeEvent(QResizeEvent* event) {
@@ -106,8 +108,8 @@ void ExportViewController::CreateUpdateFile() {
         // offered to save.
         after(1, [this] { activityIndicator->stopAnimating(); });
         present(AlertController::okAlert(
-            QStringLiteral("Data Export File"),
-            QStringLiteral("The collection cannot be read: %1").arg(text.error().message)));
+            tr("Data Export File"),
+            tr("The collection cannot be read: %1").arg(text.error().message)));
         return;
     }
     DataString = QString::fromUtf8(text.value());
@@ -116,9 +118,9 @@ void ExportViewController::CreateUpdateFile() {
     SaveButton->setEnabled(true);
     ExportButton->setEnabled(false);
     after(1000, [this] {
-        present(AlertController::okAlert(QStringLiteral("Data Export File"),
-                                         QStringLiteral("Process Complete - File Ready to Save "
-                                                        "To Files or Email")));
+        present(AlertController::okAlert(tr("Data Export File"),
+                                         tr("Process Complete - File Ready to Save "
+                                            "To Files or Email")));
     });
     after(1, [this] { activityIndicator->stopAnimating(); });
     EmailButton->setEnabled(true);
@@ -158,15 +160,15 @@ void ExportViewController::WriteTextFile() {
         if (!file.open(QIODevice::ReadOnly))
             return;
         MailMessage message;
-        message.subject = QStringLiteral("Pelvane Update Text File");
-        message.body = QStringLiteral("Attachment: Pelvane Text File");
+        message.subject = tr("Pelvane Update Text File");
+        message.body = tr("Attachment: Pelvane Text File");
         message.attachment = file.readAll();
         message.mimeType = QStringLiteral("csv");
         message.fileName = kFileName;
         Platform::mail().compose(message, this, {});
     } else {
-        auto* alert = AlertController::okAlert(QStringLiteral("Sending Email"),
-                                               QStringLiteral("Email not Setup or Unavailable"));
+        auto* alert =
+            AlertController::okAlert(tr("Sending Email"), tr("Email not Setup or Unavailable"));
         alert->setSourceView(EmailButton);
         present(alert);
     }

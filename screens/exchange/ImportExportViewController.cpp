@@ -21,8 +21,10 @@
 #include <QtConcurrent/QtConcurrentRun>
 
 namespace {
-const QStringList kBackupFilters = {QStringLiteral("Pelvane backups (*.sqlite)"),
-                                    QStringLiteral("All files (*)")};
+QStringList backupFilters() {
+    return {ImportExportViewController::tr("Pelvane backups (*.sqlite)"),
+            ImportExportViewController::tr("All files (*)")};
+}
 
 // Work for a worker thread, its answer handed back to the screen if the screen is still there.
 template <typename T, typename Work, typename Done>
@@ -41,15 +43,15 @@ using Outcome = std::pair<bool, QString>;
 
 ImportExportViewController::ImportExportViewController(QWidget* parent)
     : ViewController(parent)
-    , ExportButton(new QPushButton(QStringLiteral("Export Coins"), this))
-    , ImportButton(new QPushButton(QStringLiteral("Import Coins"), this))
-    , BackupButton(new QPushButton(QStringLiteral("Back Up Collection\u2026"), this))
-    , RestoreButton(new QPushButton(QStringLiteral("Restore From Backup\u2026"), this))
+    , ExportButton(new QPushButton(tr("Export Coins"), this))
+    , ImportButton(new QPushButton(tr("Import Coins"), this))
+    , BackupButton(new QPushButton(tr("Back Up Collection\u2026"), this))
+    , RestoreButton(new QPushButton(tr("Restore From Backup\u2026"), this))
     , BackupProgressView(new ProgressView(this)) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 24, 24, 24);
-    auto* note = new QLabel(QStringLiteral("Move the whole collection to another device: export "
-                                           "it here, import the file there."),
+    auto* note = new QLabel(tr("Move the whole collection to another device: export "
+                               "it here, import the file there."),
                             this);
     note->setWordWrap(true);
     layout->addWidget(note);
@@ -57,8 +59,8 @@ ImportExportViewController::ImportExportViewController(QWidget* parent)
     layout->addWidget(ExportButton);
     layout->addWidget(ImportButton);
     layout->addSpacing(24);
-    auto* copies = new QLabel(QStringLiteral("Keep an exact copy of the collection, every picture "
-                                             "included, or put one back."),
+    auto* copies = new QLabel(tr("Keep an exact copy of the collection, every picture "
+                                 "included, or put one back."),
                               this);
     copies->setWordWrap(true);
     layout->addWidget(copies);
@@ -79,7 +81,7 @@ ImportExportViewController::ImportExportViewController(QWidget* parent)
 }
 
 void ImportExportViewController::viewDidLoad() {
-    setTitle(QStringLiteral("Import / Export"));
+    setTitle(tr("Import / Export"));
     for (QPushButton* b : {ExportButton, ImportButton, BackupButton, RestoreButton})
         Styling::round(b, 10, 2, Qt::black);
 }
@@ -99,7 +101,7 @@ void ImportExportViewController::BackUpCollection() {
                                   .filePath(QStringLiteral("Pelvane-%1.sqlite")
                                                 .arg(QDate::currentDate().toString(Qt::ISODate)));
     QPointer<ImportExportViewController> self(this);
-    Platform::documentPicker().save(this, suggested, kBackupFilters,
+    Platform::documentPicker().save(this, suggested, backupFilters(),
                                     [self](const QString& file) {
                                         if (self)
                                             self->backUpTo(file);
@@ -128,12 +130,10 @@ void ImportExportViewController::backUpTo(const QString& file) {
         },
         [this, file](const Outcome& outcome) {
             setBusy(false);
-            present(
-                outcome.first
-                    ? AlertController::okAlert(
-                          QStringLiteral("Backup Complete"),
-                          QStringLiteral("Backed up %1 to %2").arg(outcome.second, file))
-                    : AlertController::okAlert(QStringLiteral("Backup Failed"), outcome.second));
+            present(outcome.first ? AlertController::okAlert(
+                                        tr("Backup Complete"),
+                                        tr("Backed up %1 to %2").arg(outcome.second, file))
+                                  : AlertController::okAlert(tr("Backup Failed"), outcome.second));
         });
 }
 
@@ -146,7 +146,7 @@ void ImportExportViewController::RestoreFromBackup() {
         Snapshots::folder(Application::delegate().persistentContainer().storePath());
     const QString start = QDir().mkpath(snapshots) ? snapshots : QDir::homePath();
     QPointer<ImportExportViewController> self(this);
-    Platform::documentPicker().openIn(this, start, kBackupFilters,
+    Platform::documentPicker().openIn(this, start, backupFilters(),
                                       [self](const QString& file) {
                                           if (self)
                                               self->checkBeforeRestoring(file);

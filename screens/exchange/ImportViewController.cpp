@@ -95,13 +95,17 @@ void readFile(QPromise<ImportViewController::Loaded>& promise, const QString& pa
 
 ImportViewController::ImportViewController(QWidget* parent)
     : ViewController(parent)
-    , LoadFileButton(new QPushButton(QStringLiteral("Load File"), this))
-    , ImportButton(new QPushButton(QStringLiteral("Import File"), this))
+    , LoadFileButton(new QPushButton(tr("Load File"), this))
+    , ImportButton(new QPushButton(tr("Import File"), this))
     , ImportTextView(new TextView(this))
     , HelpTextView(new TextView(this))
     , ImportProgressView(new ProgressView(this)) {
     LoadFileButton->setObjectName(QStringLiteral("LoadFileButton"));
     ImportButton->setObjectName(QStringLiteral("ImportButton"));
+    ImportTextView->setObjectName(QStringLiteral("ImportTextView"));
+    ImportTextView->setAccessibleName(tr("Contents of the file"));
+    HelpTextView->setObjectName(QStringLiteral("HelpTextView"));
+    HelpTextView->setAccessibleName(tr("How to import"));
     ImportTextView->setReadOnly(true);
     HelpTextView->setReadOnly(true);
     ImportTextView->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -125,7 +129,7 @@ ImportViewController::ImportViewController(QWidget* parent)
 }
 
 void ImportViewController::viewDidLoad() {
-    setTitle(QStringLiteral("Import Coins"));
+    setTitle(tr("Import Coins"));
     DarkMode = Appearance::isDark();
     for (QPushButton* b : {LoadFileButton, ImportButton})
         Styling::round(b, 10, 2, Qt::black);
@@ -134,15 +138,14 @@ void ImportViewController::viewDidLoad() {
     Styling::round(HelpTextView, 5, 1, border);
     wrongFile = false;
     ImportButton->setEnabled(false);
-    HelpTextView->setText(QStringLiteral("YOU CAN ONLY IMPORT THE FILE CREATED BY THIS APP.\n") +
-                          QStringLiteral("1: Select the file you saved to your iCloud drive\n") +
-                          QStringLiteral("2: Import the file into your device"));
+    HelpTextView->setText(tr("YOU CAN ONLY IMPORT THE FILE CREATED BY THIS APP.\n"
+                             "1: Select the file you saved to your iCloud drive\n"
+                             "2: Import the file into your device"));
 }
 
 void ImportViewController::LoadFile() {
-    Platform::documentPicker().open(
-        this, {QStringLiteral("Exchange files (*.csv)"), QStringLiteral("All files (*)")},
-        [this](const QString& path) { documentPicked(path); }, {});
+    Platform::documentPicker().open(this, {tr("Exchange files (*.csv)"), tr("All files (*)")},
+                                    [this](const QString& path) { documentPicked(path); }, {});
 }
 
 ImportViewController::~ImportViewController() = default;
@@ -184,8 +187,8 @@ void ImportViewController::fileRead(const Loaded& loaded) {
         LoadFileButton->setEnabled(false);
     }
     // Shown after a failed read as well.
-    present(AlertController::okAlert(QStringLiteral("Data Import File"),
-                                     QStringLiteral("File Loaded and Ready to Import")));
+    present(
+        AlertController::okAlert(tr("Data Import File"), tr("File Loaded and Ready to Import")));
 }
 
 void ImportViewController::ImportTextFile() {
@@ -215,12 +218,11 @@ void ImportViewController::finishImport() {
     merge_.reset();
     setBusy(false);
     AlertController* alert =
-        !*wrongFile ? new AlertController(QStringLiteral("Data Import File"),
-                                          QStringLiteral("Data File Import Completed"))
-                    : new AlertController(QStringLiteral("Data Import"),
-                                          filename.value_or(QString()) +
-                                              QStringLiteral(" Is The Incorrect Import File"));
-    alert->addAction(QStringLiteral("OK"), AlertController::ActionStyle::Default,
+        !*wrongFile ? new AlertController(tr("Data Import File"), tr("Data File Import Completed"))
+                    : new AlertController(
+                          tr("Data Import"),
+                          tr("%1 Is The Incorrect Import File").arg(filename.value_or(QString())));
+    alert->addAction(tr("OK"), AlertController::ActionStyle::Default,
                      [this] { performUnwind(QStringLiteral("unwindToMenu")); });
     present(alert);
 }

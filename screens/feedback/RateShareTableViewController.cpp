@@ -7,10 +7,16 @@
 #include <QLabel>
 #include <QUrlQuery>
 #include <QVBoxLayout>
+#include <iterator>
 
 namespace {
-const QStringList kRows = {"Rate Pelvane", "Share Pelvane", "Invite a Friend",
-                           "Visit the Pelvane Website", "Send Feedback"};
+const char* const kRows[] = {
+    QT_TRANSLATE_NOOP("RateShareTableViewController", "Rate Pelvane"),
+    QT_TRANSLATE_NOOP("RateShareTableViewController", "Share Pelvane"),
+    QT_TRANSLATE_NOOP("RateShareTableViewController", "Invite a Friend"),
+    QT_TRANSLATE_NOOP("RateShareTableViewController", "Visit the Pelvane Website"),
+    QT_TRANSLATE_NOOP("RateShareTableViewController", "Send Feedback")};
+constexpr int kRowCount = int(std::size(kRows));
 
 class RateShareCell : public TableViewCell {
 public:
@@ -33,18 +39,23 @@ RateShareTableViewController::RateShareTableViewController(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 8, 0, 0);
     layout->addWidget(tableView);
+    tableView->listView()->setAccessibleName(tr("Rate & Share"));
     tableView->registerCell(QStringLiteral("Cell"), [] { return new RateShareCell; });
 }
 
 void RateShareTableViewController::viewDidLoad() {
-    setTitle(QStringLiteral("Rate & Share"));
+    setTitle(tr("Rate & Share"));
     tableView->setDataSource(this);
 }
 
 TableViewCell* RateShareTableViewController::cellForRow(TableView* table, IndexPath path) {
     auto* cell = static_cast<RateShareCell*>(table->dequeueReusableCell("Cell"));
-    cell->label->setText(kRows.value(path.row));
+    cell->label->setText(accessibleTextForRow(table, path));
     return cell;
+}
+
+QString RateShareTableViewController::accessibleTextForRow(TableView*, IndexPath path) {
+    return path.row >= 0 && path.row < kRowCount ? tr(kRows[path.row]) : QString();
 }
 
 void RateShareTableViewController::didSelectRow(TableView* table, IndexPath path) {
@@ -69,9 +80,9 @@ void RateShareTableViewController::didSelectRow(TableView* table, IndexPath path
                 item.text = instructions;
             Platform::shareSheet().present({item}, {}, this);
         } else {
-            present(AlertController::okAlert(QStringLiteral("Can't Send Text Message"),
-                                             QStringLiteral("Your Device is not able to send "
-                                                            "text messages.")));
+            present(AlertController::okAlert(tr("Can't Send Text Message"),
+                                             tr("Your Device is not able to send "
+                                                "text messages.")));
         }
         break;
     case 3:
@@ -81,14 +92,13 @@ void RateShareTableViewController::didSelectRow(TableView* table, IndexPath path
         if (Platform::mail().canSendMail()) {
             MailMessage message;
             message.recipients = {feedbackAddress};
-            message.body =
-                QStringLiteral("<p>Enter your comments about the Pelvane app below: </p>");
+            message.body = tr("<p>Enter your comments about the Pelvane app below: </p>");
             message.isHTML = true;
             Platform::mail().compose(message, this, {});
         } else {
-            present(AlertController::okAlert(QStringLiteral("Can't Send Email"),
-                                             QStringLiteral("Your Device is not able to send "
-                                                            "Email.")));
+            present(AlertController::okAlert(tr("Can't Send Email"),
+                                             tr("Your Device is not able to send "
+                                                "Email.")));
         }
         break;
     default:

@@ -32,6 +32,9 @@ bool byYear(const Coins& a, const Coins& b) {
 bool byDenomination(const Coins& a, const Coins& b) {
     return PredicateDetail::compareText(a.denomination(), b.denomination()) < 0;
 }
+QString mintMarkLine(const Coins& c) {
+    return BreakdownTableViewController::tr("%1  Mint Mark: %2").arg(yearText(c), c.mintMark());
+}
 QString money(const Coins& c) {
     return Currency::text(double(c.value()));
 }
@@ -45,14 +48,20 @@ using Kind = BreakdownTableViewController::Kind;
 const Kind& Kind::denomination() {
     static const Kind k{
         .group = GroupKind::Denomination,
-        .title = "Denomination",
-        .searchPlaceholder = "Sort and Search By Year",
+        .title = QT_TRANSLATE_NOOP("BreakdownTableViewController", "Denomination"),
+        .searchPlaceholder =
+            QT_TRANSLATE_NOOP("BreakdownTableViewController", "Sort and Search By Year"),
+        .listName = QT_TRANSLATE_NOOP("BreakdownTableViewController", "Coins of the denomination"),
         .searchText = yearText,
         .searchIgnoresCase = false,
         .sortsBefore = byYear,
-        .label2 = [](const Coins& c) { return yearText(c) + "  Mint Mark: " + c.mintMark(); },
+        .label2 = mintMarkLine,
         .label3 = [](const Coins& c) { return QString::number(c.quantity()) + "  " + c.country(); },
-        .label4 = [](const Coins& c) { return money(c) + " Total Value: " + total(c); },
+        .label4 =
+            [](const Coins& c) {
+                return BreakdownTableViewController::tr("%1 Total Value: %2")
+                    .arg(money(c), total(c));
+            },
         .calledFromList = "DenominationBreakdown",
         .unwind = "unwindToDenominationTableView",
         .makeCell = []() -> BreakdownTableViewCell* {
@@ -64,17 +73,24 @@ const Kind& Kind::denomination() {
 const Kind& Kind::country() {
     static const Kind k{
         .group = GroupKind::Country,
-        .title = "Country",
-        .searchPlaceholder = "Sort and Search By Denomination",
+        .title = QT_TRANSLATE_NOOP("BreakdownTableViewController", "Country"),
+        .searchPlaceholder =
+            QT_TRANSLATE_NOOP("BreakdownTableViewController", "Sort and Search By Denomination"),
+        .listName = QT_TRANSLATE_NOOP("BreakdownTableViewController", "Coins of the country"),
         .searchText = lowerDenomination,
         .searchIgnoresCase = true,
         .sortsBefore = byDenomination,
-        .label2 = [](const Coins& c) { return yearText(c) + "  Mint Mark: " + c.mintMark(); },
+        .label2 = mintMarkLine,
         .label3 =
             [](const Coins& c) {
-                return QString::number(c.quantity()) + "  Country: " + c.country();
+                return BreakdownTableViewController::tr("%1  Country: %2")
+                    .arg(QString::number(c.quantity()), c.country());
             },
-        .label4 = [](const Coins& c) { return money(c) + " Total Value: " + total(c); },
+        .label4 =
+            [](const Coins& c) {
+                return BreakdownTableViewController::tr("%1 Total Value: %2")
+                    .arg(money(c), total(c));
+            },
         .calledFromList = "CountryBreakdown",
         .unwind = "unwindToCountryTableView",
         .makeCell = []() -> BreakdownTableViewCell* { return new CountryBreakdownTableViewCell; },
@@ -84,15 +100,27 @@ const Kind& Kind::country() {
 const Kind& Kind::year() {
     static const Kind k{
         .group = GroupKind::Year,
-        .title = "Year",
-        .searchPlaceholder = "Search By Denomination",
+        .title = QT_TRANSLATE_NOOP("BreakdownTableViewController", "Year"),
+        .searchPlaceholder =
+            QT_TRANSLATE_NOOP("BreakdownTableViewController", "Search By Denomination"),
+        .listName = QT_TRANSLATE_NOOP("BreakdownTableViewController", "Coins of the year"),
         .searchText = lowerDenomination,
         .searchIgnoresCase = true,
         .sortsBefore = byYear, // every row has the same year, so the rows keep their order
         .label2 =
-            [](const Coins& c) { return "Year: " + yearText(c) + "  Mint Mark: " + c.mintMark(); },
-        .label3 = [](const Coins& c) { return "Qty: " + QString::number(c.quantity()); },
-        .label4 = [](const Coins& c) { return "Value: " + money(c) + " Total Value: " + total(c); },
+            [](const Coins& c) {
+                return BreakdownTableViewController::tr("Year: %1  Mint Mark: %2")
+                    .arg(yearText(c), c.mintMark());
+            },
+        .label3 =
+            [](const Coins& c) {
+                return BreakdownTableViewController::tr("Qty: %1").arg(c.quantity());
+            },
+        .label4 =
+            [](const Coins& c) {
+                return BreakdownTableViewController::tr("Value: %1 Total Value: %2")
+                    .arg(money(c), total(c));
+            },
         .calledFromList = "YearBreakdown",
         .unwind = "unwindToYearTableView",
         .makeCell = []() -> BreakdownTableViewCell* { return new YearBreakdownTableViewCell; },
@@ -121,6 +149,7 @@ BreakdownTableViewController::BreakdownTableViewController(const Kind& kind, QWi
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(ProgressView_);
     layout->addWidget(tableView);
+    tableView->listView()->setAccessibleName(tr(kind.listName));
     ProgressView_->hide();
     tableView->registerCell(QStringLiteral("Cell"), [&kind] { return kind.makeCell(); });
     registerUnwindAction(kind.unwind, [this](StoryboardSegue& s) { unwindToTableView(s); });
@@ -128,21 +157,22 @@ BreakdownTableViewController::BreakdownTableViewController(const Kind& kind, QWi
 }
 
 void BreakdownTableViewController::viewDidLoad() {
-    setTitle(kind_.title);
-    searchController->placeAbove(tableView, kind_.searchPlaceholder, [this](SearchController* s) {
-        updateSearchResultsForSearchController(s);
-    });
+    setTitle(tr(kind_.title));
+    searchController->placeAbove(
+        tableView, tr(kind_.searchPlaceholder),
+        [this](SearchController* s) { updateSearchResultsForSearchController(s); });
+    searchController->setAccessibleName(tr(kind_.searchPlaceholder));
     SortAsc = true;
     tableView->setDataSource(this);
     load();
     navigationItem().rightItems = {
-        {QStringLiteral("Share"), [this] { ShareCoinButtonClicked(); }, nullptr,
-         QStringLiteral("ShareButton"), QStringLiteral("square.and.arrow.up")},
-        {QStringLiteral("Print"), [this] { PrintButtonClicked(); }, nullptr,
-         QStringLiteral("PrintButton"), QStringLiteral("printer")},
-        {QStringLiteral("Sort"), [this] { SortButtonTapped(); }, nullptr,
-         QStringLiteral("SortButton"), QStringLiteral("arrow.up.arrow.down")},
-        {QStringLiteral("View"),
+        {tr("Share"), [this] { ShareCoinButtonClicked(); }, nullptr, QStringLiteral("ShareButton"),
+         QStringLiteral("square.and.arrow.up")},
+        {tr("Print"), [this] { PrintButtonClicked(); }, nullptr, QStringLiteral("PrintButton"),
+         QStringLiteral("printer")},
+        {tr("Sort"), [this] { SortButtonTapped(); }, nullptr, QStringLiteral("SortButton"),
+         QStringLiteral("arrow.up.arrow.down")},
+        {tr("View"),
          {},
          viewSwitch->menu(),
          QStringLiteral("ViewButton"),
@@ -241,7 +271,7 @@ int BreakdownTableViewController::numberOfRows(TableView*, int) {
 }
 
 QString BreakdownTableViewController::titleForHeader(TableView*, int) {
-    return QStringLiteral("# of Coins: ") + QString::number(CoinCount);
+    return tr("# of Coins: %1").arg(CoinCount);
 }
 
 QString BreakdownTableViewController::titleForFooter(TableView*, int) {
@@ -255,7 +285,7 @@ QString BreakdownTableViewController::titleForFooter(TableView*, int) {
         }
         shown = *filteredValue_;
     }
-    return QStringLiteral("Valuation for displayed coins: ") + Currency::text(shown);
+    return tr("Valuation for displayed coins: %1").arg(Currency::text(shown));
 }
 
 TableViewCell* BreakdownTableViewController::cellForRow(TableView* table, IndexPath path) {
@@ -268,6 +298,14 @@ TableViewCell* BreakdownTableViewController::cellForRow(TableView* table, IndexP
     cell->Label3->setText(kind_.label3(coin));
     cell->Label4->setText(kind_.label4(coin));
     return cell;
+}
+
+QString BreakdownTableViewController::accessibleTextForRow(TableView*, IndexPath path) {
+    // The lines of the row, in the order they are drawn.
+    const Coins& coin = *listInUse().at(path.row);
+    return QStringList{coin.denomination(), kind_.label2(coin), kind_.label3(coin),
+                       kind_.label4(coin)}
+        .join(QStringLiteral(", "));
 }
 
 void BreakdownTableViewController::didSelectRow(TableView* table, IndexPath path) {
@@ -300,7 +338,7 @@ void BreakdownTableViewController::prepareForSegue(StoryboardSegue& segue, QObje
 }
 
 QList<SwipeAction> BreakdownTableViewController::trailingSwipeActions(TableView*, IndexPath) {
-    return {{QStringLiteral("delete"), true, [this](IndexPath p) { deleteCoinAt(p.row); }}};
+    return {{tr("delete"), true, [this](IndexPath p) { deleteCoinAt(p.row); }}};
 }
 
 void BreakdownTableViewController::deleteCoinAt(int row) {

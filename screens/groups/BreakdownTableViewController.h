@@ -34,8 +34,10 @@ public:
     // GroupReport of their kind of group.
     struct Kind {
         GroupKind group;
-        QString title;
-        QString searchPlaceholder;
+        // The texts shown are untranslated here and go through tr() where they are shown.
+        const char* title;
+        const char* searchPlaceholder;
+        const char* listName;                // what a screen reader calls the list
         QString (*searchText)(const Coins&); // what a search looks in
         bool searchIgnoresCase;
         // The order of the filtered rows when the sort button is tapped during a search.
@@ -83,6 +85,7 @@ public:
     QString titleForHeader(TableView*, int section) override;
     QString titleForFooter(TableView*, int section) override;
     TableViewCell* cellForRow(TableView* table, IndexPath path) override;
+    QString accessibleTextForRow(TableView*, IndexPath path) override;
     void didSelectRow(TableView* table, IndexPath path) override;
     QList<SwipeAction> trailingSwipeActions(TableView* table, IndexPath path) override;
     // The table view: its columns; a click on the sorted column's title is the sort button.

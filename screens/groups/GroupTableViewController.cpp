@@ -20,10 +20,12 @@
 using Kind = GroupTableViewController::Kind;
 const Kind& Kind::denomination() {
     static const Kind k{
-        .searchPlaceholder = "Sort and Search By Denomination",
+        .searchPlaceholder =
+            QT_TRANSLATE_NOOP("GroupTableViewController", "Sort and Search By Denomination"),
+        .listName = QT_TRANSLATE_NOOP("GroupTableViewController", "Groups by denomination"),
         .countPredicate = "denomination = %@",
-        .pluralHeader = " Denominations",
-        .singularHeader = " Denomination",
+        .pluralHeader = QT_TRANSLATE_N_NOOP("GroupTableViewController", "%n Denominations"),
+        .singularHeader = QT_TRANSLATE_NOOP("GroupTableViewController", "0 Denomination"),
         .select = [](const QString& v) { SelectedDenomination = v; },
         .groupValue = [](const QString& v) { return v; },
         .breakdownSegue = "showDenominationBreakdown",
@@ -32,10 +34,13 @@ const Kind& Kind::denomination() {
 }
 const Kind& Kind::country() {
     static const Kind k{
-        .searchPlaceholder = "Search By Denomination", // as written, though it searches countries
+        // As written, though it searches countries.
+        .searchPlaceholder =
+            QT_TRANSLATE_NOOP("GroupTableViewController", "Search By Denomination"),
+        .listName = QT_TRANSLATE_NOOP("GroupTableViewController", "Groups by country"),
         .countPredicate = "country = %@",
-        .pluralHeader = " Countries",
-        .singularHeader = " Country",
+        .pluralHeader = QT_TRANSLATE_N_NOOP("GroupTableViewController", "%n Countries"),
+        .singularHeader = QT_TRANSLATE_NOOP("GroupTableViewController", "0 Country"),
         .select = [](const QString& v) { SelectedCountry = v; },
         .groupValue = [](const QString& v) { return v; },
         .breakdownSegue = "showCountryBreakdown",
@@ -43,10 +48,12 @@ const Kind& Kind::country() {
     return k;
 }
 const Kind& Kind::year() {
-    static const Kind k{.searchPlaceholder = "Sort and Search By Year",
+    static const Kind k{.searchPlaceholder = QT_TRANSLATE_NOOP("GroupTableViewController",
+                                                               "Sort and Search By Year"),
+                        .listName = QT_TRANSLATE_NOOP("GroupTableViewController", "Groups by year"),
                         .countPredicate = "year = %@", // with the year's decimal text
-                        .pluralHeader = " Years",
-                        .singularHeader = " Year",
+                        .pluralHeader = QT_TRANSLATE_N_NOOP("GroupTableViewController", "%n Years"),
+                        .singularHeader = QT_TRANSLATE_NOOP("GroupTableViewController", "0 Year"),
                         .select = [](const QString& v) { SelectedYear = v.toShort(); },
                         // as the 16-bit year stored above reads back
                         .groupValue = [](const QString& v) { return QString::number(v.toShort()); },
@@ -88,20 +95,22 @@ GroupTableViewController::GroupTableViewController(const Kind& kind, QWidget* pa
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(tableView);
+    tableView->listView()->setAccessibleName(tr(kind.listName));
     tableView->registerCell(QStringLiteral("Cell"), [&kind] { return kind.makeCell(); });
     context = Application::viewContext();
 }
 
 void GroupTableViewController::viewDidLoad() {
-    searchController->placeAbove(tableView, kind_.searchPlaceholder, [this](SearchController* s) {
-        updateSearchResultsForSearchController(s);
-    });
+    searchController->placeAbove(
+        tableView, tr(kind_.searchPlaceholder),
+        [this](SearchController* s) { updateSearchResultsForSearchController(s); });
+    searchController->setAccessibleName(tr(kind_.searchPlaceholder));
     SortAsc = true;
     tableView->setDataSource(this);
     load();
-    navigationItem().leftItems = {{QStringLiteral("\u2039 Back"), [this] { UnwindSegue(); },
-                                   nullptr, QStringLiteral("BackButton")}};
-    navigationItem().rightItems = {{QStringLiteral("Sort"), [this] { SortButtonTapped(); }, nullptr,
+    navigationItem().leftItems = {
+        {tr("‹ Back"), [this] { UnwindSegue(); }, nullptr, QStringLiteral("BackButton")}};
+    navigationItem().rightItems = {{tr("Sort"), [this] { SortButtonTapped(); }, nullptr,
                                     QStringLiteral("SortButton"),
                                     QStringLiteral("arrow.up.arrow.down")}};
     updateNavigationBar();
@@ -207,8 +216,8 @@ int GroupTableViewController::numberOfRows(TableView*, int) {
 }
 
 QString GroupTableViewController::titleForHeader(TableView*, int) {
-    const qsizetype n = ValueList.size();
-    return QString::number(n) + (n != 0 ? kind_.pluralHeader : kind_.singularHeader);
+    const int n = int(ValueList.size());
+    return n != 0 ? tr(kind_.pluralHeader, nullptr, n) : tr(kind_.singularHeader);
 }
 
 qint16 GroupTableViewController::countOf(const QString& value) {
@@ -228,6 +237,14 @@ TableViewCell* GroupTableViewController::cellForRow(TableView* table, IndexPath 
     cell->ValueLabel->setText(value);
     cell->CountLabel->setText(QString::number(countOf(value)));
     return cell;
+}
+
+QString GroupTableViewController::accessibleTextForRow(TableView*, IndexPath path) {
+    const QString& value = listInUse().at(path.row);
+    const int n = countOf(value);
+    // As the row reads: the value, then its number of coin records.
+    const QString count = n == 1 ? tr("1 coin") : tr("%n coins", nullptr, n);
+    return tr("%1, %2").arg(value.isEmpty() ? tr("(no value)") : value, count);
 }
 
 void GroupTableViewController::prepareForSegue(StoryboardSegue& segue, QObject*) {

@@ -27,10 +27,12 @@ class GroupTableViewController : public ViewController, public TableViewDataSour
 public:
     // What differs between the three group screens.
     struct Kind {
-        QString searchPlaceholder;
+        // The texts shown are untranslated here and go through tr() where they are shown.
+        const char* searchPlaceholder;
+        const char* listName;           // what a screen reader calls the list
         QString countPredicate;         // counts the records of one value; names the grouping
-        QString pluralHeader;           // after n when n is not 0
-        QString singularHeader;         // after 0
+        const char* pluralHeader;       // the header for n values, n not 0
+        const char* singularHeader;     // the header for no value
         void (*select)(const QString&); // stores the tapped value where the screens read it
         // The group value the breakdown screen is handed for a tapped value.
         QString (*groupValue)(const QString& tapped);
@@ -60,6 +62,7 @@ public:
     int heightForRow(TableView*, IndexPath) override { return 80; }
     QString titleForHeader(TableView*, int section) override;
     TableViewCell* cellForRow(TableView* table, IndexPath path) override;
+    QString accessibleTextForRow(TableView*, IndexPath path) override;
     void didSelectRow(TableView* table, IndexPath path) override;
     // The number of coin records whose value is `value`; above 32767 is a fatal error.
     qint16 countOf(const QString& value);

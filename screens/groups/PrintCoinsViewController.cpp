@@ -14,12 +14,13 @@
 
 PrintCoinsViewController::PrintCoinsViewController(QWidget* parent)
     : ViewController(parent)
-    , PrintButton(new QPushButton(QStringLiteral("Print"), this))
-    , CreateFileButton(new QPushButton(QStringLiteral("Create File"), this))
+    , PrintButton(new QPushButton(tr("Print"), this))
+    , CreateFileButton(new QPushButton(tr("Create File"), this))
     , FileTextView(new StyledTextView(this)) {
     PrintButton->setObjectName(QStringLiteral("PrintButton"));
     CreateFileButton->setObjectName(QStringLiteral("CreateFileButton"));
     FileTextView->setObjectName(QStringLiteral("FileTextView"));
+    FileTextView->setAccessibleName(tr("Coins to print"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 12, 16, 16);
     layout->addWidget(FileTextView, 1);
@@ -36,7 +37,7 @@ PrintCoinsViewController::PrintCoinsViewController(QWidget* parent)
 }
 
 void PrintCoinsViewController::viewDidLoad() {
-    setTitle(QStringLiteral("Print Coins"));
+    setTitle(tr("Print Coins"));
     Styling::round(FileTextView, 10, 2, Qt::black, Qt::white);
     for (QPushButton* b : {PrintButton, CreateFileButton})
         Styling::round(b, 5, 1, Qt::black);
@@ -59,8 +60,7 @@ void PrintCoinsViewController::fetch() {
 void PrintCoinsViewController::CreateFileClick() {
     if (CoinList.isEmpty() || !group_) {
         PrintButton->hide();
-        present(AlertController::okAlert(QStringLiteral("Empty Data Set!"),
-                                         QStringLiteral("No Coins to Print!")));
+        present(AlertController::okAlert(tr("Empty Data Set!"), tr("No Coins to Print!")));
         return;
     }
     std::unique_ptr<QTextDocument> listing = GroupReport::listing(

@@ -17,9 +17,10 @@ OverviewViewController::OverviewViewController(QWidget* parent)
     : ViewController(parent) {}
 
 void OverviewViewController::viewDidLoad() {
-    setTitle(QStringLiteral("Pelvane Overview"));
+    setTitle(tr("Pelvane Overview"));
     pdfView = new PdfViewer(this);
     pdfView->setObjectName(QStringLiteral("OverviewPdfView"));
+    pdfView->setAccessibleName(tr("Pelvane overview guide"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(pdfView);
@@ -41,7 +42,7 @@ void OverviewViewController::viewDidLoad() {
 }
 
 void OverviewViewController::showPage(int page) {
-    PageLabel->setText(QStringLiteral("%1 of %2").arg(page + 1).arg(pdfView->pageCount()));
+    PageLabel->setText(tr("%1 of %2").arg(page + 1).arg(pdfView->pageCount()));
     PageLabel->setVisible(pdfView->pageCount() > 0);
     placePageLabel();
 }

@@ -12,7 +12,7 @@ AddReferenceViewController::AddReferenceViewController(const ReferenceValueKind&
     : ReferenceValueViewController(kind, kind.addField, parent) {}
 
 void AddReferenceViewController::viewDidLoad() {
-    setUpField(kind().addTitle);
+    setUpField(ReferenceKinds::tr(kind().addTitle));
     FetchRequest request(kind().list->entity);
     request.returnsObjectsAsFaults = false;
     for (const ObjectPtr& record : fetchOrPrint(*Application::viewContext(), request).valueOr({})) {
@@ -26,13 +26,13 @@ void AddReferenceViewController::viewDidLoad() {
 void AddReferenceViewController::save() {
     const QString text = textField->text();
     if (text.isEmpty()) {
-        present(AlertController::okAlert(QStringLiteral("Record not Saved!"), kind().emptyMessage));
+        present(AlertController::okAlert(tr("Record not Saved!"),
+                                         ReferenceKinds::tr(kind().emptyMessage)));
         return;
     }
     // Deliberately the text as typed against the stored (trimmed) values: " VF" passes.
     if (StoredValues.contains(text)) {
-        present(AlertController::okAlert(QStringLiteral("Record not Saved!"),
-                                         QStringLiteral("Duplicates not allowed")));
+        present(AlertController::okAlert(tr("Record not Saved!"), tr("Duplicates not allowed")));
         return;
     }
     managedObjectContext = Application::viewContext();

@@ -13,7 +13,7 @@ EditReferenceViewController::EditReferenceViewController(const ReferenceValueKin
 void EditReferenceViewController::viewDidLoad() {
     if (detailItem)
         textField->setText(detailItem->value(attribute()).toString());
-    setUpField(kind().editTitle);
+    setUpField(ReferenceKinds::tr(kind().editTitle));
 }
 
 void EditReferenceViewController::save() {

@@ -2,18 +2,25 @@
 
 #include "screens/ProcessState.h"
 
+#include <QCoreApplication>
+
 namespace ReferenceKinds {
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("ReferenceKinds", text);
+}
 
 // The list screens.
 const ReferenceListKind& gradeList() {
     static const ReferenceListKind kind{
         .hubButton = "GradeNumberButton",
-        .hubTitle = "Grade Numbers",
         .listSegue = "GradeNumberList",
+        .hubTitle = QT_TRANSLATE_NOOP("ReferenceKinds", "Grade Numbers"),
         .entity = "GradeNumbers",
         .attribute = "grade",
-        .title = "Grade Number List",
-        .placeholder = "Search by Grade Number",
+        .title = QT_TRANSLATE_NOOP("ReferenceKinds", "Grade Number List"),
+        .placeholder = QT_TRANSLATE_NOOP("ReferenceKinds", "Search by Grade Number"),
+        .valueName = QT_TRANSLATE_NOOP("ReferenceKinds", "Grade Number"),
         .editSegue = "showGrade",
         .addSegue = "AddGradeNumber",
         .unwind = "unwindToGradeTableView",
@@ -25,12 +32,13 @@ const ReferenceListKind& gradeList() {
 const ReferenceListKind& strikeList() {
     static const ReferenceListKind kind{
         .hubButton = "StrikeCharacterButton",
-        .hubTitle = "Strike Characters",
         .listSegue = "StrikeCharacterList",
+        .hubTitle = QT_TRANSLATE_NOOP("ReferenceKinds", "Strike Characters"),
         .entity = "StrikeCharacters",
         .attribute = "strike",
-        .title = "Strike Character List",
-        .placeholder = "Search by Strike Character",
+        .title = QT_TRANSLATE_NOOP("ReferenceKinds", "Strike Character List"),
+        .placeholder = QT_TRANSLATE_NOOP("ReferenceKinds", "Search by Strike Character"),
+        .valueName = QT_TRANSLATE_NOOP("ReferenceKinds", "Strike Character"),
         .editSegue = "showStrike",
         .addSegue = "AddStrikeCharacter",
         .unwind = "unwindToStrikeTableView",
@@ -42,12 +50,13 @@ const ReferenceListKind& strikeList() {
 const ReferenceListKind& edgeList() {
     static const ReferenceListKind kind{
         .hubButton = "EdgeButton",
-        .hubTitle = "Edges",
         .listSegue = "EdgeList",
+        .hubTitle = QT_TRANSLATE_NOOP("ReferenceKinds", "Edges"),
         .entity = "CoinEdge",
         .attribute = "edge",
-        .title = "Edge List",
-        .placeholder = "Search by Edge",
+        .title = QT_TRANSLATE_NOOP("ReferenceKinds", "Edge List"),
+        .placeholder = QT_TRANSLATE_NOOP("ReferenceKinds", "Search by Edge"),
+        .valueName = QT_TRANSLATE_NOOP("ReferenceKinds", "Edge"),
         .editSegue = "showEdge",
         .addSegue = "AddEdge",
         .unwind = "unwindToEdgeTableView",
@@ -61,10 +70,10 @@ const ReferenceListKind& edgeList() {
 const ReferenceValueKind& grade() {
     static const ReferenceValueKind kind{
         .list = &gradeList(),
-        .addTitle = "Add Grade Numbers",
+        .addTitle = QT_TRANSLATE_NOOP("ReferenceKinds", "Add Grade Numbers"),
         .addField = "GradeTextField",
-        .emptyMessage = "Grade Number not Entered",
-        .editTitle = "Edit Grade Numbers",
+        .emptyMessage = QT_TRANSLATE_NOOP("ReferenceKinds", "Grade Number not Entered"),
+        .editTitle = QT_TRANSLATE_NOOP("ReferenceKinds", "Edit Grade Numbers"),
         .editField = "GradeNumberTextField",
         .lookupFormat = "grade = %@",
         .saveAction = "SaveGenre",
@@ -76,10 +85,10 @@ const ReferenceValueKind& grade() {
 const ReferenceValueKind& strike() {
     static const ReferenceValueKind kind{
         .list = &strikeList(),
-        .addTitle = "Add Strike Character",
+        .addTitle = QT_TRANSLATE_NOOP("ReferenceKinds", "Add Strike Character"),
         .addField = "StrikeTextField",
-        .emptyMessage = "Strike Character not Entered",
-        .editTitle = "Edit Strike Characters",
+        .emptyMessage = QT_TRANSLATE_NOOP("ReferenceKinds", "Strike Character not Entered"),
+        .editTitle = QT_TRANSLATE_NOOP("ReferenceKinds", "Edit Strike Characters"),
         .editField = "StrikeCharacterTextField",
         .lookupFormat = "strike = %@",
         .saveAction = "SaveGenre",
@@ -91,10 +100,10 @@ const ReferenceValueKind& strike() {
 const ReferenceValueKind& edge() {
     static const ReferenceValueKind kind{
         .list = &edgeList(),
-        .addTitle = "Add Edge",
+        .addTitle = QT_TRANSLATE_NOOP("ReferenceKinds", "Add Edge"),
         .addField = "EdgeTextField",
-        .emptyMessage = "Edge not Entered",
-        .editTitle = "Edit Edge",
+        .emptyMessage = QT_TRANSLATE_NOOP("ReferenceKinds", "Edge not Entered"),
+        .editTitle = QT_TRANSLATE_NOOP("ReferenceKinds", "Edit Edge"),
         .editField = "EdgeTextField",
         .lookupFormat = "edge = %@",
         .saveAction = "SaveEdge",

@@ -3,10 +3,14 @@
 // for the list screens, one for their add and edit screens. Nothing else differs.
 #include <QString>
 
+// The texts shown (const char*) are kept untranslated and shown through ReferenceKinds::tr().
 struct ReferenceListKind {
-    QString hubButton, hubTitle, listSegue; // the hub's button and the segue it performs
-    QString entity, attribute;              // the record type and its one text attribute
-    QString title, placeholder;
+    QString hubButton, listSegue; // the hub's button and the segue it performs
+    const char* hubTitle;
+    QString entity, attribute; // the record type and its one text attribute
+    const char* title;
+    const char* placeholder;
+    const char* valueName; // what a screen reader calls the value's field
     QString editSegue, addSegue;
     QString unwind;     // the return of the add and edit screens
     QString* selection; // the selection variable a row choice writes
@@ -14,13 +18,18 @@ struct ReferenceListKind {
 
 struct ReferenceValueKind {
     const ReferenceListKind* list; // the entity, attribute and selection variable
-    QString addTitle, addField, emptyMessage;
-    QString editTitle, editField, lookupFormat;
+    const char* addTitle;
+    QString addField;
+    const char* emptyMessage;
+    const char* editTitle;
+    QString editField, lookupFormat;
     QString saveAction; // also the save button's object name
     QString returnSegue;
 };
 
 namespace ReferenceKinds {
+// A text of the tables below, translated.
+QString tr(const char* text);
 const ReferenceListKind& gradeList();
 const ReferenceListKind& strikeList();
 const ReferenceListKind& edgeList();

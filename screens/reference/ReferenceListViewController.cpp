@@ -12,7 +12,7 @@ ReferenceListViewController::ReferenceListViewController(QWidget* parent)
     layout->setSpacing(16);
     layout->addStretch(1);
     auto button = [&](const ReferenceListKind& kind) {
-        auto* b = new QPushButton(kind.hubTitle, this);
+        auto* b = new QPushButton(ReferenceKinds::tr(kind.hubTitle), this);
         b->setObjectName(kind.hubButton);
         b->setMinimumHeight(48);
         layout->addWidget(b);
@@ -27,7 +27,7 @@ ReferenceListViewController::ReferenceListViewController(QWidget* parent)
 }
 
 void ReferenceListViewController::viewDidLoad() {
-    setTitle(QStringLiteral("Reference Lists"));
+    setTitle(tr("Reference Lists"));
     for (QPushButton* b : {GradeNumberButton, StrikeCharacterButton, EdgeButton})
         Styling::round(b, 10, 2, Qt::black);
 }

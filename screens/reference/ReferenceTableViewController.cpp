@@ -29,25 +29,27 @@ ReferenceTableViewController::ReferenceTableViewController(const ReferenceListKi
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(tableView);
+    tableView->listView()->setAccessibleName(ReferenceKinds::tr(kind.title));
     tableView->registerCell(QStringLiteral("Cell"), [] { return new TextTableViewCell; });
     registerUnwindAction(kind.unwind, [this](StoryboardSegue& s) { unwindToTableView(s); });
 }
 
 void ReferenceTableViewController::viewDidLoad() {
-    setTitle(kind_.title);
+    setTitle(ReferenceKinds::tr(kind_.title));
     searchController->searchResultsUpdater = [this](SearchController* s) {
         updateSearchResults(s);
     };
     searchController->hidesNavigationBarDuringPresentation = false;
     searchController->obscuresBackgroundDuringPresentation = false;
     tableView->setTableHeaderView(searchController);
-    searchController->setPlaceholderText(kind_.placeholder);
+    searchController->setPlaceholderText(ReferenceKinds::tr(kind_.placeholder));
+    searchController->setAccessibleName(ReferenceKinds::tr(kind_.placeholder));
     SortAsc = true;
     tableView->setDataSource(this);
     after(0, [this] { fetch(); });
-    navigationItem().rightItems = {{QStringLiteral("Add"), [this] { performSegue(kind_.addSegue); },
-                                    nullptr, QStringLiteral("AddButton"), QStringLiteral("plus")},
-                                   {QStringLiteral("Sort"), [this] { SortButtonTapped(); }, nullptr,
+    navigationItem().rightItems = {{tr("Add"), [this] { performSegue(kind_.addSegue); }, nullptr,
+                                    QStringLiteral("AddButton"), QStringLiteral("plus")},
+                                   {tr("Sort"), [this] { SortButtonTapped(); }, nullptr,
                                     QStringLiteral("SortButton"),
                                     QStringLiteral("arrow.up.arrow.down")}};
     updateNavigationBar();
@@ -153,6 +155,11 @@ TableViewCell* ReferenceTableViewController::cellForRow(TableView* table, IndexP
     return cell;
 }
 
+QString ReferenceTableViewController::accessibleTextForRow(TableView*, IndexPath path) {
+    const ObjectPtr& record = listInUse().at(recordIndex(path.row));
+    return record->hasValue(attribute_) ? valueOf(record) : QString();
+}
+
 void ReferenceTableViewController::didSelectRow(TableView* table, IndexPath path) {
     const ObjectPtr record = listInUse().at(recordIndex(path.row));
     if (!record->hasValue(attribute_))
@@ -173,7 +180,7 @@ void ReferenceTableViewController::prepareForSegue(StoryboardSegue& segue, QObje
 }
 
 QList<SwipeAction> ReferenceTableViewController::trailingSwipeActions(TableView*, IndexPath) {
-    return {{QStringLiteral("delete"), true, [this](IndexPath path) {
+    return {{tr("delete"), true, [this](IndexPath path) {
                  QList<ObjectPtr>& list = listInUse();
                  const int index = recordIndex(path.row);
                  context->deleteObject(list.at(index));

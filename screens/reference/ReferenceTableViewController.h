@@ -37,6 +37,7 @@ public:
 
     int numberOfRows(TableView*, int section) override;
     TableViewCell* cellForRow(TableView* table, IndexPath path) override;
+    QString accessibleTextForRow(TableView*, IndexPath path) override;
     void didSelectRow(TableView* table, IndexPath path) override;
     QList<SwipeAction> trailingSwipeActions(TableView* table, IndexPath path) override;
 

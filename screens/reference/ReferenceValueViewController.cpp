@@ -12,10 +12,11 @@ ReferenceValueViewController::ReferenceValueViewController(const ReferenceValueK
                                                            QWidget* parent)
     : ViewController(parent)
     , textField(new TextField(this))
-    , SaveButton(new QPushButton(QStringLiteral("Save"), this))
+    , SaveButton(new QPushButton(tr("Save"), this))
     , kind_(kind)
     , attribute_(Model::entity(kind.list->entity)->indexOf(kind.list->attribute)) {
     textField->setObjectName(fieldName);
+    textField->setAccessibleName(ReferenceKinds::tr(kind.list->valueName));
     textField->setMinimumHeight(40);
     SaveButton->setObjectName(kind.saveAction);
     SaveButton->setMinimumHeight(44);

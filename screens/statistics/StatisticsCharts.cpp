@@ -6,6 +6,7 @@
 #include <QBarSet>
 #include <QChart>
 #include <QChartView>
+#include <QCoreApplication>
 #include <QCursor>
 #include <QDateTimeAxis>
 #include <QHorizontalBarSeries>
@@ -65,7 +66,7 @@ void showSeries(QChartView* view, const QList<ValueHistory::DayTotal>& days) {
     for (QAbstractAxis* axis : chart->axes())
         chart->removeAxis(axis);
     auto* line = new QLineSeries;
-    line->setName(QStringLiteral("Value"));
+    line->setName(QCoreApplication::translate("StatisticsCharts", "Value"));
     QList<QPointF> points;
     points.reserve(days.size());
     double low = 0, high = 0;
@@ -102,7 +103,8 @@ void showShares(QChartView* view, const QList<Holdings::Share>& shares, const QS
     chart->removeAllSeries();
     for (QAbstractAxis* axis : chart->axes())
         chart->removeAxis(axis);
-    auto* set = new QBarSet(byValue ? QStringLiteral("Value") : QStringLiteral("Pieces"));
+    auto* set = new QBarSet(byValue ? QCoreApplication::translate("StatisticsCharts", "Value")
+                                    : QCoreApplication::translate("StatisticsCharts", "Pieces"));
     QStringList names;
     double low = 0, high = 0;
     // Largest at the top: a horizontal bar chart draws its first category at the bottom.
@@ -113,7 +115,8 @@ void showShares(QChartView* view, const QList<Holdings::Share>& shares, const QS
         low = std::min(low, figure);
         high = std::max(high, figure);
         // Categories must differ: an empty name is shown as such.
-        names << (s.name.isEmpty() ? QStringLiteral("(none)") : s.name);
+        names << (s.name.isEmpty() ? QCoreApplication::translate("StatisticsCharts", "(none)")
+                                   : s.name);
     }
     auto* series = new QHorizontalBarSeries;
     series->append(set);
@@ -125,10 +128,11 @@ void showShares(QChartView* view, const QList<Holdings::Share>& shares, const QS
     QObject::connect(set, &QBarSet::hovered, view, [shares](bool on, int index) {
         const qsizetype i = shares.size() - 1 - index;
         if (on && i >= 0 && i < shares.size())
-            QToolTip::showText(QCursor::pos(), QStringLiteral("%1: %2 pieces, %3")
-                                                   .arg(shares[i].name)
-                                                   .arg(shares[i].pieces)
-                                                   .arg(Currency::text(shares[i].value)));
+            QToolTip::showText(QCursor::pos(),
+                               QCoreApplication::translate("StatisticsCharts", "%1: %2 pieces, %3")
+                                   .arg(shares[i].name)
+                                   .arg(shares[i].pieces)
+                                   .arg(Currency::text(shares[i].value)));
     });
 }
 

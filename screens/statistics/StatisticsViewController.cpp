@@ -19,6 +19,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTableWidget>
 
@@ -30,12 +31,28 @@ constexpr int kLargest = 10;
 // The largest changes listed.
 constexpr int kChanges = 50;
 
-const char* const kTabTitles[] = {"Value", "Countries", "Denominations", "Decades", "Changes"};
+const char* const kTabTitles[] = {QT_TRANSLATE_NOOP("StatisticsViewController", "Value"),
+                                  QT_TRANSLATE_NOOP("StatisticsViewController", "Countries"),
+                                  QT_TRANSLATE_NOOP("StatisticsViewController", "Denominations"),
+                                  QT_TRANSLATE_NOOP("StatisticsViewController", "Decades"),
+                                  QT_TRANSLATE_NOOP("StatisticsViewController", "Changes")};
+// What a screen reader calls each tab's chart and table.
+const char* const kChartNames[] = {
+    QT_TRANSLATE_NOOP("StatisticsViewController", "Chart of the value over time"),
+    QT_TRANSLATE_NOOP("StatisticsViewController", "Chart of the value by country"),
+    QT_TRANSLATE_NOOP("StatisticsViewController", "Chart of the value by denomination"),
+    QT_TRANSLATE_NOOP("StatisticsViewController", "Chart of the pieces by decade"), nullptr};
+const char* const kTableNames[] = {
+    QT_TRANSLATE_NOOP("StatisticsViewController", "Statistics: value by day"),
+    QT_TRANSLATE_NOOP("StatisticsViewController", "Statistics: pieces and value by country"),
+    QT_TRANSLATE_NOOP("StatisticsViewController", "Statistics: pieces and value by denomination"),
+    QT_TRANSLATE_NOOP("StatisticsViewController", "Statistics: pieces and value by decade"),
+    QT_TRANSLATE_NOOP("StatisticsViewController", "Statistics: largest changes")};
 const char* const kFileNames[] = {"Pelvane-value", "Pelvane-countries", "Pelvane-denominations",
                                   "Pelvane-decades", "Pelvane-changes"};
 
 QString nameOrNone(const QString& name) {
-    return name.isEmpty() ? QStringLiteral("(none)") : name;
+    return name.isEmpty() ? StatisticsViewController::tr("(none)") : name;
 }
 
 QString coinName(const ValueHistory::Event& e) {
@@ -65,21 +82,24 @@ void fillRow(QTableWidget* table, int row, const QStringList& cells) {
 
 StatisticsViewController::StatisticsViewController(QWidget* parent)
     : ViewController(parent)
-    , MonthButton(new QPushButton(QStringLiteral("Month"), this))
-    , YearButton(new QPushButton(QStringLiteral("Year"), this))
-    , AllButton(new QPushButton(QStringLiteral("All"), this))
+    , MonthButton(new QPushButton(tr("Month"), this))
+    , YearButton(new QPushButton(tr("Year"), this))
+    , AllButton(new QPushButton(tr("All"), this))
     , SummaryLabel(new QLabel(this))
     , ChartTabs(new QTabWidget(this)) {
-    setTitle(QStringLiteral("Statistics"));
+    setTitle(tr("Statistics"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 8, 12, 12);
     auto* top = new QHBoxLayout;
     auto* ranges = new QButtonGroup(this);
-    const std::pair<QPushButton*, Range> buttons[] = {
-        {MonthButton, Range::Month}, {YearButton, Range::Year}, {AllButton, Range::All}};
-    for (const auto& [button, r] : buttons) {
+    // Named apart from their texts, which are translated.
+    const std::tuple<QPushButton*, Range, const char*> buttons[] = {
+        {MonthButton, Range::Month, "MonthButton"},
+        {YearButton, Range::Year, "YearButton"},
+        {AllButton, Range::All, "AllButton"}};
+    for (const auto& [button, r, name] : buttons) {
         button->setCheckable(true);
-        button->setObjectName(button->text() + QStringLiteral("Button"));
+        button->setObjectName(QString::fromLatin1(name));
         ranges->addButton(button);
         top->addWidget(button);
         connect(button, &QPushButton::clicked, this, [this, r = r] { setRange(r); });
@@ -92,10 +112,11 @@ StatisticsViewController::StatisticsViewController(QWidget* parent)
     layout->addLayout(top);
     ChartTabs->setObjectName(QStringLiteral("ChartTabs"));
     ChartTabs->setUsesScrollButtons(true);
+    ChartTabs->setAccessibleName(tr("Statistics"));
+    ChartTabs->tabBar()->setAccessibleName(tr("Statistics"));
     layout->addWidget(ChartTabs, 1);
     for (int p = 0; p < PageCount; ++p)
-        ChartTabs->addTab(page(Page(p), QString::fromLatin1(kTabTitles[p])),
-                          QString::fromLatin1(kTabTitles[p]));
+        ChartTabs->addTab(page(Page(p), QString::fromLatin1(kTabTitles[p])), tr(kTabTitles[p]));
     connect(ChartTabs, &QTabWidget::currentChanged, this, [this](int p) {
         load(p);
         navigationItem().rightItems[0].enabled = Charts[p] != nullptr;
@@ -106,10 +127,10 @@ StatisticsViewController::StatisticsViewController(QWidget* parent)
     connect(
         Tables[ChangesPage], &QTableWidget::cellActivated, this,
         [this](int row, int) { OpenChange(row); }, Qt::QueuedConnection);
-    navigationItem().rightItems = {{QStringLiteral("Save Chart…"), [this] { SaveChart(); }, nullptr,
-                                    QStringLiteral("SaveChartButton")},
-                                   {QStringLiteral("Export Data…"), [this] { ExportData(); },
-                                    nullptr, QStringLiteral("ExportDataButton")}};
+    navigationItem().rightItems = {
+        {tr("Save Chart…"), [this] { SaveChart(); }, nullptr, QStringLiteral("SaveChartButton")},
+        {tr("Export Data…"), [this] { ExportData(); }, nullptr,
+         QStringLiteral("ExportDataButton")}};
 }
 
 QWidget* StatisticsViewController::page(Page p, const QString& title) {
@@ -120,19 +141,25 @@ QWidget* StatisticsViewController::page(Page p, const QString& title) {
     if (p != ChangesPage) {
         Charts[p] = StatisticsCharts::makeView(widget);
         Charts[p]->setObjectName(title + QStringLiteral("Chart"));
+        // The chart takes focus through its viewport, which a reader names as the chart.
+        Charts[p]->setAccessibleName(tr(kChartNames[p]));
+        Charts[p]->viewport()->setAccessibleName(tr(kChartNames[p]));
         box->addWidget(Charts[p], 3);
     }
     auto* table = new QTableWidget(widget);
     table->setObjectName(title + QStringLiteral("Table"));
+    table->setAccessibleName(tr(kTableNames[p]));
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->verticalHeader()->hide();
     table->horizontalHeader()->setStretchLastSection(true);
-    const QStringList headers[] = {{"Date", "Pieces", "Value"},
-                                   {"Country", "Pieces", "Value"},
-                                   {"Denomination", "Pieces", "Value"},
-                                   {"Decade", "Pieces", "Value"},
-                                   {"Coin", "Before", "After", "Date", "Cause"}};
+    table->horizontalHeader()->setAccessibleName(tr("Columns"));
+    const QStringList headers[] = {
+        {tr("Date"), tr("Pieces"), tr("Value")},
+        {tr("Country"), tr("Pieces"), tr("Value")},
+        {tr("Denomination"), tr("Pieces"), tr("Value")},
+        {tr("Decade"), tr("Pieces"), tr("Value")},
+        {tr("Coin"), tr("Before"), tr("After"), tr("Date"), tr("Cause")}};
     table->setColumnCount(int(headers[p].size()));
     table->setHorizontalHeaderLabels(headers[p]);
     Tables[p] = table;
@@ -192,8 +219,7 @@ void StatisticsViewController::load(int p) {
             pieces += s.pieces;
             value += s.value;
         }
-        SummaryLabel->setText(
-            QStringLiteral("%1 pieces, worth %2").arg(pieces).arg(Currency::text(value)));
+        SummaryLabel->setText(tr("%1 pieces, worth %2").arg(pieces).arg(Currency::text(value)));
     }
     switch (Page(p)) {
     case ValuePage:
@@ -201,11 +227,11 @@ void StatisticsViewController::load(int p) {
         fillValue();
         break;
     case CountryPage:
-        fillShares(CountryPage, Countries, QStringLiteral("Country"));
+        fillShares(CountryPage, Countries, tr("Country"));
         break;
     case DenominationPage:
         read(Holdings::by(*managedObjectContext, Holdings::By::Denomination), Denominations);
-        fillShares(DenominationPage, Denominations, QStringLiteral("Denomination"));
+        fillShares(DenominationPage, Denominations, tr("Denomination"));
         break;
     case DecadePage:
         read(Holdings::by(*managedObjectContext, Holdings::By::Decade), Decades);
@@ -232,7 +258,8 @@ void StatisticsViewController::fillValue() {
 
 void StatisticsViewController::fillShares(Page p, const QList<Holdings::Share>& all,
                                           const QString& what) {
-    const QList<Holdings::Share> shown = Holdings::largest(all, kLargest, QStringLiteral("Other"));
+    // The rest under a translated name on screen; the CSV file keeps "Other".
+    const QList<Holdings::Share> shown = Holdings::largest(all, kLargest, tr("Other"));
     StatisticsCharts::showShares(Charts[p], shown, what, /*byValue*/ true);
     QTableWidget* table = Tables[p];
     table->setRowCount(int(shown.size()));
@@ -243,7 +270,7 @@ void StatisticsViewController::fillShares(Page p, const QList<Holdings::Share>& 
 }
 
 void StatisticsViewController::fillDecades() {
-    StatisticsCharts::showShares(Charts[DecadePage], Decades, QStringLiteral("Decade"),
+    StatisticsCharts::showShares(Charts[DecadePage], Decades, tr("Decade"),
                                  /*byValue*/ false);
     QTableWidget* table = Tables[DecadePage];
     table->setRowCount(int(Decades.size()));
@@ -323,15 +350,14 @@ void StatisticsViewController::SaveChart() {
         return;
     Platform::documentPicker().save(
         this, Files::documentsDirectory() + QLatin1String(kFileNames[p]) + QStringLiteral(".png"),
-        {QStringLiteral("PNG pictures (*.png)")},
+        {tr("PNG pictures (*.png)")},
         [this, p](const QString& path) {
             QByteArray bytes;
             QBuffer buffer(&bytes);
             buffer.open(QIODevice::WriteOnly);
             Charts[p]->grab().save(&buffer, "PNG");
             if (const auto written = Files::writeAtomically(path, bytes); !written.ok())
-                present(AlertController::okAlert(QStringLiteral("Chart Not Saved"),
-                                                 written.error().message));
+                present(AlertController::okAlert(tr("Chart Not Saved"), written.error().message));
         },
         {});
 }
@@ -340,11 +366,10 @@ void StatisticsViewController::ExportData() {
     const int p = ChartTabs->currentIndex();
     Platform::documentPicker().save(
         this, Files::documentsDirectory() + QLatin1String(kFileNames[p]) + QStringLiteral(".csv"),
-        {QStringLiteral("CSV files (*.csv)")},
+        {tr("CSV files (*.csv)")},
         [this, p](const QString& path) {
             if (const auto written = Files::writeAtomically(path, csv(Page(p))); !written.ok())
-                present(AlertController::okAlert(QStringLiteral("Data Not Exported"),
-                                                 written.error().message));
+                present(AlertController::okAlert(tr("Data Not Exported"), written.error().message));
         },
         {});
 }

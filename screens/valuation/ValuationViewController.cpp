@@ -63,17 +63,19 @@ ValuationViewController::ValuationViewController(QWidget* parent)
         label->setFont(small);
         auto* f = new TextField(box);
         f->setObjectName(QString::fromLatin1(name));
+        label->setBuddy(f);
+        f->setAccessibleName(caption);
         f->setPlaceholderText(caption);
         column->addWidget(label);
         column->addWidget(f);
         captioned_.append(box);
         return f;
     };
-    QuantityTextField = field("QuantityTextField", QStringLiteral("Coins"));
-    TotalValueTextField = field("TotalValueTextField", QStringLiteral("Total Value"));
-    YearTextField = field("YearTextField", QStringLiteral("Year"));
-    DenominationTextField = field("DenominationTextField", QStringLiteral("Denomination"));
-    NewValueTextField = field("NewValueTextField", QStringLiteral("New Value"));
+    QuantityTextField = field("QuantityTextField", tr("Coins"));
+    TotalValueTextField = field("TotalValueTextField", tr("Total Value"));
+    YearTextField = field("YearTextField", tr("Year"));
+    DenominationTextField = field("DenominationTextField", tr("Denomination"));
+    NewValueTextField = field("NewValueTextField", tr("New Value"));
     // The totals are figures to read, not to type over.
     QuantityTextField->setReadOnly(true);
     TotalValueTextField->setReadOnly(true);
@@ -83,13 +85,18 @@ ValuationViewController::ValuationViewController(QWidget* parent)
         b->setMinimumHeight(36);
         return b;
     };
-    SearchButton = button("SearchButton", QStringLiteral("Search Web"));
-    PCGSButton = button("PCGSButton", QStringLiteral("PCGS"));
-    NGCCoinButton = button("NGCCoinButton", QStringLiteral("NGC"));
-    SaveButton = button("SaveButton", QStringLiteral("Save"));
+    SearchButton = button("SearchButton", tr("Search Web"));
+    // The grading services' names; a reader hears where the button leads.
+    PCGSButton = button("PCGSButton", tr("PCGS"));
+    PCGSButton->setAccessibleName(tr("PCGS price guide"));
+    NGCCoinButton = button("NGCCoinButton", tr("NGC"));
+    NGCCoinButton->setAccessibleName(tr("NGC price guide"));
+    SaveButton = button("SaveButton", tr("Save"));
+    SaveButton->setAccessibleName(tr("Save the new value"));
     arrange(false);
 
     ValueTableView->setObjectName(QStringLiteral("ValueTableView"));
+    ValueTableView->listView()->setAccessibleName(tr("Coins and their values"));
     ValueTableView->registerCell(QStringLiteral("Cell"), [] { return new ValuationTableViewCell; });
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 8, 0, 0);
@@ -105,7 +112,7 @@ ValuationViewController::ValuationViewController(QWidget* parent)
 }
 
 void ValuationViewController::viewDidLoad() {
-    setTitle(QStringLiteral("Coin Valuation"));
+    setTitle(tr("Coin Valuation"));
     for (QPushButton* b : {SearchButton, PCGSButton, NGCCoinButton, SaveButton})
         Styling::round(b, 10, 2, Qt::black);
     // A tap beside the fields ends editing; the tap itself goes on to whatever it hit.
@@ -114,8 +121,8 @@ void ValuationViewController::viewDidLoad() {
     NewValueTextField->setDelegate(this);
     SaveButton->setEnabled(false);
     DarkMode = Appearance::isDark();
-    navigationItem().rightItems = {{QStringLiteral("Share"), [this] { shareButtonClicked(); },
-                                    nullptr, QStringLiteral("ShareButton")}};
+    navigationItem().rightItems = {
+        {tr("Share"), [this] { shareButtonClicked(); }, nullptr, QStringLiteral("ShareButton")}};
     updateNavigationBar();
     loadCoins();
 }
@@ -148,11 +155,21 @@ TableViewCell* ValuationViewController::cellForRow(TableView* table, IndexPath p
     cell->setDarkMode(DarkMode);
     cell->CoinImage->setImage(coin.hasValue(Coins::Attr::frontImage) ? pictures_.front(coin)
                                                                      : placeholderPicture());
-    cell->DenominationLabel->setText(QStringLiteral("Denomination: ") + coin.denomination() +
-                                     QStringLiteral("  Year: ") + QString::number(coin.year()));
-    cell->SecondLabel->setText(QStringLiteral("Quantity: ") + QString::number(coin.quantity()));
-    cell->ThirdLabel->setText(QStringLiteral("Value: ") + Currency::text(double(coin.value())));
+    const QStringList lines = rowLines(coin);
+    cell->DenominationLabel->setText(lines[0]);
+    cell->SecondLabel->setText(lines[1]);
+    cell->ThirdLabel->setText(lines[2]);
     return cell;
+}
+
+QStringList ValuationViewController::rowLines(const Coins& coin) {
+    return {tr("Denomination: %1  Year: %2").arg(coin.denomination(), QString::number(coin.year())),
+            tr("Quantity: %1").arg(coin.quantity()),
+            tr("Value: %1").arg(Currency::text(double(coin.value())))};
+}
+
+QString ValuationViewController::accessibleTextForRow(TableView*, IndexPath path) {
+    return rowLines(*CoinList.at(path.row)).join(QStringLiteral(", "));
 }
 
 void ValuationViewController::didSelectRow(TableView* table, IndexPath path) {
@@ -179,9 +196,8 @@ bool ValuationViewController::shouldChangeCharacters(QObject*, int, int,
 
 void ValuationViewController::FindValueOnWeb() {
     if (YearTextField->text().isEmpty() || DenominationTextField->text().isEmpty()) {
-        present(AlertController::okAlert(
-            QStringLiteral("No Search"),
-            QStringLiteral("Required Fields Year and Denomination Not Entered")));
+        present(AlertController::okAlert(tr("No Search"),
+                                         tr("Required Fields Year and Denomination Not Entered")));
         return;
     }
     const QUrl url =
@@ -211,8 +227,7 @@ void ValuationViewController::shareButtonClicked() {
 
 void ValuationViewController::SaveNewCardButtonClicked() {
     if (NewValueTextField->text().isEmpty()) {
-        present(AlertController::okAlert(QStringLiteral("Record not Saved!"),
-                                         QStringLiteral("New Value not Entered")));
+        present(AlertController::okAlert(tr("Record not Saved!"), tr("New Value not Entered")));
         return;
     }
     // The denomination and year of the row tapped last, not the fields' texts.

@@ -28,6 +28,9 @@ public:
 
     int numberOfRows(TableView*, int section) override;
     TableViewCell* cellForRow(TableView* table, IndexPath path) override;
+    QString accessibleTextForRow(TableView*, IndexPath path) override;
+    // The three lines of a coin's row, as drawn and as read.
+    static QStringList rowLines(const Coins& coin);
     int heightForRow(TableView*, IndexPath) override { return 100; }
     void didSelectRow(TableView* table, IndexPath path) override;
     // The new value takes digits and points only; how many points is not checked here.
