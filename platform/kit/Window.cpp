@@ -5,6 +5,7 @@
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/TabBarController.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -90,6 +91,9 @@ void Window::showBanner(QWidget* banner, QWidget* screen) {
     bannerScreen_ = screen;
     static_cast<QVBoxLayout*>(layout())->insertWidget(0, banner);
     banner->show();
+    // Told at once, as an alert is, where the reader is elsewhere in the window.
+    QAccessibleEvent shown(banner, QAccessible::Alert);
+    QAccessible::updateAccessibility(&shown);
     if (screen) {
         screen->installEventFilter(this);
         connect(screen, &QObject::destroyed, banner, &QObject::deleteLater);
