@@ -12,6 +12,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -109,6 +110,14 @@ bool Window::eventFilter(QObject* watched, QEvent* event) {
         bannerScreen_->removeEventFilter(this);
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void Window::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (event->spontaneous() || focusWidget())
+        return;
+    if (ViewController* front = frontScreen())
+        front->takeKeyboardFocus();
 }
 
 void Window::resizeEvent(QResizeEvent* event) {
