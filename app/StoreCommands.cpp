@@ -13,6 +13,7 @@
 #include "platform/kit/ViewController.h"
 #include "platform/kit/Window.h"
 
+#include <QCoreApplication>
 #include <QFutureWatcher>
 #include <QLocale>
 #include <QTimer>
