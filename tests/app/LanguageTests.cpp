@@ -17,7 +17,7 @@ namespace {
 // The texts of a menu's entries that did not go through the translation (shortcuts aside).
 QStringList unmarkedEntries(const QMenu* menu) {
     QStringList out;
-    if (!menu->title().contains(QChar(Walks::MarkingTranslator::kMark)))
+    if (!menu->title().isEmpty() && !menu->title().contains(QChar(Walks::MarkingTranslator::kMark)))
         out << menu->title();
     for (const QAction* a : menu->actions())
         if (!a->isSeparator() && !a->text().contains(QChar(Walks::MarkingTranslator::kMark)))
