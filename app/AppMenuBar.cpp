@@ -19,9 +19,13 @@
 #include <QPushButton>
 
 namespace {
+QString trMenu(const char* text) {
+    return QCoreApplication::translate("AppMenuBar", text);
+}
+
 // The licence the About box states; the project names no other.
-const char* const kLicence =
-    "Licence: this copy of Pelvane is provided as is, without warranty of any kind.";
+const char* const kLicence = QT_TRANSLATE_NOOP(
+    "AppMenuBar", "Licence: this copy of Pelvane is provided as is, without warranty of any kind.");
 
 // Back to the start screen, then on by the segue its button performs; `then` runs on the
 // screen that segue opened.
@@ -49,9 +53,6 @@ void onImportExport(Window& window, MainMenuViewController* menu,
             then(hub);
     });
 }
-QString trEdit(const char* text) {
-    return QCoreApplication::translate("AppMenuBar", text);
-}
 
 // Undo or Redo from the Edit menu: a form with unsaved changes asks first, since it is filled
 // again with what the store then holds; the screens in front show the result at once.
@@ -69,7 +70,9 @@ void undoOrRedo(Window& window, bool redo, bool asked = false) {
         return;
     }
     if (ViewController* front = window.frontScreen())
-        StoreChanges::report(front, redo ? trEdit("Cannot Redo") : trEdit("Cannot Undo"),
+        StoreChanges::report(front,
+                             redo ? QCoreApplication::translate("AppMenuBar", "Cannot Redo")
+                                  : QCoreApplication::translate("AppMenuBar", "Cannot Undo"),
                              redo ? Journal::redo(*context) : Journal::undo(*context));
 }
 
@@ -78,10 +81,12 @@ void nameUndoAndRedo(QAction* undo, QAction* redo) {
     ManagedObjectContext* context = Application::viewContext();
     const auto undoable = context ? Journal::undoable(*context).valueOr({}) : std::nullopt;
     const auto redoable = context ? Journal::redoable(*context).valueOr({}) : std::nullopt;
-    undo->setText(undoable ? trEdit("Undo %1").arg(Journal::commandName(*undoable))
-                           : trEdit("Undo"));
-    redo->setText(redoable ? trEdit("Redo %1").arg(Journal::commandName(*redoable))
-                           : trEdit("Redo"));
+    undo->setText(undoable ? QCoreApplication::translate("AppMenuBar", "Undo %1")
+                                 .arg(Journal::commandName(*undoable))
+                           : QCoreApplication::translate("AppMenuBar", "Undo"));
+    redo->setText(redoable ? QCoreApplication::translate("AppMenuBar", "Redo %1")
+                                 .arg(Journal::commandName(*redoable))
+                           : QCoreApplication::translate("AppMenuBar", "Redo"));
     undo->setEnabled(bool(undoable));
     redo->setEnabled(bool(redoable));
 }
@@ -90,9 +95,10 @@ void nameUndoAndRedo(QAction* undo, QAction* redo) {
 namespace AppMenuBar {
 
 QString aboutText() {
-    return QStringLiteral("Pelvane %1\n\nA catalogue of a personal coin collection that keeps "
-                          "everything on your machine.\n\n%2")
-        .arg(QStringLiteral(PELVANE_VERSION), QString::fromLatin1(kLicence));
+    return QCoreApplication::translate(
+               "AppMenuBar", "Pelvane %1\n\nA catalogue of a personal coin collection that keeps "
+                             "everything on your machine.\n\n%2")
+        .arg(QStringLiteral(PELVANE_VERSION), trMenu(kLicence));
 }
 
 QMenuBar* install(Window& window, MainMenuViewController* menu) {
@@ -109,32 +115,34 @@ QMenuBar* install(Window& window, MainMenuViewController* menu) {
         return a;
     };
 
-    QMenu* file = bar->addMenu(QStringLiteral("&File"));
-    entry(file, QStringLiteral("Import Coins\u2026"), {},
+    QMenu* file = bar->addMenu(QCoreApplication::translate("AppMenuBar", "&File"));
+    entry(file, QCoreApplication::translate("AppMenuBar", "Import Coins…"), {},
           [w, start] { onImportExport(*w, start, [](auto* hub) { hub->ImportButton->click(); }); });
-    entry(file, QStringLiteral("Export Coins\u2026"), {},
+    entry(file, QCoreApplication::translate("AppMenuBar", "Export Coins…"), {},
           [w, start] { onImportExport(*w, start, [](auto* hub) { hub->ExportButton->click(); }); });
     file->addSeparator();
-    entry(file, QStringLiteral("Back Up Collection\u2026"), {},
+    entry(file, QCoreApplication::translate("AppMenuBar", "Back Up Collection…"), {},
           [w, start] { onImportExport(*w, start, [](auto* hub) { hub->BackupButton->click(); }); });
-    entry(file, QStringLiteral("Restore From Backup\u2026"), {}, [w, start] {
+    entry(file, QCoreApplication::translate("AppMenuBar", "Restore From Backup…"), {}, [w, start] {
         onImportExport(*w, start, [](auto* hub) { hub->RestoreButton->click(); });
     });
     file->addSeparator();
-    entry(file, QStringLiteral("Quit"), QKeySequence(QStringLiteral("Ctrl+Q")),
-          [w] { w->close(); });
+    entry(file, QCoreApplication::translate("AppMenuBar", "Quit"),
+          QKeySequence(QStringLiteral("Ctrl+Q")), [w] { w->close(); });
 
-    QMenu* edit = bar->addMenu(trEdit("&Edit"));
+    QMenu* edit = bar->addMenu(QCoreApplication::translate("AppMenuBar", "&Edit"));
     edit->setObjectName(QStringLiteral("EditMenu"));
-    QAction* undo = entry(edit, trEdit("Undo"), QKeySequence::Undo, [w] { undoOrRedo(*w, false); });
+    QAction* undo = entry(edit, QCoreApplication::translate("AppMenuBar", "Undo"),
+                          QKeySequence::Undo, [w] { undoOrRedo(*w, false); });
     undo->setObjectName(QStringLiteral("UndoAction"));
-    QAction* redo = entry(edit, trEdit("Redo"), QKeySequence(QStringLiteral("Ctrl+Shift+Z")),
-                          [w] { undoOrRedo(*w, true); });
+    QAction* redo =
+        entry(edit, QCoreApplication::translate("AppMenuBar", "Redo"),
+              QKeySequence(QStringLiteral("Ctrl+Shift+Z")), [w] { undoOrRedo(*w, true); });
     redo->setObjectName(QStringLiteral("RedoAction"));
     edit->addSeparator();
-    entry(edit, trEdit("Recent Changes\u2026"), {},
+    entry(edit, QCoreApplication::translate("AppMenuBar", "Recent Changes…"), {},
           [w, start] { go(*w, start, QStringLiteral("RecentChanges")); });
-    entry(edit, trEdit("Recently Deleted\u2026"), {}, [w, start] {
+    entry(edit, QCoreApplication::translate("AppMenuBar", "Recently Deleted…"), {}, [w, start] {
         go(*w, start, QStringLiteral("RecentChanges"), [](ViewController* screen) {
             if (Storyboard::hasSegue(QStringLiteral("RecentlyDeleted")))
                 screen->performSegue(QStringLiteral("RecentlyDeleted"));
@@ -155,12 +163,13 @@ QMenuBar* install(Window& window, MainMenuViewController* menu) {
             front->storeChanged();
     });
 
-    QMenu* view = bar->addMenu(QStringLiteral("&View"));
+    QMenu* view = bar->addMenu(QCoreApplication::translate("AppMenuBar", "&View"));
     auto* views = new QActionGroup(view);
     for (auto [title, presentation] :
-         {std::pair{QStringLiteral("Cards"), CoinListView::Presentation::Cards},
-          std::pair{QStringLiteral("Table"), CoinListView::Presentation::Table}}) {
-        QAction* a = entry(view, title, {}, [p = presentation] { CoinListView::choose(p); });
+         {std::pair{QT_TRANSLATE_NOOP("AppMenuBar", "Cards"), CoinListView::Presentation::Cards},
+          std::pair{QT_TRANSLATE_NOOP("AppMenuBar", "Table"), CoinListView::Presentation::Table}}) {
+        QAction* a =
+            entry(view, trMenu(title), {}, [p = presentation] { CoinListView::choose(p); });
         a->setCheckable(true);
         views->addAction(a);
         // A list's own View button may have chosen since the menu was last open.
@@ -168,7 +177,7 @@ QMenuBar* install(Window& window, MainMenuViewController* menu) {
                          [a, p = presentation] { a->setChecked(CoinListView::chosen() == p); });
     }
     view->addSeparator();
-    QAction* dark = entry(view, QStringLiteral("Dark Appearance"),
+    QAction* dark = entry(view, QCoreApplication::translate("AppMenuBar", "Dark Appearance"),
                           QKeySequence(QStringLiteral("Ctrl+Shift+D")), {});
     dark->setCheckable(true);
     dark->setChecked(Appearance::isDark());
@@ -179,24 +188,28 @@ QMenuBar* install(Window& window, MainMenuViewController* menu) {
     });
 
     // The Go menu follows the start screen's buttons; a later screen takes the next number.
-    QMenu* goMenu = bar->addMenu(QStringLiteral("&Go"));
+    QMenu* goMenu = bar->addMenu(QCoreApplication::translate("AppMenuBar", "&Go"));
     goMenu->setObjectName(QStringLiteral("GoMenu"));
     const std::pair<const char*, const char*> places[] = {
-        {"List Coins", "ListCoins"},         {"Group By", "TabBarController"},
-        {"Coin Valuation", "CoinValuation"}, {"Reference Lists", "ReferenceLists"},
-        {"Statistics", "Statistics"},        {"Recent Changes", "RecentChanges"}};
+        {QT_TRANSLATE_NOOP("AppMenuBar", "List Coins"), "ListCoins"},
+        {QT_TRANSLATE_NOOP("AppMenuBar", "Group By"), "TabBarController"},
+        {QT_TRANSLATE_NOOP("AppMenuBar", "Coin Valuation"), "CoinValuation"},
+        {QT_TRANSLATE_NOOP("AppMenuBar", "Reference Lists"), "ReferenceLists"},
+        {QT_TRANSLATE_NOOP("AppMenuBar", "Statistics"), "Statistics"},
+        {QT_TRANSLATE_NOOP("AppMenuBar", "Recent Changes"), "RecentChanges"}};
     int number = 1;
     for (auto [title, segue] : places)
-        entry(goMenu, QString::fromLatin1(title),
-              QKeySequence(QStringLiteral("Ctrl+%1").arg(number++)),
+        entry(goMenu, trMenu(title), QKeySequence(QStringLiteral("Ctrl+%1").arg(number++)),
               [w, start, s = QString::fromLatin1(segue)] { go(*w, start, s); });
 
-    QMenu* help = bar->addMenu(QStringLiteral("&Help"));
-    entry(help, QStringLiteral("Pelvane Overview"), QKeySequence(QKeySequence::HelpContents),
+    QMenu* help = bar->addMenu(QCoreApplication::translate("AppMenuBar", "&Help"));
+    entry(help, QCoreApplication::translate("AppMenuBar", "Pelvane Overview"),
+          QKeySequence(QKeySequence::HelpContents),
           [w, start] { go(*w, start, QStringLiteral("Overview")); });
-    entry(help, QStringLiteral("About Pelvane"), {}, [w] {
+    entry(help, QCoreApplication::translate("AppMenuBar", "About Pelvane"), {}, [w] {
         if (ViewController* screen = w->frontScreen())
-            screen->present(AlertController::okAlert(QStringLiteral("About Pelvane"), aboutText()));
+            screen->present(AlertController::okAlert(
+                QCoreApplication::translate("AppMenuBar", "About Pelvane"), aboutText()));
     });
 
     window.setMenuBar(bar);

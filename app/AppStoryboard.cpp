@@ -1,5 +1,7 @@
 #include "app/AppStoryboard.h"
 
+#include <QCoreApplication>
+
 #include "platform/kit/Storyboard.h"
 #include "platform/kit/TabBarController.h"
 #include "screens/entry/AddViewController.h"
@@ -63,7 +65,9 @@ void install() {
         tabs->setViewControllers({new DenominationGroupTableViewController,
                                   new CountryGroupTableViewController,
                                   new YearGroupTableViewController},
-                                 {"Denomination", "Country", "Year"});
+                                 {QCoreApplication::translate("AppStoryboard", "Denomination"),
+                                  QCoreApplication::translate("AppStoryboard", "Country"),
+                                  QCoreApplication::translate("AppStoryboard", "Year")});
         return tabs;
     });
     push("showDenominationBreakdown", [] { return new DenominationBreakdownTableViewController; });

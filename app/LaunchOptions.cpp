@@ -6,6 +6,7 @@
 #include "platform/core/UserDefaults.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDir>
 
 namespace {
@@ -14,7 +15,8 @@ namespace {
 struct Option {
     QStringList names;
     QString valueName;
-    QString description;
+    const char* description; // translated where --help shows it
+
     void (*apply)(LaunchOptions&, const QString& value);
 };
 
@@ -22,74 +24,90 @@ const QList<Option>& options() {
     static const QList<Option> all = {
         {{"data-dir"},
          "DIR",
-         "Keep the collection and preferences in DIR.",
+         QT_TRANSLATE_NOOP("LaunchOptions", "Keep the collection and preferences in DIR."),
          [](LaunchOptions& o, const QString& v) { o.dataDir = v; }},
         {{"export"},
          "FILE",
-         "Write the exchange file of the collection to FILE and exit.",
+         QT_TRANSLATE_NOOP("LaunchOptions",
+                           "Write the exchange file of the collection to FILE and exit."),
          [](LaunchOptions& o, const QString& v) { o.exportFile = v; }},
         {{"import"},
          "FILE",
-         "Merge the exchange file FILE into the collection and exit.",
+         QT_TRANSLATE_NOOP("LaunchOptions",
+                           "Merge the exchange file FILE into the collection and exit."),
          [](LaunchOptions& o, const QString& v) { o.importFile = v; }},
         {{"backup"},
          "FILE",
-         "Write an exact copy of the whole collection, pictures and all, to FILE and exit.",
+         QT_TRANSLATE_NOOP(
+             "LaunchOptions",
+             "Write an exact copy of the whole collection, pictures and all, to FILE and exit."),
          [](LaunchOptions& o, const QString& v) { o.backupFile = v; }},
         {{"restore"},
          "FILE",
-         "Replace the collection with the backup or snapshot FILE (the current one is kept as "
-         "a snapshot first) and exit.",
+         QT_TRANSLATE_NOOP(
+             "LaunchOptions",
+             "Replace the collection with the backup or snapshot FILE (the current one is kept as "
+             "a snapshot first) and exit."),
          [](LaunchOptions& o, const QString& v) { o.restoreFile = v; }},
         {{"backups"},
          {},
-         "List the snapshots taken automatically and exit.",
+         QT_TRANSLATE_NOOP("LaunchOptions", "List the snapshots taken automatically and exit."),
          [](LaunchOptions& o, const QString&) { o.listBackups = true; }},
         {{"stats"},
          {},
-         "Print the number of coins, of pieces and the total value of the collection and exit.",
+         QT_TRANSLATE_NOOP("LaunchOptions", "Print the number of coins, of pieces and the total "
+                                            "value of the collection and exit."),
          [](LaunchOptions& o, const QString&) { o.stats = true; }},
         {{"value-history"},
          "FILE",
-         "Write the collection's pieces and total value at the end of every day on which they "
-         "changed to FILE, as CSV, and exit.",
+         QT_TRANSLATE_NOOP(
+             "LaunchOptions",
+             "Write the collection's pieces and total value at the end of every day on which they "
+             "changed to FILE, as CSV, and exit."),
          [](LaunchOptions& o, const QString& v) { o.valueHistoryFile = v; }},
         {{"undo"},
          {},
-         "Undo the last change made to the collection, say what it was and exit.",
+         QT_TRANSLATE_NOOP(
+             "LaunchOptions",
+             "Undo the last change made to the collection, say what it was and exit."),
          [](LaunchOptions& o, const QString&) { o.undo = true; }},
         {{"changes"},
          {},
-         "List the last 50 changes made to the collection, newest first, and exit.",
+         QT_TRANSLATE_NOOP(
+             "LaunchOptions",
+             "List the last 50 changes made to the collection, newest first, and exit."),
          [](LaunchOptions& o, const QString&) { o.changes = true; }},
         {{"report"},
          "KIND",
-         "Write the PDF report of a group and exit: KIND is denomination, country or year, "
-         "followed by the group's VALUE.",
+         QT_TRANSLATE_NOOP(
+             "LaunchOptions",
+             "Write the PDF report of a group and exit: KIND is denomination, country or year, "
+             "followed by the group's VALUE."),
          [](LaunchOptions& o, const QString& v) { o.report = QStringList{v}; }},
         {{"pdf"},
          "FILE",
-         "Write the report to FILE instead of the documents folder.",
+         QT_TRANSLATE_NOOP("LaunchOptions",
+                           "Write the report to FILE instead of the documents folder."),
          [](LaunchOptions& o, const QString& v) { o.pdfFile = v; }},
         {{"dark"},
          {},
-         "Use the dark appearance.",
+         QT_TRANSLATE_NOOP("LaunchOptions", "Use the dark appearance."),
          [](LaunchOptions& o, const QString&) { o.dark = true; }},
         {{"grab"},
          "PNG",
-         "Save a picture of the window to PNG and quit.",
+         QT_TRANSLATE_NOOP("LaunchOptions", "Save a picture of the window to PNG and quit."),
          [](LaunchOptions& o, const QString& v) { o.grabFile = v; }},
         {{"open-menu"},
          {},
-         "Start with the menu opened.",
+         QT_TRANSLATE_NOOP("LaunchOptions", "Start with the menu opened."),
          [](LaunchOptions& o, const QString&) { o.openMenu = true; }},
         {{"h", "help"},
          {},
-         "Show this help and exit.",
+         QT_TRANSLATE_NOOP("LaunchOptions", "Show this help and exit."),
          [](LaunchOptions& o, const QString&) { o.message = launchHelpText(); }},
         {{"v", "version"},
          {},
-         "Show the version and exit.",
+         QT_TRANSLATE_NOOP("LaunchOptions", "Show the version and exit."),
          [](LaunchOptions& o, const QString&) {
              o.message = QStringLiteral("Pelvane " PELVANE_VERSION "\n");
          }},
@@ -98,8 +116,8 @@ const QList<Option>& options() {
 }
 
 QString usageError(const QString& problem) {
-    return QStringLiteral("pelvane: %1\nUsage: pelvane [options]\n"
-                          "Try 'pelvane --help' for the options.")
+    return QCoreApplication::translate("LaunchOptions", "pelvane: %1\nUsage: pelvane [options]\n"
+                                                        "Try 'pelvane --help' for the options.")
         .arg(problem);
 }
 } // namespace
@@ -115,12 +133,14 @@ QString launchHelpText() {
                     (o.valueName.isEmpty() ? QString() : QLatin1Char(' ') + o.valueName);
         width = std::max(width, left.last().size());
     }
-    QString text = QStringLiteral("Usage: pelvane [options]\n"
-                                  "Pelvane, a catalogue of a coin collection. Without options it "
-                                  "opens the catalogue's window.\n\nOptions:\n");
+    QString text = QCoreApplication::translate(
+        "LaunchOptions", "Usage: pelvane [options]\n"
+                         "Pelvane, a catalogue of a coin collection. Without options it opens the "
+                         "catalogue's window.\n\nOptions:\n");
     for (qsizetype i = 0; i < left.size(); ++i)
         text += QStringLiteral("  %1  %2\n")
-                    .arg(left[i].leftJustified(width), options()[i].description);
+                    .arg(left[i].leftJustified(width),
+                         QCoreApplication::translate("LaunchOptions", options()[i].description));
     return text;
 }
 
@@ -157,7 +177,8 @@ LaunchOptions parseLaunchOptions(const QStringList& given) {
     QCommandLineParser parser;
     QList<QCommandLineOption> parserOptions;
     for (const Option& o : options())
-        parserOptions << QCommandLineOption(o.names, o.description, o.valueName);
+        parserOptions << QCommandLineOption(o.names, QString::fromLatin1(o.description),
+                                            o.valueName);
     parser.addOptions(parserOptions);
     LaunchOptions launch;
     if (!parser.parse(arguments)) {
@@ -171,8 +192,10 @@ LaunchOptions parseLaunchOptions(const QStringList& given) {
         // An empty value (a script's unset variable) names nothing; taken as absent, it would
         // open the window where a command was meant.
         if (!option.valueName.isEmpty() && parser.values(parserOptions[i]).contains(QString())) {
-            launch.error = usageError(QStringLiteral("--%1 needs a %2, and the one given is empty.")
-                                          .arg(option.names.last(), option.valueName));
+            launch.error =
+                usageError(QCoreApplication::translate(
+                               "LaunchOptions", "--%1 needs a %2, and the one given is empty.")
+                               .arg(option.names.last(), option.valueName));
             return launch;
         }
         option.apply(launch, parser.value(parserOptions[i]));
@@ -183,15 +206,16 @@ LaunchOptions parseLaunchOptions(const QStringList& given) {
             launch.report += negativeReportValue;
         launch.report += parser.positionalArguments();
     } else if (!parser.positionalArguments().isEmpty()) {
-        launch.error = usageError(
-            QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().first()));
+        launch.error =
+            usageError(QCoreApplication::translate("LaunchOptions", "Unexpected argument '%1'.")
+                           .arg(parser.positionalArguments().first()));
         return launch;
     }
     if (!launch.message.isEmpty())
         return launch;
     if (!launch.pdfFile.isEmpty() && launch.report.isEmpty()) {
-        launch.error = usageError(QStringLiteral("--pdf names where a --report goes, and there "
-                                                 "is no --report."));
+        launch.error = usageError(QCoreApplication::translate(
+            "LaunchOptions", "--pdf names where a --report goes, and there is no --report."));
         return launch;
     }
     // One thing at a time: each of these does its work and exits.
@@ -212,7 +236,8 @@ LaunchOptions parseLaunchOptions(const QStringList& given) {
             asked << QLatin1String(name);
     if (asked.size() > 1)
         launch.error =
-            usageError(QStringLiteral("%1 cannot be combined.").arg(asked.join(" and ")));
+            usageError(QCoreApplication::translate("LaunchOptions", "%1 cannot be combined.")
+                           .arg(asked.join(QCoreApplication::translate("LaunchOptions", " and "))));
     return launch;
 }
 

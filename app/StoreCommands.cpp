@@ -13,6 +13,7 @@
 #include "platform/kit/ViewController.h"
 #include "platform/kit/Window.h"
 
+#include <QCoreApplication>
 #include <QFutureWatcher>
 #include <QLocale>
 #include <QTimer>
@@ -157,10 +158,12 @@ void takeSnapshotSoon(Window* window) {
             Console::log(QStringLiteral("Could not take a snapshot: %1").arg(text));
             if (ViewController* top = window->navigationController()->topViewController())
                 top->present(AlertController::okAlert(
-                    QStringLiteral("No Snapshot Today"),
-                    QStringLiteral("Pelvane could not keep today's snapshot of the collection: "
-                                   "%1\n\nThe collection itself is unchanged. To keep a copy, "
-                                   "back it up from Import / Export.")
+                    QCoreApplication::translate("StoreCommands", "No Snapshot Today"),
+                    QCoreApplication::translate(
+                        "StoreCommands",
+                        "Pelvane could not keep today's snapshot of the collection: %1\n\nThe "
+                        "collection itself is unchanged. To keep a copy, back it up from Import / "
+                        "Export.")
                         .arg(text)));
         });
         watcher->setFuture(QtConcurrent::run([path] {

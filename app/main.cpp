@@ -4,6 +4,7 @@
 #include "app/AppStoryboard.h"
 #include "app/LaunchOptions.h"
 #include "app/StoreCommands.h"
+#include "app/Translations.h"
 #include "exchange/ExchangeCommands.h"
 #include "model/StoreLock.h"
 #include "platform/core/Files.h"
@@ -108,6 +109,8 @@ int runReport(int argc, char** argv, const LaunchOptions& options) {
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
+    // The report is a document for a reader: its headings follow the desktop's language.
+    Translations::install();
     prepare(options);
     const std::optional<StoreLock> lock = lockFor(StoreLock::Reading, QStringLiteral("pelvane"));
     if (!lock)
@@ -129,11 +132,20 @@ int main(int argc, char** argv) {
     // A stopped run of the program starts it again like this to show why it stopped.
     if (arguments.size() == 3 && arguments[1] == QLatin1String(FatalMessage::kOption)) {
         QApplication app(argc, argv);
+        Translations::install();
         QObject::connect(FatalMessage::open(arguments[2]), &QMessageBox::finished, &app,
                          &QCoreApplication::quit);
         return QApplication::exec();
     }
-    const LaunchOptions options = parseLaunchOptions(arguments);
+    LaunchOptions options = parseLaunchOptions(arguments);
+    // Help and usage are read by a person, in the desktop's language; what the commands print
+    // is read by scripts and stays as it is.
+    std::optional<QCoreApplication> forHelp;
+    if (!options.message.isEmpty() || !options.error.isEmpty()) {
+        forHelp.emplace(argc, argv);
+        if (!Translations::install().isEmpty())
+            options = parseLaunchOptions(arguments);
+    }
     if (!options.message.isEmpty()) {
         std::fputs(qPrintable(options.message), stdout);
         return 0;
@@ -156,6 +168,7 @@ int main(int argc, char** argv) {
         return runReport(argc, argv, options);
 
     QApplication app(argc, argv);
+    Translations::install();
     FatalMessage::installForWindowSession();
     QGuiApplication::setDesktopFileName(QStringLiteral("org.pelvane.pelvane"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/pelvane.svg")));

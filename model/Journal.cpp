@@ -198,37 +198,40 @@ QString describe(const StepInfo& s, bool translated) {
         const QString what =
             translated ? commandName(reversed) : reversed.kind + QStringLiteral(" of ") + x;
         if (s.count > 1)
-            return (s.kind == Undo ? t("Undid %1 steps, back to the %2")
-                                   : t("Redid %1 steps, from the %2"))
+            return (s.kind == Undo
+                        ? t(QT_TRANSLATE_NOOP("Journal", "Undid %1 steps, back to the %2"))
+                        : t(QT_TRANSLATE_NOOP("Journal", "Redid %1 steps, from the %2")))
                 .arg(s.count)
                 .arg(what);
-        return (s.kind == Undo ? t("Undid the %1") : t("Redid the %1")).arg(what);
+        return (s.kind == Undo ? t(QT_TRANSLATE_NOOP("Journal", "Undid the %1"))
+                               : t(QT_TRANSLATE_NOOP("Journal", "Redid the %1")))
+            .arg(what);
     }
     QString text;
     if (s.kind == Add)
-        text = t("Added %1").arg(x);
+        text = t(QT_TRANSLATE_NOOP("Journal", "Added %1")).arg(x);
     else if (s.kind == Edit)
-        text = t("Edited %1").arg(x);
+        text = t(QT_TRANSLATE_NOOP("Journal", "Edited %1")).arg(x);
     else if (s.kind == Delete)
-        text = t("Deleted %1").arg(x);
+        text = t(QT_TRANSLATE_NOOP("Journal", "Deleted %1")).arg(x);
     else if (s.kind == Change)
-        text = t("Changed %1 records").arg(x);
+        text = t(QT_TRANSLATE_NOOP("Journal", "Changed %1 records")).arg(x);
     else if (s.kind == Revaluation)
-        text = t("Revalued %1").arg(x);
+        text = t(QT_TRANSLATE_NOOP("Journal", "Revalued %1")).arg(x);
     else if (s.kind == Notes)
-        text = t("Edited the notes of %1").arg(x);
+        text = t(QT_TRANSLATE_NOOP("Journal", "Edited the notes of %1")).arg(x);
     else if (s.kind == Import)
-        text = t("Imported %1").arg(x);
+        text = t(QT_TRANSLATE_NOOP("Journal", "Imported %1")).arg(x);
     else if (s.kind == Repair)
-        text = t("Repaired the record numbers of %1").arg(x);
+        text = t(QT_TRANSLATE_NOOP("Journal", "Repaired the record numbers of %1")).arg(x);
     else if (s.kind == Seed)
-        text = t("Filled the reference lists with %1 values").arg(x);
+        text = t(QT_TRANSLATE_NOOP("Journal", "Filled the reference lists with %1 values")).arg(x);
     else if (s.kind == Restore)
-        text = t("Restored %1").arg(x);
+        text = t(QT_TRANSLATE_NOOP("Journal", "Restored %1")).arg(x);
     else if (s.kind == Version)
-        text = t("Restored an earlier version of %1").arg(x);
+        text = t(QT_TRANSLATE_NOOP("Journal", "Restored an earlier version of %1")).arg(x);
     else if (s.kind == PutBack)
-        text = t("Put back %1").arg(x);
+        text = t(QT_TRANSLATE_NOOP("Journal", "Put back %1")).arg(x);
     else
         text = x.isEmpty() ? s.kind : s.kind + QLatin1Char(' ') + x;
     if (!s.detail.isEmpty())

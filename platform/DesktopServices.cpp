@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCamera>
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
@@ -46,12 +47,15 @@ bool openOrTell(const QUrl& url, const DesktopWebBrowser::Opener& opener) {
     if (opener ? opener(url) : QDesktopServices::openUrl(url))
         return true;
     DesktopServices::tellUnavailable(
-        url.isLocalFile() ? QStringLiteral("Can't Open File")
-                          : QStringLiteral("Can't Open Web Page"),
-        url.isLocalFile() ? QStringLiteral("No program is set up on this computer to open %1.")
-                                .arg(url.toLocalFile())
-                          : QStringLiteral("No web browser is set up on this computer to open %1.")
-                                .arg(url.toDisplayString()));
+        url.isLocalFile() ? QCoreApplication::translate("DesktopServices", "Can't Open File")
+                          : QCoreApplication::translate("DesktopServices", "Can't Open Web Page"),
+        url.isLocalFile()
+            ? QCoreApplication::translate("DesktopServices",
+                                          "No program is set up on this computer to open %1.")
+                  .arg(url.toLocalFile())
+            : QCoreApplication::translate("DesktopServices",
+                                          "No web browser is set up on this computer to open %1.")
+                  .arg(url.toDisplayString()));
     return false;
 }
 } // namespace
@@ -97,9 +101,11 @@ void DesktopMailComposer::compose(const MailMessage& m, QWidget*, std::function<
     }
     args << m.recipients;
     if (!QProcess::startDetached(QStringLiteral("xdg-email"), args))
-        DesktopServices::tellUnavailable(QStringLiteral("Can't Send Email"),
-                                         QStringLiteral("The mail program of this computer could "
-                                                        "not be started."));
+        DesktopServices::tellUnavailable(
+            QCoreApplication::translate("DesktopServices", "Can't Send Email"),
+            QCoreApplication::translate("DesktopServices",
+                                        "The mail program of this computer could "
+                                        "not be started."));
     if (finished)
         finished();
 }
@@ -111,10 +117,11 @@ void DesktopShareSheet::present(const QList<ShareItem>& items, const QStringList
     for (const ShareItem& item : items) {
         if (item.url.isLocalFile()) {
             const QString path = item.url.toLocalFile();
-            menu->addAction(QStringLiteral("Save As..."), [anchor, path] {
-                auto* dialog = new QFileDialog(anchor, QStringLiteral("Save As"),
-                                               QDir::homePath() + QLatin1Char('/') +
-                                                   QFileInfo(path).fileName());
+            menu->addAction(QCoreApplication::translate("DesktopServices", "Save As..."), [anchor,
+                                                                                           path] {
+                auto* dialog = new QFileDialog(
+                    anchor, QCoreApplication::translate("DesktopServices", "Save As"),
+                    QDir::homePath() + QLatin1Char('/') + QFileInfo(path).fileName());
                 dialog->setAcceptMode(QFileDialog::AcceptSave);
                 dialog->setAttribute(Qt::WA_DeleteOnClose);
                 QObject::connect(
@@ -124,35 +131,39 @@ void DesktopShareSheet::present(const QList<ShareItem>& items, const QStringList
                         const Result<void> copied = Files::copyAtomically(path, target);
                         if (copied.ok())
                             return;
-                        auto* box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Save As"),
-                                                    QStringLiteral("Cannot write %1: %2")
-                                                        .arg(target, copied.error().message),
-                                                    QMessageBox::Ok, anchor);
+                        auto* box = new QMessageBox(
+                            QMessageBox::Warning,
+                            QCoreApplication::translate("DesktopServices", "Save As"),
+                            QCoreApplication::translate("DesktopServices", "Cannot write %1: %2")
+                                .arg(target, copied.error().message),
+                            QMessageBox::Ok, anchor);
                         box->setAttribute(Qt::WA_DeleteOnClose);
                         box->open();
                     });
                 dialog->open();
             });
-            menu->addAction(QStringLiteral("Open"),
+            menu->addAction(QCoreApplication::translate("DesktopServices", "Open"),
                             [path] { openOrTell(QUrl::fromLocalFile(path), {}); });
         } else if (!item.url.isEmpty()) {
-            menu->addAction(QStringLiteral("Open"), [url = item.url] { openOrTell(url, {}); });
+            menu->addAction(QCoreApplication::translate("DesktopServices", "Open"),
+                            [url = item.url] { openOrTell(url, {}); });
         }
         if (!excluded.contains(ShareSheet::CopyToPasteboard)) {
             if (!item.image.isNull())
-                menu->addAction(QStringLiteral("Copy"),
+                menu->addAction(QCoreApplication::translate("DesktopServices", "Copy"),
                                 [img = item.image] { QApplication::clipboard()->setImage(img); });
             else if (!item.text.isEmpty() || !item.url.isEmpty())
-                menu->addAction(QStringLiteral("Copy"),
+                menu->addAction(QCoreApplication::translate("DesktopServices", "Copy"),
                                 [t = item.text.isEmpty() ? item.url.toString() : item.text] {
                                     QApplication::clipboard()->setText(t);
                                 });
             else if (!item.data.isEmpty())
-                menu->addAction(QStringLiteral("Copy"), [d = item.data] {
-                    auto* mime = new QMimeData;
-                    mime->setImageData(QImage::fromData(d));
-                    QApplication::clipboard()->setMimeData(mime);
-                });
+                menu->addAction(QCoreApplication::translate("DesktopServices", "Copy"),
+                                [d = item.data] {
+                                    auto* mime = new QMimeData;
+                                    mime->setImageData(QImage::fromData(d));
+                                    QApplication::clipboard()->setMimeData(mime);
+                                });
         }
     }
     QWidget* at = anchor ? anchor : QApplication::activeWindow();
@@ -177,11 +188,12 @@ void DesktopImagePicker::presentCamera(QWidget* parent, std::function<void(QImag
                                        std::function<void()> cancelled) {
     auto* sheet = new QWidget(parent ? parent->window() : nullptr, Qt::Window);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
-    sheet->setWindowTitle(QStringLiteral("Camera"));
+    sheet->setWindowTitle(QCoreApplication::translate("DesktopServices", "Camera"));
     auto* layout = new QVBoxLayout(sheet);
     auto* view = new QVideoWidget(sheet);
-    auto* shoot = new QPushButton(QStringLiteral("Take Picture"), sheet);
-    auto* cancel = new QPushButton(QStringLiteral("Cancel"), sheet);
+    auto* shoot =
+        new QPushButton(QCoreApplication::translate("DesktopServices", "Take Picture"), sheet);
+    auto* cancel = new QPushButton(QCoreApplication::translate("DesktopServices", "Cancel"), sheet);
     layout->addWidget(view, 1);
     layout->addWidget(shoot);
     layout->addWidget(cancel);
@@ -266,12 +278,14 @@ void DesktopReviewRequester::requestReview(QWidget* screen) {
     banner->setBackgroundRole(QPalette::AlternateBase);
     auto* layout = new QHBoxLayout(banner);
     layout->setContentsMargins(12, 6, 12, 6);
-    auto* text = new QLabel(QStringLiteral("Enjoying Pelvane?"), banner);
+    auto* text =
+        new QLabel(QCoreApplication::translate("DesktopServices", "Enjoying Pelvane?"), banner);
     QFont bold = text->font();
     bold.setBold(true);
     text->setFont(bold);
     layout->addWidget(text, 1);
-    auto* later = new QPushButton(QStringLiteral("Not Now"), banner);
+    auto* later =
+        new QPushButton(QCoreApplication::translate("DesktopServices", "Not Now"), banner);
     later->setObjectName(QStringLiteral("NotNowButton"));
     layout->addWidget(later);
     QObject::connect(later, &QPushButton::clicked, banner, &QObject::deleteLater);

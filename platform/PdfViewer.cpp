@@ -26,6 +26,7 @@ PdfViewer::PdfViewer(QWidget* parent)
     setPageMode(PageMode::MultiPage);
     setZoomMode(ZoomMode::FitToWidth);
     setPageSpacing(8);
+    setAccessibleName(tr("Document"));
     setDocumentMargins(QMargins(6, 6, 6, 6));
     setDocument(pdf_);
     viewport()->grabGesture(Qt::PinchGesture);

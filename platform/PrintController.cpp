@@ -4,6 +4,7 @@
 
 #include "platform/graphics/PageRenderer.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 #include <QPrinter>
 #include <QTextBlock>
@@ -55,8 +56,10 @@ Result<void> PrintController::print(const QTextDocument& document, QPrinter& pri
     const int copies = printer.supportsMultipleCopies() ? 1 : printer.copyCount();
     QPainter painter;
     if (!painter.begin(&printer)) {
-        return Error::because(ErrorCode::CantOpen, QStringLiteral("The printer cannot be opened."),
-                              QStringLiteral("printing"));
+        return Error::because(
+            ErrorCode::CantOpen,
+            QCoreApplication::translate("PrintController", "The printer cannot be opened."),
+            QStringLiteral("printing"));
     }
     const QRectF bounds(QPointF(0, 0), printer.paperRect(QPrinter::DevicePixel).size());
     for (int copy = 0; copy < copies; ++copy)
@@ -65,8 +68,10 @@ Result<void> PrintController::print(const QTextDocument& document, QPrinter& pri
                 printer.newPage();
         });
     if (!painter.end() || printer.printerState() == QPrinter::Error) {
-        return Error::because(ErrorCode::CantOpen, QStringLiteral("The printer reported an error."),
-                              QStringLiteral("printing"));
+        return Error::because(
+            ErrorCode::CantOpen,
+            QCoreApplication::translate("PrintController", "The printer reported an error."),
+            QStringLiteral("printing"));
     }
     return {};
 }

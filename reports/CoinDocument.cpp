@@ -8,6 +8,7 @@
 #include "platform/graphics/PageRenderer.h"
 #include "reports/Currency.h"
 
+#include <QCoreApplication>
 #include <QTextBlockFormat>
 #include <QTextDocument>
 #include <QTextImageFormat>
@@ -141,6 +142,10 @@ std::unique_ptr<QTextDocument> CoinDocument::take() {
     return std::move(document_);
 }
 
+QString CoinDocument::label(const char* text) {
+    return QCoreApplication::translate("CoinDocument", text);
+}
+
 std::unique_ptr<QTextDocument> CoinDocument::report(const QString& title,
                                                     const QList<CoinPtr>& coins, qreal pictureWidth,
                                                     const OriginalOf& originalOf) {
@@ -149,29 +154,33 @@ std::unique_ptr<QTextDocument> CoinDocument::report(const QString& title,
     d.appendTitle(title, 21);
     using A = Coins::Attr;
     for (const CoinPtr& c : coins) {
-        const auto textLine = [&](const char* label, int attribute) {
-            d.appendLine(QString::fromLatin1(label), *c, attribute);
+        const auto textLine = [&](const char* text, int attribute) {
+            d.appendLine(label(text), *c, attribute);
         };
-        textLine("Coin Denomination: ", A::denomination);
-        d.appendLine(QStringLiteral("Coin Year: "), QString::number(c->year()));
-        d.appendLine(QStringLiteral("Quantity: "), QString::number(c->quantity()));
-        textLine("Description: ", A::descrip);
+        textLine(QT_TRANSLATE_NOOP("CoinDocument", "Coin Denomination: "), A::denomination);
+        d.appendLine(label(QT_TRANSLATE_NOOP("CoinDocument", "Coin Year: ")),
+                     QString::number(c->year()));
+        d.appendLine(label(QT_TRANSLATE_NOOP("CoinDocument", "Quantity: ")),
+                     QString::number(c->quantity()));
+        textLine(QT_TRANSLATE_NOOP("CoinDocument", "Description: "), A::descrip);
         // The one line that also leaves out an empty text.
         if (!c->country().isEmpty())
-            d.appendLine(QStringLiteral("Country: "), c->country());
-        d.appendLine(QStringLiteral("Diameter: "), shortest(c->diameter()));
-        d.appendLine(QStringLiteral("Weight: "), shortest(c->weight()));
-        d.appendLine(QStringLiteral("Thickness: "), shortest(c->thickness()));
-        textLine("Strike Character: ", A::strikeCharacter);
-        textLine("Grade #: ", A::gradeNumber);
-        textLine("Edge: ", A::edge);
-        textLine("Mint Mark: ", A::mintMark);
-        textLine("Mint Location: ", A::mintLocation);
-        textLine("Serial #: ", A::serialNumber);
-        textLine("Period: ", A::period);
-        textLine("Designer: ", A::designer);
-        d.appendLine(QStringLiteral("Value: "), shortest(c->value()));
-        textLine("Notes: ", A::notes);
+            d.appendLine(label(QT_TRANSLATE_NOOP("CoinDocument", "Country: ")), c->country());
+        d.appendLine(label(QT_TRANSLATE_NOOP("CoinDocument", "Diameter: ")),
+                     shortest(c->diameter()));
+        d.appendLine(label(QT_TRANSLATE_NOOP("CoinDocument", "Weight: ")), shortest(c->weight()));
+        d.appendLine(label(QT_TRANSLATE_NOOP("CoinDocument", "Thickness: ")),
+                     shortest(c->thickness()));
+        textLine(QT_TRANSLATE_NOOP("CoinDocument", "Strike Character: "), A::strikeCharacter);
+        textLine(QT_TRANSLATE_NOOP("CoinDocument", "Grade #: "), A::gradeNumber);
+        textLine(QT_TRANSLATE_NOOP("CoinDocument", "Edge: "), A::edge);
+        textLine(QT_TRANSLATE_NOOP("CoinDocument", "Mint Mark: "), A::mintMark);
+        textLine(QT_TRANSLATE_NOOP("CoinDocument", "Mint Location: "), A::mintLocation);
+        textLine(QT_TRANSLATE_NOOP("CoinDocument", "Serial #: "), A::serialNumber);
+        textLine(QT_TRANSLATE_NOOP("CoinDocument", "Period: "), A::period);
+        textLine(QT_TRANSLATE_NOOP("CoinDocument", "Designer: "), A::designer);
+        d.appendLine(label(QT_TRANSLATE_NOOP("CoinDocument", "Value: ")), shortest(c->value()));
+        textLine(QT_TRANSLATE_NOOP("CoinDocument", "Notes: "), A::notes);
         d.appendPictures(*c);
         d.append(QStringLiteral("\n\n"));
     }
@@ -180,10 +189,11 @@ std::unique_ptr<QTextDocument> CoinDocument::report(const QString& title,
 
 QString CoinDocument::summaryLine(const Coins& coin) {
     const float total = coin.value() * float(coin.quantity());
-    return QStringLiteral("Year: ") + QString::number(coin.year()) + QStringLiteral(" - ") +
-           QStringLiteral("Qty: ") + QString::number(coin.quantity()) + QStringLiteral(" - ") +
-           QStringLiteral("Total Value (Qty * Value): ") + Currency::text(double(total)) +
-           QLatin1Char('\n');
+    return label(QT_TRANSLATE_NOOP("CoinDocument", "Year: ")) + QString::number(coin.year()) +
+           QStringLiteral(" - ") + label(QT_TRANSLATE_NOOP("CoinDocument", "Qty: ")) +
+           QString::number(coin.quantity()) + QStringLiteral(" - ") +
+           label(QT_TRANSLATE_NOOP("CoinDocument", "Total Value (Qty * Value): ")) +
+           Currency::text(double(total)) + QLatin1Char('\n');
 }
 
 std::unique_ptr<QTextDocument> CoinDocument::listing(const QString& title,

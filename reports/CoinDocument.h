@@ -52,6 +52,8 @@ public:
     std::unique_ptr<QTextDocument> take();
 
     // The PDF report: the eighteen lines of every coin.
+    // A label or heading of the documents, in the reader's language ("Country: ").
+    static QString label(const char* text);
     static std::unique_ptr<QTextDocument> report(const QString& title, const QList<CoinPtr>& coins,
                                                  qreal pictureWidth,
                                                  const OriginalOf& originalOf = {});

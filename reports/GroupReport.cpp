@@ -10,16 +10,20 @@ QString yearText(const Coins& c) {
     return QString::number(c.year());
 }
 void denominationLine(CoinDocument& d, const Coins& c) {
-    d.appendLine(QStringLiteral("Denomination: "), c, A::denomination);
+    d.appendLine(CoinDocument::label(QT_TRANSLATE_NOOP("CoinDocument", "Denomination: ")), c,
+                 A::denomination);
 }
 void descriptionLine(CoinDocument& d, const Coins& c) {
-    d.appendLine(QStringLiteral("Description: "), c, A::descrip);
+    d.appendLine(CoinDocument::label(QT_TRANSLATE_NOOP("CoinDocument", "Description: ")), c,
+                 A::descrip);
 }
 void countryLine(CoinDocument& d, const Coins& c) {
-    d.appendLine(QStringLiteral("Country: "), c, A::country);
+    d.appendLine(CoinDocument::label(QT_TRANSLATE_NOOP("CoinDocument", "Country: ")), c,
+                 A::country);
 }
 void gradeLine(CoinDocument& d, const Coins& c) {
-    d.appendLine(QStringLiteral("Grade #: "), c, A::gradeNumber);
+    d.appendLine(CoinDocument::label(QT_TRANSLATE_NOOP("CoinDocument", "Grade #: ")), c,
+                 A::gradeNumber);
 }
 
 // The three kinds of group, side by side.
@@ -29,7 +33,7 @@ const GroupReport kReports[] = {
      .predicate = "denomination == %@",
      .firstSortKey = "denomination",
      .secondSortKey = "year",
-     .title = "Coins Filtered by Denomination: ",
+     .title = QT_TRANSLATE_NOOP("CoinDocument", "Coins Filtered by Denomination: "),
      .titleValue = [](const Coins& c) { return c.denomination(); },
      .pdfFileName = "CoinListByDenomination.pdf",
      .listingLines =
@@ -43,7 +47,7 @@ const GroupReport kReports[] = {
      .predicate = "country == %@",
      .firstSortKey = "denomination",
      .secondSortKey = "year",
-     .title = "Coins Filtered by Country: ",
+     .title = QT_TRANSLATE_NOOP("CoinDocument", "Coins Filtered by Country: "),
      .titleValue = [](const Coins& c) { return c.country(); },
      .pdfFileName = "CoinListByCountry.pdf",
      .listingLines =
@@ -58,12 +62,13 @@ const GroupReport kReports[] = {
      .predicate = "year == %@",
      .firstSortKey = "year",
      .secondSortKey = "denomination",
-     .title = "Coins Filtered by Year: ",
+     .title = QT_TRANSLATE_NOOP("CoinDocument", "Coins Filtered by Year: "),
      .titleValue = yearText,
      .pdfFileName = "CoinListByYear.pdf",
      .listingLines =
          [](CoinDocument& d, const Coins& c) {
-             d.appendLine(QStringLiteral("Year: "), yearText(c));
+             d.appendLine(CoinDocument::label(QT_TRANSLATE_NOOP("CoinDocument", "Year: ")),
+                          yearText(c));
              denominationLine(d, c);
              descriptionLine(d, c);
              countryLine(d, c);
@@ -108,14 +113,16 @@ std::unique_ptr<QTextDocument> GroupReport::report(const CoinGroup& group,
                                                    const QList<CoinPtr>& coins, qreal pictureWidth,
                                                    const CoinDocument::OriginalOf& originalOf) {
     const GroupReport& r = of(group);
-    return CoinDocument::report(r.title + r.titleValue(*coins.first()), coins, pictureWidth,
-                                originalOf);
+    return CoinDocument::report(CoinDocument::label(r.title.toUtf8().constData()) +
+                                    r.titleValue(*coins.first()),
+                                coins, pictureWidth, originalOf);
 }
 
 std::unique_ptr<QTextDocument> GroupReport::listing(const CoinGroup& group,
                                                     const QList<CoinPtr>& coins, qreal pictureWidth,
                                                     const CoinDocument::OriginalOf& originalOf) {
     const GroupReport& r = of(group);
-    return CoinDocument::listing(r.title + r.titleValue(*coins.first()), coins, r.listingLines,
-                                 pictureWidth, originalOf);
+    return CoinDocument::listing(CoinDocument::label(r.title.toUtf8().constData()) +
+                                     r.titleValue(*coins.first()),
+                                 coins, r.listingLines, pictureWidth, originalOf);
 }

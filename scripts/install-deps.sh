@@ -10,6 +10,7 @@ packages=(
   qt6-charts-dev
   qt6-multimedia-dev libqt6multimediawidgets6
   qt6-image-formats-plugins qt6-svg-dev libqt6svg6
+  qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
   libsqlite3-dev libjpeg-dev libssl-dev
   libgtest-dev libgmock-dev
   fonts-liberation fonts-wqy-microhei

@@ -2,6 +2,8 @@
 
 #include "platform/kit/Appearance.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -66,6 +68,15 @@ private:
     using QObject::QObject;
 };
 
+namespace {
+// A reader announces an alert as one, with its title and message, rather than as a pane.
+QAccessibleInterface* alertInterface(const QString& className, QObject* object) {
+    if (className != QLatin1String("AlertController") || !object || !object->isWidgetType())
+        return nullptr;
+    return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::AlertMessage);
+}
+} // namespace
+
 AlertController::AlertController(const QString& title, const QString& message, Style style)
     : title_(title)
     , message_(message)
@@ -73,6 +84,10 @@ AlertController::AlertController(const QString& title, const QString& message, S
     , panel_(new QWidget(this))
     , buttons_(new QHBoxLayout) {
     setObjectName(QStringLiteral("AlertController"));
+    static const bool announced = (QAccessible::installFactory(alertInterface), true);
+    Q_UNUSED(announced);
+    setAccessibleName(title);
+    setAccessibleDescription(message);
     setAttribute(Qt::WA_StyledBackground, true);
     // A dark screen needs a deeper veil and a lighter panel for the dimming to show.
     const bool dark = Appearance::isDark();
@@ -116,7 +131,7 @@ AlertController::AlertController(const QString& title, const QString& message, S
 
 AlertController* AlertController::okAlert(const QString& title, const QString& message) {
     auto* alert = new AlertController(title, message);
-    alert->addAction(QStringLiteral("OK"));
+    alert->addAction(tr("OK"));
     return alert;
 }
 
@@ -154,6 +169,8 @@ void AlertController::showOver(QWidget* screen) {
     AlertKeyboard::watch();
     previousFocus_ = host->focusWidget();
     takeFocus();
+    QAccessibleEvent shownEvent(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&shownEvent);
 }
 
 QList<QPushButton*> AlertController::buttons() const {

@@ -9,7 +9,8 @@
 namespace FatalMessage {
 
 QMessageBox* open(const QString& message) {
-    auto* box = new QMessageBox(QMessageBox::Critical, QStringLiteral("Fatal error"), message,
+    auto* box = new QMessageBox(QMessageBox::Critical,
+                                QCoreApplication::translate("FatalMessage", "Fatal error"), message,
                                 QMessageBox::Ok);
     box->setObjectName(QStringLiteral("FatalMessage"));
     box->setAttribute(Qt::WA_DeleteOnClose);

@@ -24,6 +24,7 @@ NavigationController::NavigationController(ViewController* root, QWidget* parent
     auto* barLayout = new QHBoxLayout(bar_);
     barLayout->setContentsMargins(8, 4, 8, 4);
     back_->setObjectName(QStringLiteral("BackButton"));
+    back_->setAccessibleName(tr("Back"));
     back_->setAutoRaise(true);
     QFont bold = title_->font();
     bold.setBold(true);
@@ -101,7 +102,7 @@ void NavigationController::pushViewController(ViewController* screen, bool anima
     if (previous)
         previous->viewDidDisappear(animated);
     screen->viewDidAppear(animated);
-    if (previous)
+    if (previous || isVisible())
         screen->takeKeyboardFocus();
 }
 
@@ -167,8 +168,9 @@ void NavigationController::refreshBar() {
     back_->setVisible(canGoBack);
     if (canGoBack) {
         const QString previous = screens_[screens_.size() - 2]->title();
-        fullBack_ =
-            QStringLiteral("\u2039 ") + (previous.isEmpty() ? QStringLiteral("Back") : previous);
+        fullBack_ = QStringLiteral("\u2039 ") + (previous.isEmpty() ? tr("Back") : previous);
+        // Read out as what it does, not as an arrow and a title.
+        back_->setAccessibleName(previous.isEmpty() ? tr("Back") : tr("Back to %1").arg(previous));
     }
     fitBarTexts();
     for (QHBoxLayout* items : {rightItems_, leftItems_})

@@ -12,6 +12,7 @@ PickerView::PickerView(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(list_);
+    list_->setAccessibleName(tr("Choices"));
     QFont f = list_->font();
     f.setPointSizeF(16);
     f.setBold(true);

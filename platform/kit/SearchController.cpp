@@ -14,6 +14,7 @@ SearchController::SearchController(QWidget* parent)
                                                    palette().color(QPalette::PlaceholderText)),
                                      TrailingPosition);
     clearAction->setObjectName(QStringLiteral("ClearButton"));
+    clearAction->setText(tr("Clear Search"));
     clearAction->setVisible(false);
     connect(clearAction, &QAction::triggered, this, [this] {
         clear();
@@ -21,6 +22,7 @@ SearchController::SearchController(QWidget* parent)
     });
     setObjectName(QStringLiteral("SearchBar"));
     setMinimumHeight(34);
+    setAccessibleName(tr("Search"));
     connect(this, &QLineEdit::textChanged, this, [this, clearAction] {
         clearAction->setVisible(!text().isEmpty());
         if (!text().isEmpty())
@@ -64,5 +66,7 @@ void SearchController::placeAbove(TableView* table, const QString& placeholder,
     hidesNavigationBarDuringPresentation = false;
     obscuresBackgroundDuringPresentation = false;
     setPlaceholderText(placeholder);
+    if (!placeholder.isEmpty())
+        setAccessibleName(placeholder);
     table->setTableHeaderView(this);
 }

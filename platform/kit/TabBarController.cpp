@@ -16,6 +16,7 @@ TabBarController::TabBarController(QWidget* parent)
     layout->addWidget(stack_, 1);
     layout->addWidget(bar_);
     bar_->setExpanding(true);
+    bar_->setAccessibleName(tr("Sections"));
     bar_->setShape(QTabBar::RoundedSouth);
     connect(bar_, &QTabBar::currentChanged, this, [this](int i) { setSelectedIndex(i); });
 }

@@ -230,6 +230,7 @@ TableView::TableView(QWidget* parent)
     sectionFooter_->hide();
     layout_->addWidget(sectionFooter_);
     list_->setModel(model_);
+    list_->setAccessibleName(tr("List"));
     list_->setItemDelegate(new TableDelegate(this));
     list_->setUniformItemSizes(true);
     list_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);

@@ -73,6 +73,7 @@ QTableView* TableView::gridView() {
     gridModel_ = new GridModel(this);
     grid_->setModel(gridModel_);
     grid_->setObjectName(QStringLiteral("TableGrid"));
+    grid_->setAccessibleName(tr("Table"));
     grid_->setSelectionBehavior(QAbstractItemView::SelectRows);
     grid_->setSelectionMode(QAbstractItemView::SingleSelection);
     grid_->setEditTriggers(QAbstractItemView::NoEditTriggers);

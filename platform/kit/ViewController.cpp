@@ -214,24 +214,37 @@ bool ViewController::goBack() {
     return true;
 }
 
-const QString ViewController::kDiscardTitle = QStringLiteral("Discard changes?");
+QString ViewController::discardTitle() {
+    return tr("Discard changes?");
+}
 
 void ViewController::confirmDiscard(std::function<void()> discard) {
     // Asked once: a second Escape or close while the question is up answers nothing new.
     if (auto* shown = AlertController::topmostOver(window());
-        shown && shown->title() == kDiscardTitle)
+        shown && shown->title() == discardTitle())
         return;
-    auto* alert = new AlertController(kDiscardTitle,
-                                      QStringLiteral("What you changed here has not been saved."));
-    alert->addAction(QStringLiteral("Discard"), AlertController::ActionStyle::Destructive,
-                     std::move(discard));
-    alert->addAction(QStringLiteral("Keep Editing"), AlertController::ActionStyle::Cancel);
+    auto* alert =
+        new AlertController(discardTitle(), tr("What you changed here has not been saved."));
+    alert->addAction(tr("Discard"), AlertController::ActionStyle::Destructive, std::move(discard));
+    alert->addAction(tr("Keep Editing"), AlertController::ActionStyle::Cancel);
     present(alert);
 }
 
 QWidget* ViewController::preferredFocusWidget() {
     if (auto* table = findChild<TableView*>())
         return table->rowsView();
+    // The first control Tab would reach, so that Enter and Space act at once. A text field is
+    // left for the user to choose: focused, a search would start or a form begin editing.
+    for (QWidget* w = nextInFocusChain(); w && w != this; w = w->nextInFocusChain()) {
+        if (!isAncestorOf(w))
+            continue;
+        if (!(w->focusPolicy() & Qt::TabFocus) || !w->isVisibleTo(this) || !w->isEnabled())
+            continue;
+        if (w->inherits("QLineEdit") || w->inherits("QTextEdit") || w->inherits("QPlainTextEdit") ||
+            w->inherits("QAbstractSpinBox"))
+            continue;
+        return w;
+    }
     return this;
 }
 
@@ -242,8 +255,12 @@ void ViewController::takeKeyboardFocus() {
     if (QWidget* focus = window()->focusWidget();
         focus && isAncestorOf(focus) && focus->isVisible())
         return;
-    if (QWidget* w = preferredFocusWidget())
+    if (QWidget* w = preferredFocusWidget()) {
         w->setFocus(Qt::OtherFocusReason);
+        // The focus frame shows where the keyboard went, as after a Tab.
+        if (w != this)
+            window()->setAttribute(Qt::WA_KeyboardFocusChange);
+    }
 }
 
 void ViewController::releaseKeyboardFocus(QWidget* holder) {

@@ -104,7 +104,7 @@ public:
     virtual bool hasUnsavedChanges() const { return false; }
     // Asks "Discard changes?": Discard runs `discard`, Keep Editing (or Escape) leaves all as is.
     void confirmDiscard(std::function<void()> discard);
-    static const QString kDiscardTitle;
+    static QString discardTitle();
     // Where the keyboard goes when the screen comes to the front: its list, if it has one.
     virtual QWidget* preferredFocusWidget();
     // Gives the keyboard to the screen, unless an alert holds it.

@@ -73,6 +73,7 @@ ProgressView::ProgressView(QWidget* parent)
     setValue(0);
     setTextVisible(false);
     setMaximumHeight(8);
+    setAccessibleName(tr("Progress"));
 }
 
 void ProgressView::setProgress(float fraction, bool) {

@@ -5,12 +5,14 @@
 #include "platform/kit/NavigationController.h"
 #include "platform/kit/TabBarController.h"
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -90,6 +92,9 @@ void Window::showBanner(QWidget* banner, QWidget* screen) {
     bannerScreen_ = screen;
     static_cast<QVBoxLayout*>(layout())->insertWidget(0, banner);
     banner->show();
+    // Told at once, as an alert is, where the reader is elsewhere in the window.
+    QAccessibleEvent shown(banner, QAccessible::Alert);
+    QAccessible::updateAccessibility(&shown);
     if (screen) {
         screen->installEventFilter(this);
         connect(screen, &QObject::destroyed, banner, &QObject::deleteLater);
@@ -105,6 +110,14 @@ bool Window::eventFilter(QObject* watched, QEvent* event) {
         bannerScreen_->removeEventFilter(this);
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void Window::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (event->spontaneous() || focusWidget())
+        return;
+    if (ViewController* front = frontScreen())
+        front->takeKeyboardFocus();
 }
 
 void Window::resizeEvent(QResizeEvent* event) {

@@ -37,6 +37,8 @@ protected:
     // Keys that found no focused widget go to the screen in front.
     void keyPressEvent(class QKeyEvent* event) override;
     void resizeEvent(class QResizeEvent* event) override;
+    // The first screen starts with the keyboard on its first control, as every later one does.
+    void showEvent(class QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     // A screen the user can still go back to with unsaved changes asks first.
     void closeEvent(class QCloseEvent* event) override;
