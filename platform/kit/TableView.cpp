@@ -66,7 +66,13 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override {
         return parent.isValid() ? 0 : total_;
     }
-    QVariant data(const QModelIndex&, int) const override { return {}; }
+    QVariant data(const QModelIndex& index, int role) const override {
+        int section = 0, row = 0;
+        if (role != Qt::AccessibleTextRole || !table_->source_ || !index.isValid() ||
+            locate(index.row(), section, row) != 1)
+            return {};
+        return table_->source_->accessibleTextForRow(table_, {section, row});
+    }
     // Headers and footers are passed over by the arrow keys.
     Qt::ItemFlags flags(const QModelIndex& index) const override {
         int section = 0, row = 0;

@@ -44,6 +44,8 @@ public:
     virtual QString titleForFooter(TableView*, int /*section*/) { return {}; }
     virtual void didSelectRow(TableView*, IndexPath) {}
     virtual QList<SwipeAction> trailingSwipeActions(TableView*, IndexPath) { return {}; }
+    // What a reader says for a drawn row (its cell is a picture to the accessibility tree).
+    virtual QString accessibleTextForRow(TableView*, IndexPath) { return {}; }
 
     // The table presentation of a one-section list: one column per title, each cell's value
     // by Qt's item roles (text, picture, alignment). No titles: only cards are shown.
