@@ -20,16 +20,25 @@ const char* const kReaderRun = "PELVANE_BENCH_READER_RUN";
 int readRowsInView(TableView* table) {
     QListView* view = table->listView();
     QAccessibleInterface* list = QAccessible::queryAccessibleInterface(view);
-    if (!list || !list->tableInterface())
+    if (!list || !list->tableInterface()) {
+        std::printf("  reader: no table interface\n");
         return 0;
+    }
     const QModelIndex first = view->indexAt(QPoint(1, 1));
     const QModelIndex last = view->indexAt(QPoint(1, view->viewport()->height() - 2));
     int read = 0;
+    if (qEnvironmentVariableIsSet("PELVANE_BENCH_DETAIL"))
+        std::printf("  reader: rows %d to %d of %d, table %d\n", first.row(), last.row(),
+                    view->model()->rowCount(), int(list->tableInterface() != nullptr));
     for (int row = first.isValid() ? first.row() : 0,
              end = last.isValid() ? last.row() : view->model()->rowCount() - 1;
          row <= end && row >= 0; ++row)
         if (QAccessibleInterface* cell = list->tableInterface()->cellAt(row, 0))
             read += int(!cell->text(QAccessible::Name).isEmpty());
+    // Without a platform bridge no model change reaches the list's cached cells: each read
+    // starts from a new list interface, as a reader told of the change would.
+    if (!QAccessible::isActive())
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(list));
     return read;
 }
 } // namespace
@@ -60,7 +69,7 @@ int main(int argc, char** argv) {
         return 1;
     const QStringList off = qEnvironmentVariable(kReaderRun).split(QLatin1Char(' '));
     auto within10 = [&](int i) {
-        return QStringLiteral("within 10%% of off: <= %1 ms")
+        return QStringLiteral("within 10% of off: <= %1 ms")
             .arg(off.value(i).toDouble() * 1.1, 0, 'f', 1)
             .toStdString();
     };
@@ -107,6 +116,12 @@ int main(int argc, char** argv) {
               within10(1).c_str());
         print("list: slowest keystroke, numeric key, accessibility on", numericKey, "ms",
               within10(2).c_str());
+        // The reader's own share of a paint: what the rows in view cost to read.
+        QElapsedTimer r;
+        r.start();
+        const int read = readRowsInView(list->tableView);
+        print("list: reading the rows in view, accessibility on", ms(r), "ms",
+              QStringLiteral("%1 rows").arg(read).toStdString().c_str());
         return QAccessible::isActive() ? 0 : 2;
     }
     print("list: slowest keystroke, text key (\"1 Cent\")", textKey, "ms", "<= 16 ms");
@@ -137,6 +152,8 @@ int main(int argc, char** argv) {
     reader.setProcessChannelMode(QProcess::ForwardedChannels);
     reader.start(QCoreApplication::applicationFilePath(), {});
     if (!reader.waitForFinished(-1) || reader.exitCode() == 2)
-        std::printf("  (accessibility could not be made active on this platform)\n");
+        std::printf(
+            "  (no platform accessibility bridge here: the second run reads the rows in view "
+            "through the accessibility interfaces after each paint, as a reader does)\n");
     return 0;
 }
