@@ -304,7 +304,9 @@ bool CoinFormViewController::eventFilter(QObject* watched, QEvent* event) {
         describePictures();
     // A typed decimal separator of the locale is taken as the point the catalogue stores, so
     // "2,50" typed under a German locale is the same value as "2.50".
-    if (event->type() == QEvent::KeyPress) {
+    auto* field = qobject_cast<TextField*>(watched);
+    if (event->type() == QEvent::KeyPress && field && field->delegate() == this &&
+        field->tag() != 1) {
         auto* key = static_cast<QKeyEvent*>(event);
         const QString separator = QLocale().decimalPoint();
         if (separator != QLatin1String(".") && key->text() == separator) {
