@@ -154,7 +154,7 @@
     <message>
         <location filename="../screens/entry/CoinFormViewController.cpp" line="123"/>
         <location filename="../screens/entry/CoinFormViewController.cpp" line="127"/>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="368"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="370"/>
         <source>Camera</source>
         <translation>Kamera</translation>
     </message>
@@ -202,42 +202,42 @@
         <translation>„%1“ ist hier nicht zulässig</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="368"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="370"/>
         <source>There is no camera available</source>
         <translation>Es ist keine Kamera verfügbar</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="412"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="414"/>
         <source>Photo Too Large</source>
         <translation>Foto zu groß</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="414"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="416"/>
         <source>The photo is larger than 64 megapixels or 50 MB. The coin keeps its 100 x 100 picture of it, without the photo itself.</source>
         <translation>Das Foto ist größer als 64 Megapixel oder 50 MB. Die Münze behält ihr Bild von 100 x 100 Pixeln, ohne das Foto selbst.</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="416"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="418"/>
         <source>The photo is larger than 64 megapixels, more than the catalogue reads.</source>
         <translation>Das Foto ist größer als 64 Megapixel, mehr als der Katalog lesen kann.</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="462"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="464"/>
         <source>Pictures (*.jpg *.jpeg *.png)</source>
         <translation>Bilder (*.jpg *.jpeg *.png)</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="462"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="464"/>
         <source>All files (*)</source>
         <translation>Alle Dateien (*)</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="493"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="495"/>
         <source>Clipboard</source>
         <translation>Zwischenablage</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="493"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="495"/>
         <source>There is no image in the Clipboard</source>
         <translation>In der Zwischenablage ist kein Bild</translation>
     </message>

@@ -154,7 +154,7 @@
     <message>
         <location filename="../screens/entry/CoinFormViewController.cpp" line="123"/>
         <location filename="../screens/entry/CoinFormViewController.cpp" line="127"/>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="368"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="370"/>
         <source>Camera</source>
         <translation>Cámara</translation>
     </message>
@@ -202,42 +202,42 @@
         <translation>«%1» no se admite aquí</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="368"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="370"/>
         <source>There is no camera available</source>
         <translation>No hay ninguna cámara disponible</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="412"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="414"/>
         <source>Photo Too Large</source>
         <translation>Foto demasiado grande</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="414"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="416"/>
         <source>The photo is larger than 64 megapixels or 50 MB. The coin keeps its 100 x 100 picture of it, without the photo itself.</source>
         <translation>La foto supera los 64 megapíxeles o los 50 MB. La moneda conserva su imagen de 100 x 100, sin la foto en sí.</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="416"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="418"/>
         <source>The photo is larger than 64 megapixels, more than the catalogue reads.</source>
         <translation>La foto supera los 64 megapíxeles, más de lo que el catálogo puede leer.</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="462"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="464"/>
         <source>Pictures (*.jpg *.jpeg *.png)</source>
         <translation>Imágenes (*.jpg *.jpeg *.png)</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="462"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="464"/>
         <source>All files (*)</source>
         <translation>Todos los archivos (*)</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="493"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="495"/>
         <source>Clipboard</source>
         <translation>Portapapeles</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="493"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="495"/>
         <source>There is no image in the Clipboard</source>
         <translation>No hay ninguna imagen en el portapapeles</translation>
     </message>

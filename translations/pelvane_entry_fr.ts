@@ -154,7 +154,7 @@
     <message>
         <location filename="../screens/entry/CoinFormViewController.cpp" line="123"/>
         <location filename="../screens/entry/CoinFormViewController.cpp" line="127"/>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="368"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="370"/>
         <source>Camera</source>
         <translation>Appareil photo</translation>
     </message>
@@ -202,42 +202,42 @@
         <translation>« %1 » n’est pas accepté ici</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="368"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="370"/>
         <source>There is no camera available</source>
         <translation>Aucun appareil photo n’est disponible</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="412"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="414"/>
         <source>Photo Too Large</source>
         <translation>Photo trop grande</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="414"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="416"/>
         <source>The photo is larger than 64 megapixels or 50 MB. The coin keeps its 100 x 100 picture of it, without the photo itself.</source>
         <translation>La photo dépasse 64 mégapixels ou 50 Mo. La pièce garde son image de 100 x 100, sans la photo elle-même.</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="416"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="418"/>
         <source>The photo is larger than 64 megapixels, more than the catalogue reads.</source>
         <translation>La photo dépasse 64 mégapixels, plus que ce que le catalogue sait lire.</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="462"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="464"/>
         <source>Pictures (*.jpg *.jpeg *.png)</source>
         <translation>Images (*.jpg *.jpeg *.png)</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="462"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="464"/>
         <source>All files (*)</source>
         <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="493"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="495"/>
         <source>Clipboard</source>
         <translation>Presse-papiers</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="493"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="495"/>
         <source>There is no image in the Clipboard</source>
         <translation>Le presse-papiers ne contient aucune image</translation>
     </message>

@@ -154,7 +154,7 @@
     <message>
         <location filename="../screens/entry/CoinFormViewController.cpp" line="123"/>
         <location filename="../screens/entry/CoinFormViewController.cpp" line="127"/>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="368"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="370"/>
         <source>Camera</source>
         <translation>Камера</translation>
     </message>
@@ -202,42 +202,42 @@
         <translation>«%1» здесь не допускается</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="368"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="370"/>
         <source>There is no camera available</source>
         <translation>Камера недоступна</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="412"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="414"/>
         <source>Photo Too Large</source>
         <translation>Фото слишком большое</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="414"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="416"/>
         <source>The photo is larger than 64 megapixels or 50 MB. The coin keeps its 100 x 100 picture of it, without the photo itself.</source>
         <translation>Фото больше 64 мегапикселей или 50 МБ. У монеты останется изображение 100 x 100, без самого фото.</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="416"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="418"/>
         <source>The photo is larger than 64 megapixels, more than the catalogue reads.</source>
         <translation>Фото больше 64 мегапикселей — каталог не может его прочитать.</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="462"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="464"/>
         <source>Pictures (*.jpg *.jpeg *.png)</source>
         <translation>Изображения (*.jpg *.jpeg *.png)</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="462"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="464"/>
         <source>All files (*)</source>
         <translation>Все файлы (*)</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="493"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="495"/>
         <source>Clipboard</source>
         <translation>Буфер обмена</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="493"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="495"/>
         <source>There is no image in the Clipboard</source>
         <translation>В буфере обмена нет изображения</translation>
     </message>

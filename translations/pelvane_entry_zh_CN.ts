@@ -154,7 +154,7 @@
     <message>
         <location filename="../screens/entry/CoinFormViewController.cpp" line="123"/>
         <location filename="../screens/entry/CoinFormViewController.cpp" line="127"/>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="368"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="370"/>
         <source>Camera</source>
         <translation>相机</translation>
     </message>
@@ -202,42 +202,42 @@
         <translation>此处不接受“%1”</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="368"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="370"/>
         <source>There is no camera available</source>
         <translation>没有可用的相机</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="412"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="414"/>
         <source>Photo Too Large</source>
         <translation>照片过大</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="414"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="416"/>
         <source>The photo is larger than 64 megapixels or 50 MB. The coin keeps its 100 x 100 picture of it, without the photo itself.</source>
         <translation>照片超过 6400 万像素或 50 MB。钱币保留其 100 x 100 的图片，但不保存照片本身。</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="416"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="418"/>
         <source>The photo is larger than 64 megapixels, more than the catalogue reads.</source>
         <translation>照片超过 6400 万像素，超出了目录可读取的范围。</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="462"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="464"/>
         <source>Pictures (*.jpg *.jpeg *.png)</source>
         <translation>图片 (*.jpg *.jpeg *.png)</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="462"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="464"/>
         <source>All files (*)</source>
         <translation>所有文件 (*)</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="493"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="495"/>
         <source>Clipboard</source>
         <translation>剪贴板</translation>
     </message>
     <message>
-        <location filename="../screens/entry/CoinFormViewController.cpp" line="493"/>
+        <location filename="../screens/entry/CoinFormViewController.cpp" line="495"/>
         <source>There is no image in the Clipboard</source>
         <translation>剪贴板中没有图片</translation>
     </message>
