@@ -7,9 +7,13 @@
 #include "screens/CoinPictureCache.h"
 
 #include <QActionGroup>
+#include <QCoreApplication>
 #include <QEvent>
+#include <QHeaderView>
+#include <QListView>
 #include <QMenu>
 #include <QPixmap>
+#include <QTableView>
 
 namespace {
 // Every view switch alive, so that a choice made on one list (or in the menu bar) shows on all.
@@ -48,13 +52,13 @@ Presentation forWindowWidth(int width) {
 
 QStringList columnTitles() {
     return {QString(),
-            QStringLiteral("Denomination"),
-            QStringLiteral("Year"),
-            QStringLiteral("Mint Mark"),
-            QStringLiteral("Quantity"),
-            QStringLiteral("Value"),
-            QStringLiteral("Total Value"),
-            QStringLiteral("Country")};
+            QCoreApplication::translate("CoinListView", "Denomination"),
+            QCoreApplication::translate("CoinListView", "Year"),
+            QCoreApplication::translate("CoinListView", "Mint Mark"),
+            QCoreApplication::translate("CoinListView", "Quantity"),
+            QCoreApplication::translate("CoinListView", "Value"),
+            QCoreApplication::translate("CoinListView", "Total Value"),
+            QCoreApplication::translate("CoinListView", "Country")};
 }
 
 int columnWidth(int column) {
@@ -89,6 +93,15 @@ QVariant cell(const Coins& coin, int column, int role, qint64 quantity,
                               : QVariant(QPixmap::fromImage(front.scaled(
                                     side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation)));
     }
+    if (role == Qt::AccessibleDescriptionRole)
+        return rowText(coin, quantity);
+    if (role == Qt::AccessibleTextRole) {
+        if (column == Picture)
+            return pictures.front(coin).isNull()
+                       ? QCoreApplication::translate("CoinListView", "No picture")
+                       : QCoreApplication::translate("CoinListView", "Picture");
+        role = Qt::DisplayRole;
+    }
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return {};
     switch (column) {
@@ -111,16 +124,30 @@ QVariant cell(const Coins& coin, int column, int role, qint64 quantity,
     }
 }
 
+QString rowText(const Coins& coin, qint64 quantity) {
+    QString text =
+        QCoreApplication::translate("CoinListView", "%1, %2, mint mark %3, quantity %4, value %5")
+            .arg(coin.denomination())
+            .arg(coin.year())
+            .arg(coin.mintMark())
+            .arg(quantity)
+            .arg(Currency::text(double(coin.value())));
+    // The country closes the line as it closes the card; a coin without one says nothing.
+    if (!coin.country().isEmpty())
+        text += QCoreApplication::translate("CoinListView", ", %1").arg(coin.country());
+    return text;
+}
+
 } // namespace CoinListView
 
 CoinListViewSwitch::CoinListViewSwitch(ViewController* screen, TableView* table)
     : QObject(screen)
     , screen_(screen)
     , table_(table)
-    , menu_(new QMenu(QStringLiteral("View"), screen)) {
+    , menu_(new QMenu(tr("View"), screen)) {
     auto* group = new QActionGroup(menu_);
-    cards_ = menu_->addAction(QStringLiteral("Cards"));
-    grid_ = menu_->addAction(QStringLiteral("Table"));
+    cards_ = menu_->addAction(tr("Cards"));
+    grid_ = menu_->addAction(tr("Table"));
     for (QAction* a : {cards_, grid_}) {
         a->setCheckable(true);
         group->addAction(a);
@@ -131,6 +158,7 @@ CoinListViewSwitch::CoinListViewSwitch(ViewController* screen, TableView* table)
             [] { CoinListView::choose(CoinListView::Presentation::Table); });
     switches().removeAll(nullptr);
     switches().append(this);
+    table->listView()->setAccessibleName(tr("Coins"));
 }
 
 void CoinListViewSwitch::apply() {
@@ -157,6 +185,11 @@ void CoinListViewSwitch::show(CoinListView::Presentation presentation) {
     grid_->setChecked(table);
     cards_->setChecked(!table);
     table_->setPresentation(presentation);
+    // The table is made on first use; a reader hears it by the same name as the cards.
+    if (table && table_->gridView()->accessibleName().isEmpty()) {
+        table_->gridView()->setAccessibleName(tr("Coins"));
+        table_->gridView()->horizontalHeader()->setAccessibleName(tr("Column titles"));
+    }
     // The table takes the window's width; cards keep their readable column.
     if (NavigationController* nav = screen_->navigationController())
         nav->fitReadableWidth();

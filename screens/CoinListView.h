@@ -32,7 +32,12 @@ QStringList columnTitles();
 int columnWidth(int column);
 // A cell of the table for Qt's item roles. `quantity` is the quantity the list shows for the
 // coin (the main list counts a 0 as one coin), which also makes the total.
+// A reader hears each cell's text (a picture cell says whether there is one) and, as the
+// description, the whole line: rowText().
 QVariant cell(const Coins& coin, int column, int role, qint64 quantity, CoinPictureCache& pictures);
+// A coin's line as a reader says it, card or table alike: "1 Dollar Morgan, 1884, mint mark
+// CC, quantity 1, value 385.00, United States".
+QString rowText(const Coins& coin, qint64 quantity);
 } // namespace CoinListView
 
 // A list screen's view switch: the "View" menu of its bar and the presentation of its table,

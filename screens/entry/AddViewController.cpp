@@ -14,7 +14,7 @@ AddViewController::AddViewController(QWidget* parent)
 }
 
 void AddViewController::viewDidLoad() {
-    setTitle(QStringLiteral("Add Coin"));
+    setTitle(tr("Add Coin"));
     setUpForm();
     rememberOpeningState();
 }
@@ -22,11 +22,11 @@ void AddViewController::viewDidLoad() {
 void AddViewController::SaveNewCardButtonClicked() {
     const CoinFormTexts texts = formTexts();
     if (!CoinFormRules::hasRequiredFields(texts)) {
-        present(AlertController::okAlert(QStringLiteral("Record not Saved!"),
-                                         QStringLiteral("Required Fields in RED not Entered")));
+        present(AlertController::okAlert(tr("Record not Saved!"),
+                                         tr("Required Fields in RED not Entered")));
         return;
     }
-    SaveButton->setText(QStringLiteral("Saved"));
+    SaveButton->setText(tr("Saved"));
     managedObjectContext = Application::viewContext();
     auto coin = managedObjectContext->insert<Coins>();
     CoinFormRules::applyAddForm(*coin, texts, CoinID);

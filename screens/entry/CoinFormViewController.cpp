@@ -11,11 +11,13 @@
 #include "screens/Application.h"
 #include "screens/entry/OriginalPictures.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
 #include <QFormLayout>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -35,6 +37,7 @@ CoinFormViewController::CoinFormViewController(QWidget* parent)
     auto* scroll = new QScrollArea(this);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setAccessibleName(tr("Coin details"));
     auto* content = new QWidget(scroll);
     scroll->setWidget(content);
     auto* outer = new QVBoxLayout(this);
@@ -43,42 +46,69 @@ CoinFormViewController::CoinFormViewController(QWidget* parent)
     auto* column = new QVBoxLayout(content);
     form_ = new QFormLayout;
     form_->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    auto field = [&](const char* label, const char* name, bool required = false) {
+    // A field is read by its label's text; a required one says so to a reader as the red
+    // label does on screen.
+    auto labelled = [&](const QString& label, QWidget* input, bool required) {
+        auto* l = new QLabel(label, content);
+        l->setBuddy(input);
+        input->setAccessibleName(label);
+        if (required) {
+            l->setStyleSheet(QStringLiteral("color: red;"));
+            input->setAccessibleDescription(tr("Required"));
+        }
+        form_->addRow(l, input);
+    };
+    auto field = [&](const QString& label, const char* name, bool required = false) {
         auto* f = new TextField(content);
         f->setObjectName(QString::fromLatin1(name));
-        auto* l = new QLabel(QString::fromLatin1(label), content);
-        if (required)
-            l->setStyleSheet(QStringLiteral("color: red;"));
-        form_->addRow(l, f);
+        labelled(label, f, required);
         return f;
     };
-    DenominationTextField = field("Denomination", "DenominationTextField", true);
-    YearTextField = field("Year", "YearTextField", true);
-    QuantityTextField = field("Quantity", "QuantityTextField");
-    CountryTextField = field("Country", "CountryTextField");
-    MintMarkTextField = field("Mint Mark", "MintMarkTextField");
-    MintLocationTextField = field("Mint Location", "MintLocationTextField");
-    GradeNumberTextField = field("Grade", "GradeNumberTextField");
-    StrikeCharacterTextField = field("Strike", "StrikeCharacterTextField");
-    EdgeTextField = field("Edge", "EdgeTextField");
-    ValueTextField = field("Value", "ValueTextField");
-    DiameterTextField = field("Diameter", "DiameterTextField");
-    WeightTextField = field("Weight", "WeightTextField");
-    ThicknessTextField = field("Thickness", "ThicknessTextField");
-    SerialNumberTextField = field("Serial Number", "SerialNumberTextField");
-    PeriodTextField = field("Period", "PeriodTextField");
-    DesignerTextField = field("Designer", "DesignerTextField");
-    DescriptionTextField = field("Description", "DescriptionTextField");
+    DenominationTextField = field(tr("Denomination"), "DenominationTextField", true);
+    YearTextField = field(tr("Year"), "YearTextField", true);
+    QuantityTextField = field(tr("Quantity"), "QuantityTextField");
+    CountryTextField = field(tr("Country"), "CountryTextField");
+    MintMarkTextField = field(tr("Mint Mark"), "MintMarkTextField");
+    MintLocationTextField = field(tr("Mint Location"), "MintLocationTextField");
+    GradeNumberTextField = field(tr("Grade"), "GradeNumberTextField");
+    StrikeCharacterTextField = field(tr("Strike"), "StrikeCharacterTextField");
+    EdgeTextField = field(tr("Edge"), "EdgeTextField");
+    ValueTextField = field(tr("Value"), "ValueTextField");
+    DiameterTextField = field(tr("Diameter"), "DiameterTextField");
+    WeightTextField = field(tr("Weight"), "WeightTextField");
+    ThicknessTextField = field(tr("Thickness"), "ThicknessTextField");
+    SerialNumberTextField = field(tr("Serial Number"), "SerialNumberTextField");
+    PeriodTextField = field(tr("Period"), "PeriodTextField");
+    DesignerTextField = field(tr("Designer"), "DesignerTextField");
+    DescriptionTextField = field(tr("Description"), "DescriptionTextField");
     NotesTextView = new TextView(content);
     NotesTextView->setObjectName(QStringLiteral("NotesTextView"));
     NotesTextView->setMaximumHeight(80);
-    form_->addRow(new QLabel(QStringLiteral("Notes"), content), NotesTextView);
+    labelled(tr("Notes"), NotesTextView, false);
+    // Each filtered input says, just below it, which character it did not take; hidden until
+    // one is refused.
+    const QList<QWidget*> filtered = {YearTextField,     QuantityTextField, ValueTextField,
+                                      DiameterTextField, WeightTextField,   ThicknessTextField,
+                                      NotesTextView};
+    for (QWidget* input : filtered) {
+        auto* notice = new QLabel(content);
+        notice->setObjectName(input->objectName() + QStringLiteral("Refused"));
+        notice->setStyleSheet(QStringLiteral("color: #b00020;"));
+        notice->setWordWrap(true);
+        int row = 0;
+        form_->getWidgetPosition(input, &row, nullptr);
+        form_->insertRow(row + 1, notice);
+        form_->setRowVisible(notice, false);
+        refusedNotices_.insert(input, notice);
+    }
     column->addLayout(form_);
 
     auto* pictures = new QGridLayout;
-    auto button = [&](const QString& title, const char* name) {
+    auto button = [&](const QString& title, const char* name, const QString& side = {}) {
         auto* b = new QPushButton(title, content);
         b->setObjectName(QString::fromLatin1(name));
+        // Both sides show the same titles: a reader hears which side a button acts on.
+        b->setAccessibleName(side.isEmpty() ? title : tr("%1: %2").arg(side, title));
         return b;
     };
     FrontImage = new ImageView(content);
@@ -87,16 +117,19 @@ CoinFormViewController::CoinFormViewController(QWidget* parent)
     BackImage->setObjectName(QStringLiteral("BackImage"));
     FrontImage->setFixedSize(120, 120);
     BackImage->setFixedSize(120, 120);
-    FrontCameraButton = button(QStringLiteral("Camera"), "FrontCameraButton");
-    FrontFolderButton = button(QStringLiteral("Folder"), "FrontFolderButton");
-    FrontPasteButton = button(QStringLiteral("Paste"), "FrontPasteButton");
-    FrontRemoveButton = button(QStringLiteral("Remove"), "FrontRemoveButton");
-    RearCameraButton = button(QStringLiteral("Camera"), "RearCameraButton");
-    RearFolderButton = button(QStringLiteral("Folder"), "RearFolderButton");
-    RearPasteButton = button(QStringLiteral("Paste"), "RearPasteButton");
-    RearRemoveButton = button(QStringLiteral("Remove"), "RearRemoveButton");
-    pictures->addWidget(new QLabel(QStringLiteral("Front"), content), 0, 0, Qt::AlignCenter);
-    pictures->addWidget(new QLabel(QStringLiteral("Back"), content), 0, 1, Qt::AlignCenter);
+    FrontImage->setAccessibleName(tr("Front picture"));
+    BackImage->setAccessibleName(tr("Back picture"));
+    const QString front = tr("Front"), back = tr("Back");
+    FrontCameraButton = button(tr("Camera"), "FrontCameraButton", front);
+    FrontFolderButton = button(tr("Folder"), "FrontFolderButton", front);
+    FrontPasteButton = button(tr("Paste"), "FrontPasteButton", front);
+    FrontRemoveButton = button(tr("Remove"), "FrontRemoveButton", front);
+    RearCameraButton = button(tr("Camera"), "RearCameraButton", back);
+    RearFolderButton = button(tr("Folder"), "RearFolderButton", back);
+    RearPasteButton = button(tr("Paste"), "RearPasteButton", back);
+    RearRemoveButton = button(tr("Remove"), "RearRemoveButton", back);
+    pictures->addWidget(new QLabel(front, content), 0, 0, Qt::AlignCenter);
+    pictures->addWidget(new QLabel(back, content), 0, 1, Qt::AlignCenter);
     pictures->addWidget(FrontImage, 1, 0, Qt::AlignCenter);
     pictures->addWidget(BackImage, 1, 1, Qt::AlignCenter);
     int row = 2;
@@ -108,7 +141,7 @@ CoinFormViewController::CoinFormViewController(QWidget* parent)
         pictures->addWidget(b, row++, 1);
     }
     column->addLayout(pictures);
-    SaveButton = button(QStringLiteral("Save"), "SaveButton");
+    SaveButton = button(tr("Save"), "SaveButton");
     SaveButton->setMinimumHeight(44);
     column->addWidget(SaveButton);
     column->addStretch();
@@ -130,6 +163,20 @@ CoinFormViewController::CoinFormViewController(QWidget* parent)
                              isBackImage = !front;
                              documentPicked(path);
                          });
+    FrontImage->installEventFilter(this);
+    BackImage->installEventFilter(this);
+    describePictures();
+}
+
+void CoinFormViewController::describePictures() {
+    for (ImageView* v : {FrontImage, BackImage})
+        v->setAccessibleDescription(v->hasImage() ? QString() : tr("No picture"));
+}
+
+bool CoinFormViewController::event(QEvent* event) {
+    if (event->type() == QEvent::Show)
+        describePictures();
+    return ViewController::event(event);
 }
 
 void CoinFormViewController::setUpForm() {
@@ -151,6 +198,10 @@ void CoinFormViewController::setUpForm() {
     for (TextField* f : {YearTextField, QuantityTextField, ValueTextField, DiameterTextField,
                          WeightTextField, ThicknessTextField})
         f->setDelegate(this);
+    for (TextField* f : {ValueTextField, DiameterTextField, WeightTextField, ThicknessTextField}) {
+        f->removeEventFilter(this);
+        f->installEventFilter(this);
+    }
     NotesTextView->setDelegate(this);
     for (QPushButton* b :
          {FrontCameraButton, FrontFolderButton, FrontRemoveButton, FrontPasteButton,
@@ -187,14 +238,85 @@ void CoinFormViewController::loadPickerLists() {
     load("CoinEdge", "edge", EdgeList);
 }
 
-bool CoinFormViewController::shouldChangeCharacters(QObject* input, int, int,
+bool CoinFormViewController::shouldChangeCharacters(QObject* input, int start, int,
                                                     const QString& replacement) {
-    if (replacement.isEmpty())
+    if (replacement.isEmpty()) {
+        showRefused(input, {});
         return true;
+    }
     QString allowed = kNotes;
-    if (auto* field = qobject_cast<TextField*>(input))
+    auto* field = qobject_cast<TextField*>(input);
+    if (field)
         allowed = field->tag() == 1 ? kDigits : kDecimal;
-    return TextInput::onlyCharactersFrom(replacement, allowed);
+    if (TextInput::onlyCharactersFrom(replacement, allowed)) {
+        showRefused(input, {});
+        return true;
+    }
+    // The locale's decimal separator stands for the point the catalogue stores: a pasted
+    // "2,50" becomes "2.50" (typed separators are turned into points before they get here).
+    if (field && field->tag() != 1) {
+        const QString separator = QLocale().decimalPoint();
+        const QString mapped = QString(replacement).replace(separator, QStringLiteral("."));
+        if (separator != QLatin1String(".") && TextInput::onlyCharactersFrom(mapped, allowed)) {
+            showRefused(input, {});
+            const QString edited = field->text();
+            field->setText(edited.left(start) + mapped + edited.mid(start + replacement.size()));
+            // The refused edit puts the cursor back at `start`; it belongs after the paste.
+            const int cursor = start + int(mapped.size());
+            QMetaObject::invokeMethod(
+                field, [field, cursor] { field->setCursorPosition(cursor); }, Qt::QueuedConnection);
+            return false;
+        }
+    }
+    for (const QChar c : replacement)
+        if (!allowed.contains(c)) {
+            showRefused(input, QString(c));
+            break;
+        }
+    return false;
+}
+
+void CoinFormViewController::showRefused(QObject* input, const QString& character) {
+    QLabel* notice = refusedNotices_.value(input);
+    if (!notice)
+        return;
+    if (character.isEmpty()) {
+        form_->setRowVisible(notice, false);
+        return;
+    }
+    // Characters that show as nothing are named instead.
+    if (character == QLatin1String(" "))
+        notice->setText(tr("A space is not accepted here"));
+    else if (character.front().isSpace())
+        notice->setText(tr("A line break is not accepted here"));
+    else
+        notice->setText(tr("\u201C%1\u201D is not accepted here").arg(character));
+    form_->setRowVisible(notice, true);
+    // A reader hears the notice as it comes, not only when it reaches the label.
+    QAccessibleEvent alert(notice, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+bool CoinFormViewController::eventFilter(QObject* watched, QEvent* event) {
+    // A picture set or removed anywhere (the edit screen's removal included) is told to a reader
+    // by the time it is drawn.
+    if (event->type() == QEvent::Paint && (watched == FrontImage || watched == BackImage))
+        describePictures();
+    // A typed decimal separator of the locale is taken as the point the catalogue stores, so
+    // "2,50" typed under a German locale is the same value as "2.50".
+    auto* field = qobject_cast<TextField*>(watched);
+    if (event->type() == QEvent::KeyPress && field && field->delegate() == this &&
+        field->tag() != 1) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        const QString separator = QLocale().decimalPoint();
+        if (separator != QLatin1String(".") && key->text() == separator) {
+            QKeyEvent point(QEvent::KeyPress, Qt::Key_Period, key->modifiers(), QStringLiteral("."),
+                            key->isAutoRepeat(), ushort(key->count()));
+            QCoreApplication::sendEvent(watched, &point);
+            return true;
+        }
+    }
+    return ViewController::eventFilter(watched, event);
 }
 
 int CoinFormViewController::numberOfRows(PickerView* picker) {
@@ -245,8 +367,7 @@ void CoinFormViewController::dismissKeyboard() {
 
 void CoinFormViewController::openCamera(bool front) {
     if (!Platform::imagePicker().isCameraAvailable()) {
-        present(AlertController::okAlert(QStringLiteral("Camera"),
-                                         QStringLiteral("There is no camera available")));
+        present(AlertController::okAlert(tr("Camera"), tr("There is no camera available")));
         return;
     }
     isFrontImage = front;
@@ -279,6 +400,7 @@ void CoinFormViewController::imageTaken(const QImage& image) {
         isBackImage = false;
     }
     isFromCamera = false;
+    describePictures();
 }
 
 void CoinFormViewController::takeOriginal(ImageView* view, const QByteArray& bytes) {
@@ -338,13 +460,13 @@ void CoinFormViewController::attach(bool front) {
     isFrontImage = front;
     isBackImage = !front;
     QPointer<CoinFormViewController> self(this);
-    Platform::documentPicker().open(
-        this, {QStringLiteral("Pictures (*.jpg *.jpeg *.png)"), QStringLiteral("All files (*)")},
-        [self](const QString& path) {
-            if (self)
-                self->documentPicked(path);
-        },
-        {});
+    Platform::documentPicker().open(this,
+                                    {tr("Pictures (*.jpg *.jpeg *.png)"), tr("All files (*)")},
+                                    [self](const QString& path) {
+                                        if (self)
+                                            self->documentPicked(path);
+                                    },
+                                    {});
 }
 
 void CoinFormViewController::documentPicked(const QString& path) {
@@ -358,6 +480,7 @@ void CoinFormViewController::documentPicked(const QString& path) {
     const QByteArray bytes = file.readAll();
     ImageView* view = isFrontImage ? FrontImage : BackImage;
     view->setImage(ImageCoding::decode(bytes));
+    describePictures();
     takeOriginal(view, bytes);
 }
 
@@ -365,11 +488,11 @@ void CoinFormViewController::paste(ImageView* view) {
     const QImage image = QApplication::clipboard()->image();
     if (!image.isNull()) {
         view->setImage(image);
+        describePictures();
         takeOriginal(view, ImageCoding::jpeg(image, 0.92));
         return;
     }
-    present(AlertController::okAlert(QStringLiteral("Clipboard"),
-                                     QStringLiteral("There is no image in the Clipboard")));
+    present(AlertController::okAlert(tr("Clipboard"), tr("There is no image in the Clipboard")));
 }
 
 CoinFormViewController::Shown CoinFormViewController::shown() const {

@@ -9,11 +9,13 @@
 #include "platform/kit/Views.h"
 #include "screens/entry/CoinFormRules.h"
 
+#include <QHash>
 #include <QPushButton>
 
 #include <optional>
 
 class QFormLayout;
+class QLabel;
 
 class CoinFormViewController : public ViewController,
                                public TextInputDelegate,
@@ -58,8 +60,14 @@ public:
     // A field or picture differs from what the form showed when it opened (or was last saved
     // or filled again).
     bool hasUnsavedChanges() const override;
+    // The notice below a filtered input telling which character it refused (hidden when none).
+    QLabel* refusedNotice(QObject* input) const { return refusedNotices_.value(input); }
 
 protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    // The picture views tell a reader when they are empty.
+    void describePictures();
     // A click on the form outside its fields ends editing.
     void mousePressEvent(QMouseEvent* event) override;
     // Loads the picker lists, wires the filters and pickers, styles the buttons.
@@ -86,6 +94,9 @@ protected:
     QFormLayout* form_;
 
 private:
+    QHash<QObject*, QLabel*> refusedNotices_;
+    // Shows which character `input` refused, or hides its notice when `character` is empty.
+    void showRefused(QObject* input, const QString& character);
     // A side's original, for as long as the view shows the picture made from it.
     struct SideOriginal {
         qint64 imageKey = 0;

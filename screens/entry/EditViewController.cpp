@@ -19,8 +19,8 @@
 
 EditViewController::EditViewController(QWidget* parent)
     : CoinFormViewController(parent)
-    , NotesButton(new QPushButton(QStringLiteral("Notes"), this))
-    , ShareButton(new QPushButton(QStringLiteral("Share"), this))
+    , NotesButton(new QPushButton(tr("Notes"), this))
+    , ShareButton(new QPushButton(tr("Share"), this))
     , reviewService([this] {
         Platform::reviewRequester().requestReview(this);
         return true;
@@ -47,7 +47,7 @@ EditViewController::EditViewController(QWidget* parent)
 }
 
 void EditViewController::viewDidLoad() {
-    setTitle(QStringLiteral("Edit Coin"));
+    setTitle(tr("Edit Coin"));
     fillForm();
     setUpForm();
     Styling::round(NotesButton, 10, 2, Qt::black);
@@ -56,10 +56,10 @@ void EditViewController::viewDidLoad() {
     FrontImage->installEventFilter(this);
     BackImage->installEventFilter(this);
     ValueTextField->installEventFilter(this);
-    navigationItem().rightItems.prepend({QStringLiteral("Share"), [this] { shareButtonClicked(); },
-                                         nullptr, QStringLiteral("ShareButton")});
+    navigationItem().rightItems.prepend(
+        {tr("Share"), [this] { shareButtonClicked(); }, nullptr, QStringLiteral("ShareButton")});
     // A desktop addition: the coin's saved changes of quantity and value.
-    navigationItem().rightItems.prepend({QStringLiteral("History"),
+    navigationItem().rightItems.prepend({tr("History"),
                                          [this] { performSegue(QStringLiteral("History")); },
                                          nullptr, QStringLiteral("HistoryButton")});
     ShareButton->hide();
@@ -86,7 +86,7 @@ bool EditViewController::eventFilter(QObject* watched, QEvent* event) {
     } else if (event->type() == QEvent::MouseButtonRelease && longPress_) {
         longPress_->stop();
     }
-    return false;
+    return CoinFormViewController::eventFilter(watched, event);
 }
 
 void EditViewController::fillForm() {
@@ -153,10 +153,10 @@ void EditViewController::SaveButtonClicked() {
 }
 
 void EditViewController::removeImage(bool front) {
-    auto* alert = new AlertController(front ? QStringLiteral("Remove Front Coin Image")
-                                            : QStringLiteral("Remove Back Coin Image"),
-                                      QStringLiteral("Do You Want to Remove This Image?"));
-    alert->addAction(QStringLiteral("Yes"), AlertController::ActionStyle::Default, [this, front] {
+    auto* alert =
+        new AlertController(front ? tr("Remove Front Coin Image") : tr("Remove Back Coin Image"),
+                            tr("Do You Want to Remove This Image?"));
+    alert->addAction(tr("Yes"), AlertController::ActionStyle::Default, [this, front] {
         // Found by the values the opening list noted, not by the form's texts.
         std::vector<Predicate> terms = {
             Predicate::format(QStringLiteral("denomination = %@"), SelectedDenomination),
@@ -179,7 +179,7 @@ void EditViewController::removeImage(bool front) {
         (front ? FrontImage : BackImage)->setImage({});
         rememberShownPicture(front);
     });
-    alert->addAction(QStringLiteral("No"), AlertController::ActionStyle::Cancel);
+    alert->addAction(tr("No"), AlertController::ActionStyle::Cancel);
     present(alert);
 }
 

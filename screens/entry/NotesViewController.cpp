@@ -12,8 +12,9 @@
 NotesViewController::NotesViewController(QWidget* parent)
     : ViewController(parent)
     , NotesTextView(new TextView(this))
-    , SaveButton(new QPushButton(QStringLiteral("Save"), this)) {
+    , SaveButton(new QPushButton(tr("Save"), this)) {
     NotesTextView->setObjectName(QStringLiteral("NotesTextView"));
+    NotesTextView->setAccessibleName(tr("Notes"));
     SaveButton->setObjectName(QStringLiteral("SaveButton"));
     SaveButton->setMinimumHeight(44);
     auto* layout = new QVBoxLayout(this);
@@ -25,7 +26,7 @@ NotesViewController::NotesViewController(QWidget* parent)
 }
 
 void NotesViewController::viewDidLoad() {
-    setTitle(QStringLiteral("Notes"));
+    setTitle(tr("Notes"));
     Styling::round(NotesTextView, 5, 1, Appearance::isDark() ? Qt::white : Qt::black);
     Styling::round(SaveButton, 10, 2, Qt::black);
     showInBar(SaveButton);

@@ -78,7 +78,7 @@ ZoomViewController::ZoomViewController(QWidget* parent)
 }
 
 void ZoomViewController::viewDidLoad() {
-    setTitle(QStringLiteral("Zoom"));
+    setTitle(tr("Zoom"));
     ManagedObjectContext* context = coin_ ? coin_->managedObjectContext() : nullptr;
     if (!context) {
         sides_[0].stored = ShareFrontImageData;
@@ -107,8 +107,8 @@ void ZoomViewController::viewDidLoad() {
                 pending_.append({cell, *sides_[i].original});
         }
     }
-    navigationItem().rightItems = {{QStringLiteral("Share"), [this] { shareButtonClicked(); },
-                                    nullptr, QStringLiteral("ShareButton")}};
+    navigationItem().rightItems = {
+        {tr("Share"), [this] { shareButtonClicked(); }, nullptr, QStringLiteral("ShareButton")}};
     updateNavigationBar();
     layoutCells();
 }

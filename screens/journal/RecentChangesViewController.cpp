@@ -45,6 +45,7 @@ RecentChangesViewController::RecentChangesViewController(QWidget* parent)
     StepsTable->setColumnCount(3);
     StepsTable->setHorizontalHeaderLabels({tr("Date"), tr("Change"), tr("State")});
     StepsTable->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+    StepsTable->horizontalHeader()->setAccessibleName(tr("Column titles"));
     panes_->addWidget(StepsTable, 3);
 
     auto* detail = new QWidget(this);

@@ -28,6 +28,7 @@ RecentlyDeletedViewController::RecentlyDeletedViewController(QWidget* parent)
     DeletedTable->setColumnCount(3);
     DeletedTable->setHorizontalHeaderLabels({tr("Coin"), tr("Country"), tr("Deleted")});
     DeletedTable->horizontalHeader()->setStretchLastSection(true);
+    DeletedTable->horizontalHeader()->setAccessibleName(tr("Column titles"));
     layout->addWidget(DeletedTable, 1);
     EmptyLabel->setObjectName(QStringLiteral("EmptyLabel"));
     EmptyLabel->setAlignment(Qt::AlignCenter);

@@ -4,17 +4,29 @@
 #include "platform/core/Fatal.h"
 #include "reports/Currency.h"
 
+#include <QCoreApplication>
+
 namespace MainListSorting {
 
 const QList<SortChoice>& choices() {
     static const QList<SortChoice> all = {
-        {"By Name", "Option 1 selected", "Name", "denomination", "Search by Denomination"},
-        {"By Year", "Option 2 selected", "Year", "year", "Search by Year"},
-        {"By Quantity", "Option 3 selected", "Qty", "quantity", "Search by Quantity"},
-        {"By Value", "Option 4 selected", "Value", "value", "Search by Value"},
-        {"By Country", "Option 5 selected", "Country", "country", "Search by Country"},
+        // The menu titles name the choice (untranslated); shown through shownTitle().
+        {QT_TRANSLATE_NOOP("MainListSorting", "By Name"), "Option 1 selected", "Name",
+         "denomination", QT_TRANSLATE_NOOP("MainListSorting", "Search by Denomination")},
+        {QT_TRANSLATE_NOOP("MainListSorting", "By Year"), "Option 2 selected", "Year", "year",
+         QT_TRANSLATE_NOOP("MainListSorting", "Search by Year")},
+        {QT_TRANSLATE_NOOP("MainListSorting", "By Quantity"), "Option 3 selected", "Qty",
+         "quantity", QT_TRANSLATE_NOOP("MainListSorting", "Search by Quantity")},
+        {QT_TRANSLATE_NOOP("MainListSorting", "By Value"), "Option 4 selected", "Value", "value",
+         QT_TRANSLATE_NOOP("MainListSorting", "Search by Value")},
+        {QT_TRANSLATE_NOOP("MainListSorting", "By Country"), "Option 5 selected", "Country",
+         "country", QT_TRANSLATE_NOOP("MainListSorting", "Search by Country")},
     };
     return all;
+}
+
+QString shown(const QString& text) {
+    return QCoreApplication::translate("MainListSorting", text.toUtf8().constData());
 }
 
 const SortChoice* choiceFor(const QString& sortName) {
@@ -90,7 +102,9 @@ QList<CoinPtr> filter(const QList<CoinPtr>& all, const QString& sortName, const 
 }
 
 QString yearLine(const Coins& coin) {
-    return QStringLiteral("Year: %1  Mint Mark: %2").arg(coin.year()).arg(coin.mintMark());
+    return QCoreApplication::translate("MainListSorting", "Year: %1  Mint Mark: %2")
+        .arg(coin.year())
+        .arg(coin.mintMark());
 }
 
 qint16 shownQuantity(const Coins& coin) {
@@ -98,12 +112,12 @@ qint16 shownQuantity(const Coins& coin) {
 }
 
 QString quantityLine(const Coins& coin) {
-    return QStringLiteral("Qty: %1").arg(shownQuantity(coin));
+    return QCoreApplication::translate("MainListSorting", "Qty: %1").arg(shownQuantity(coin));
 }
 
 QString valueLine(const Coins& coin) {
     const double value = double(coin.value());
-    return QStringLiteral("Value: %1  Total Value: %2")
+    return QCoreApplication::translate("MainListSorting", "Value: %1  Total Value: %2")
         .arg(Currency::text(value), Currency::text(double(shownQuantity(coin)) * value));
 }
 

@@ -17,6 +17,8 @@ struct SortChoice {
 namespace MainListSorting {
 // The five choices of the "Sort by" menu, in menu order.
 const QList<SortChoice>& choices();
+// A choice's menu title or placeholder as the user reads it, in the user's language.
+QString shown(const QString& text);
 // nullptr for an absent or unknown sort name.
 const SortChoice* choiceFor(const QString& sortName);
 // The coins of `all` (in order) whose key text for the sort contains `text`. Text keys compare

@@ -12,6 +12,7 @@
 #include "screens/list/MainListSorting.h"
 #include "screens/list/MainListTableViewCell.h"
 
+#include <QPushButton>
 #include <QVBoxLayout>
 
 MainListTableViewController::MainListTableViewController(QWidget* parent)
@@ -31,14 +32,15 @@ MainListTableViewController::MainListTableViewController(QWidget* parent)
 }
 
 void MainListTableViewController::viewDidLoad() {
-    setTitle(QStringLiteral("Coins"));
+    setTitle(tr("Coins"));
     searchController->searchResultsUpdater = [this](SearchController* s) {
         updateSearchResults(s);
     };
     searchController->obscuresBackgroundDuringPresentation = false;
     searchController->hidesNavigationBarDuringPresentation = false;
-    searchController->setPlaceholderText(QStringLiteral("Search by Denomination"));
+    searchController->setPlaceholderText(tr("Search by Denomination"));
     tableView->setTableHeaderView(searchController);
+    searchController->setAccessibleName(tr("Search"));
     ZoomImages.clear();
     SortAsc = true;
     tableView->setDataSource(this);
@@ -47,23 +49,34 @@ void MainListTableViewController::viewDidLoad() {
     DarkMode = Appearance::isDark();
     for (const SortChoice& choice : MainListSorting::choices()) {
         const QString title = choice.menuTitle;
-        sortMenu->addAction(title, this, [this, title] { chooseSort(title); });
+        sortMenu->addAction(MainListSorting::shown(title), this,
+                            [this, title] { chooseSort(title); });
     }
-    navigationItem().rightItems = {
-        {QStringLiteral("+"), [this] { performSegue(QStringLiteral("AddCoin")); }, nullptr,
-         QStringLiteral("AddButton")},
-        {QStringLiteral("Sort by"), {}, sortMenu, QStringLiteral("SortButton")},
-        {QStringLiteral("View"),
-         {},
-         viewSwitch->menu(),
-         QStringLiteral("ViewButton"),
-         QStringLiteral("tablecells")}};
+    navigationItem().rightItems = {{QStringLiteral("+"),
+                                    [this] { performSegue(QStringLiteral("AddCoin")); }, nullptr,
+                                    QStringLiteral("AddButton")},
+                                   {tr("Sort by"), {}, sortMenu, QStringLiteral("SortButton")},
+                                   {tr("View"),
+                                    {},
+                                    viewSwitch->menu(),
+                                    QStringLiteral("ViewButton"),
+                                    QStringLiteral("tablecells")}};
     updateNavigationBar();
+    nameAddButton();
 }
 
 void MainListTableViewController::viewDidAppear(bool) {
     CalledFromList = QStringLiteral("MAINCOINLIST");
     viewSwitch->apply();
+    nameAddButton();
+}
+
+void MainListTableViewController::nameAddButton() {
+    // The bar shows "+"; a reader says what it does. The bar makes its buttons anew for each
+    // screen it shows, so this follows every return to the list.
+    if (QWidget* w = window())
+        if (auto* add = w->findChild<QPushButton*>(QStringLiteral("AddButton")))
+            add->setAccessibleName(tr("Add Coin"));
 }
 
 int MainListTableViewController::readableWidth() const {
@@ -82,7 +95,7 @@ void MainListTableViewController::chooseSort(const QString& menuTitle) {
             continue;
         Console::print(choice.consoleLine);
         SortName = choice.sortName;
-        searchController->setPlaceholderText(choice.placeholder);
+        searchController->setPlaceholderText(MainListSorting::shown(choice.placeholder));
         fetchCoins();
         tableView->scrollToTop(); // the new order is shown from its first row
     }
@@ -140,7 +153,7 @@ int MainListTableViewController::numberOfRows(TableView*, int) {
 }
 
 QString MainListTableViewController::titleForHeader(TableView*, int) {
-    return QStringLiteral("# Coins = %1 of %2").arg(listInUse().size()).arg(CoinList.size());
+    return tr("# Coins = %1 of %2").arg(listInUse().size()).arg(CoinList.size());
 }
 
 TableViewCell* MainListTableViewController::cellForRow(TableView* table, IndexPath path) {
@@ -177,7 +190,7 @@ void MainListTableViewController::prepareForSegue(StoryboardSegue& segue, QObjec
 }
 
 QList<SwipeAction> MainListTableViewController::trailingSwipeActions(TableView*, IndexPath) {
-    return {{QStringLiteral("delete"), true, [this](IndexPath p) {
+    return {{tr("delete"), true, [this](IndexPath p) {
                  QList<CoinPtr>& list = searching() ? FilteredCoinList : CoinList;
                  const CoinPtr coin = list.at(p.row);
                  Application::viewContext()->deleteObject(coin);
@@ -186,6 +199,11 @@ QList<SwipeAction> MainListTableViewController::trailingSwipeActions(TableView*,
                  searchIndex_.reset();
                  tableView->deleteRows({p});
              }}};
+}
+
+QString MainListTableViewController::accessibleTextForRow(TableView*, IndexPath path) {
+    const Coins& coin = *listInUse().at(path.row);
+    return CoinListView::rowText(coin, MainListSorting::shownQuantity(coin));
 }
 
 QVariant MainListTableViewController::valueForColumn(TableView*, IndexPath path, int column,

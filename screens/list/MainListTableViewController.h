@@ -40,6 +40,9 @@ public:
     int widthForColumn(TableView*, int column) override {
         return CoinListView::columnWidth(column);
     }
+    QString accessibleTextForRow(TableView* table, IndexPath path) override;
+    // Names the bar's "+" button for a reader.
+    void nameAddButton();
     QVariant valueForColumn(TableView*, IndexPath path, int column, int role) override;
     void didClickColumnHeader(TableView*, int column) override;
     std::optional<std::pair<int, Qt::SortOrder>> sortColumn(TableView*) override;

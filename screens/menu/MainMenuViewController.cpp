@@ -19,18 +19,18 @@ MainMenuViewController::MainMenuViewController(QWidget* parent)
     , housekeeping(UserDefaults::standard())
     , entries_(new QWidget(this))
     , fade_(new QGraphicsOpacityEffect(entries_)) {
-    setTitle(QStringLiteral("Pelvane"));
+    setTitle(tr("Pelvane"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 16, 24, 24);
-    auto* name = new QLabel(QStringLiteral("Pelvane"), this);
+    auto* name = new QLabel(tr("Pelvane"), this);
     QFont big = name->font();
     big.setPointSizeF(big.pointSizeF() * 2.6);
     big.setBold(true);
     name->setFont(big);
     name->setAlignment(Qt::AlignCenter);
-    auto* tagline = new QLabel(QStringLiteral("Your coin collection"), this);
+    auto* tagline = new QLabel(tr("Your coin collection"), this);
     tagline->setAlignment(Qt::AlignCenter);
-    ControlButton = new QPushButton(QStringLiteral("\u2630  Menu"), this);
+    ControlButton = new QPushButton(tr("\u2630  Menu"), this);
     ControlButton->setObjectName(QStringLiteral("ControlButton"));
     ControlButton->setMinimumHeight(48);
     layout->addStretch(1);
@@ -43,13 +43,16 @@ MainMenuViewController::MainMenuViewController(QWidget* parent)
     auto* entryLayout = new QVBoxLayout(entries_);
     entryLayout->setContentsMargins(0, 0, 0, 0);
     entryLayout->setSpacing(10);
-    const QStringList titles = {"List Coins",      "Group By",        "Add Coin",
-                                "Rate && Share",   "Coin Valuation",  "Pelvane Overview",
-                                "Import / Export", "Reference Lists", "Statistics",
-                                "Recent Changes"};
-    for (int i = 0; i < titles.size(); ++i) {
-        auto* button = new QPushButton(titles[i], entries_);
-        button->setObjectName(QString(titles[i]).remove(' ').remove('/').remove('&'));
+    // The English titles also name the buttons' objects.
+    static const char* const titles[] = {
+        QT_TR_NOOP("List Coins"),      QT_TR_NOOP("Group By"),
+        QT_TR_NOOP("Add Coin"),        QT_TR_NOOP("Rate && Share"),
+        QT_TR_NOOP("Coin Valuation"),  QT_TR_NOOP("Pelvane Overview"),
+        QT_TR_NOOP("Import / Export"), QT_TR_NOOP("Reference Lists"),
+        QT_TR_NOOP("Statistics"),      QT_TR_NOOP("Recent Changes")};
+    for (int i = 0; i < int(std::size(titles)); ++i) {
+        auto* button = new QPushButton(tr(titles[i]), entries_);
+        button->setObjectName(QString::fromLatin1(titles[i]).remove(' ').remove('/').remove('&'));
         button->setMinimumHeight(44);
         entryLayout->addWidget(button);
         MainMenuButton.append(button);
