@@ -89,6 +89,7 @@ QTableView* TableView::gridView() {
     grid_->verticalHeader()->setDefaultSectionSize(kGridRowHeight);
     grid_->verticalHeader()->setMinimumSectionSize(kGridRowHeight);
     QHeaderView* titles = grid_->horizontalHeader();
+    titles->setAccessibleName(tr("Column titles"));
     titles->setSectionsClickable(true);
     titles->setSortIndicatorShown(true);
     titles->setHighlightSections(false);
