@@ -41,13 +41,7 @@ inline QByteArray photo(const QSize& size, quint32 seed) {
                            std::clamp(qBlue(c) + n, 0, 255));
         }
     }
-    QByteArray out;
-    QBuffer buffer(&out);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "jpeg");
-    writer.setQuality(90);
-    writer.write(image);
-    return out;
+    return ImageCoding::jpeg(image, 0.9);
 }
 
 // Keeps the photo as the original of a new stored picture; the stored picture's bytes.

@@ -29,12 +29,8 @@ QByteArray photo(int seed) {
                             rng.bounded(400));
     }
     painter.end();
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "jpeg");
-    writer.setQuality(90);
-    if (!writer.write(image))
+    QByteArray bytes = ImageCoding::jpeg(image, 0.9);
+    if (bytes.isEmpty())
         std::exit(1);
     return bytes;
 }

@@ -1,6 +1,7 @@
 #include "../ScreenFixture.h"
 #include "model/Originals.h"
 #include "platform/core/Console.h"
+#include "platform/graphics/ImageCoding.h"
 #include "screens/entry/EditViewController.h"
 #include "screens/entry/ZoomViewController.h"
 
@@ -18,13 +19,7 @@ QByteArray photo(const QSize& size) {
     p.setPen(QPen(Qt::yellow, 40));
     p.drawEllipse(image.rect().adjusted(200, 200, -200, -200));
     p.end();
-    QByteArray out;
-    QBuffer buffer(&out);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "jpeg");
-    writer.setQuality(90);
-    writer.write(image);
-    return out;
+    return ImageCoding::jpeg(image, 0.9);
 }
 } // namespace
 

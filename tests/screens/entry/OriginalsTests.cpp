@@ -25,13 +25,7 @@ QByteArray photo(int width, int height, const QString& text) {
     p.setFont(f);
     p.drawText(image.rect(), Qt::AlignCenter, text);
     p.end();
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "jpeg");
-    writer.setQuality(90);
-    writer.write(image);
-    return bytes;
+    return ImageCoding::jpeg(image, 0.9);
 }
 } // namespace
 

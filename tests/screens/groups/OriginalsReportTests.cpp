@@ -28,13 +28,7 @@ QByteArray photo(int width, int height, const QColor& left) {
     for (int x = 0; x < width; x += 40)
         painter.drawLine(x, height / 3, x, height / 3 + 60);
     painter.end();
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "jpeg");
-    writer.setQuality(90);
-    writer.write(image);
-    return bytes;
+    return ImageCoding::jpeg(image, 0.9);
 }
 
 // The sizes of the PDF's images, as their objects declare them.
