@@ -678,6 +678,11 @@ Die Sammlung selbst ist unverändert. Um eine Kopie zu behalten, sichern Sie sie
         <source>Table</source>
         <translation>Tabelle</translation>
     </message>
+    <message>
+        <location filename="../platform/kit/TableViewGrid.cpp" line="92"/>
+        <source>Column titles</source>
+        <translation>Spaltentitel</translation>
+    </message>
 </context>
 <context>
     <name>ViewController</name>

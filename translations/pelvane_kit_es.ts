@@ -678,6 +678,11 @@ La colección no ha cambiado. Para conservar una copia, haga una copia de seguri
         <source>Table</source>
         <translation>Tabla</translation>
     </message>
+    <message>
+        <location filename="../platform/kit/TableViewGrid.cpp" line="92"/>
+        <source>Column titles</source>
+        <translation>Títulos de las columnas</translation>
+    </message>
 </context>
 <context>
     <name>ViewController</name>

@@ -678,6 +678,11 @@ La collection elle-même est inchangée. Pour en garder une copie, sauvegardez-l
         <source>Table</source>
         <translation>Tableau</translation>
     </message>
+    <message>
+        <location filename="../platform/kit/TableViewGrid.cpp" line="92"/>
+        <source>Column titles</source>
+        <translation>Titres des colonnes</translation>
+    </message>
 </context>
 <context>
     <name>ViewController</name>

@@ -678,6 +678,11 @@ The collection itself is unchanged. To keep a copy, back it up from Import / Exp
         <source>Table</source>
         <translation>Таблица</translation>
     </message>
+    <message>
+        <location filename="../platform/kit/TableViewGrid.cpp" line="92"/>
+        <source>Column titles</source>
+        <translation>Заголовки столбцов</translation>
+    </message>
 </context>
 <context>
     <name>ViewController</name>
