@@ -1,6 +1,7 @@
 #include "app/AppMenuBar.h"
 
 #include "model/Journal.h"
+#include "model/PersistentContainer.h"
 #include "platform/core/UserDefaults.h"
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
@@ -14,6 +15,8 @@
 
 #include <QActionGroup>
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
@@ -24,8 +27,9 @@ QString trMenu(const char* text) {
 }
 
 // The licence the About box states; the project names no other.
-const char* const kLicence = QT_TRANSLATE_NOOP(
-    "AppMenuBar", "Licence: this copy of Pelvane is provided as is, without warranty of any kind.");
+const char* const kLicence =
+    QT_TRANSLATE_NOOP("AppMenuBar", "Licence: GNU General Public License, version 3 or later "
+                                    "(GPL-3.0-or-later), without warranty of any kind.");
 
 // Back to the start screen, then on by the segue its button performs; `then` runs on the
 // screen that segue opened.
@@ -98,7 +102,12 @@ QString aboutText() {
     return QCoreApplication::translate(
                "AppMenuBar", "Pelvane %1\n\nA catalogue of a personal coin collection that keeps "
                              "everything on your machine.\n\n%2")
-        .arg(QStringLiteral(PELVANE_VERSION), trMenu(kLicence));
+        .arg(QStringLiteral(PELVANE_VERSION),
+             trMenu(kLicence) + QStringLiteral("\n\n") +
+                 trMenu("Your collection and its photos are kept in %1.")
+                     .arg(QDir::toNativeSeparators(
+                         QFileInfo(Application::delegate().persistentContainer().storePath())
+                             .absolutePath())));
 }
 
 QMenuBar* install(Window& window, MainMenuViewController* menu) {

@@ -22,8 +22,8 @@
 <context>
     <name>AppMenuBar</name>
     <message>
-        <source>Licence: this copy of Pelvane is provided as is, without warranty of any kind.</source>
-        <translation>Lizenz: Diese Kopie von Pelvane wird ohne Mängelgewähr und ohne jegliche Garantie bereitgestellt.</translation>
+        <source>Licence: GNU General Public License, version 3 or later (GPL-3.0-or-later), without warranty of any kind.</source>
+        <translation>Lizenz: GNU General Public License, Version 3 oder später (GPL-3.0-or-later), ohne jegliche Garantie.</translation>
     </message>
     <message>
         <source>Cards</source>
@@ -152,6 +152,10 @@ Ein Katalog einer privaten Münzsammlung, der alles auf Ihrem Rechner behält.
     <message>
         <source>About Pelvane</source>
         <translation>Über Pelvane</translation>
+    </message>
+    <message>
+        <source>Your collection and its photos are kept in %1.</source>
+        <translation>Ihre Sammlung und ihre Fotos liegen in %1.</translation>
     </message>
 </context>
 <context>

@@ -22,8 +22,8 @@
 <context>
     <name>AppMenuBar</name>
     <message>
-        <source>Licence: this copy of Pelvane is provided as is, without warranty of any kind.</source>
-        <translation>Licencia: esta copia de Pelvane se ofrece tal cual, sin garantía de ningún tipo.</translation>
+        <source>Licence: GNU General Public License, version 3 or later (GPL-3.0-or-later), without warranty of any kind.</source>
+        <translation>Licencia: GNU General Public License, versión 3 o posterior (GPL-3.0-or-later), sin garantía de ningún tipo.</translation>
     </message>
     <message>
         <source>Cards</source>
@@ -152,6 +152,10 @@ Un catálogo de una colección personal de monedas que guarda todo en su equipo.
     <message>
         <source>About Pelvane</source>
         <translation>Acerca de Pelvane</translation>
+    </message>
+    <message>
+        <source>Your collection and its photos are kept in %1.</source>
+        <translation>Su colección y sus fotos se guardan en %1.</translation>
     </message>
 </context>
 <context>

@@ -22,8 +22,8 @@
 <context>
     <name>AppMenuBar</name>
     <message>
-        <source>Licence: this copy of Pelvane is provided as is, without warranty of any kind.</source>
-        <translation>Licence : cette copie de Pelvane est fournie telle quelle, sans garantie d’aucune sorte.</translation>
+        <source>Licence: GNU General Public License, version 3 or later (GPL-3.0-or-later), without warranty of any kind.</source>
+        <translation>Licence : GNU General Public License, version 3 ou ultérieure (GPL-3.0-or-later), sans aucune garantie.</translation>
     </message>
     <message>
         <source>Cards</source>
@@ -152,6 +152,10 @@ Un catalogue de collection personnelle de monnaies qui garde tout sur votre mach
     <message>
         <source>About Pelvane</source>
         <translation>À propos de Pelvane</translation>
+    </message>
+    <message>
+        <source>Your collection and its photos are kept in %1.</source>
+        <translation>Votre collection et ses photos sont conservées dans %1.</translation>
     </message>
 </context>
 <context>

@@ -22,8 +22,8 @@
 <context>
     <name>AppMenuBar</name>
     <message>
-        <source>Licence: this copy of Pelvane is provided as is, without warranty of any kind.</source>
-        <translation>Лицензия: эта копия Pelvane предоставляется «как есть», без каких-либо гарантий.</translation>
+        <source>Licence: GNU General Public License, version 3 or later (GPL-3.0-or-later), without warranty of any kind.</source>
+        <translation>Лицензия: GNU General Public License версии 3 или более поздней (GPL-3.0-or-later), без каких-либо гарантий.</translation>
     </message>
     <message>
         <source>Cards</source>
@@ -152,6 +152,10 @@ A catalogue of a personal coin collection that keeps everything on your machine.
     <message>
         <source>About Pelvane</source>
         <translation>О Pelvane</translation>
+    </message>
+    <message>
+        <source>Your collection and its photos are kept in %1.</source>
+        <translation>Ваша коллекция и её фотографии хранятся в %1.</translation>
     </message>
 </context>
 <context>

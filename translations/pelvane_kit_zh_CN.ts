@@ -22,8 +22,8 @@
 <context>
     <name>AppMenuBar</name>
     <message>
-        <source>Licence: this copy of Pelvane is provided as is, without warranty of any kind.</source>
-        <translation>许可：本 Pelvane 副本按“原样”提供，不附带任何形式的担保。</translation>
+        <source>Licence: GNU General Public License, version 3 or later (GPL-3.0-or-later), without warranty of any kind.</source>
+        <translation>许可证：GNU 通用公共许可证第 3 版或更高版本（GPL-3.0-or-later），不提供任何担保。</translation>
     </message>
     <message>
         <source>Cards</source>
@@ -152,6 +152,10 @@ A catalogue of a personal coin collection that keeps everything on your machine.
     <message>
         <source>About Pelvane</source>
         <translation>关于 Pelvane</translation>
+    </message>
+    <message>
+        <source>Your collection and its photos are kept in %1.</source>
+        <translation>您的收藏及其照片保存在 %1。</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,7 @@
 #include "screens/exchange/ImportExportViewController.h"
 #include "screens/exchange/ImportViewController.h"
 #include "screens/valuation/ValuationViewController.h"
+#include <QFileInfo>
 
 #include <QDropEvent>
 #include <QMenuBar>
@@ -102,7 +103,9 @@ TEST_F(DesktopWindowTest, TheMenuBarLeadsWhereTheStartScreensButtonsDo) {
     EXPECT_TRUE(
         QRegularExpression("^About Pelvane / Pelvane \\d+\\.\\d+\n").match(alertText()).hasMatch())
         << alertText().toStdString();
-    EXPECT_TRUE(alertText().contains("Licence"));
+    EXPECT_TRUE(alertText().contains("Licence: GNU General Public License, version 3 or later"));
+    EXPECT_TRUE(alertText().contains(
+        "kept in " + QFileInfo(delegate->persistentContainer().storePath()).absolutePath() + "."));
     dismissAlert();
 
     // View: the lists' view for every list, and the appearance, both kept for the next start.
