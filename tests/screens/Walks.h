@@ -1,8 +1,8 @@
 #pragma once
 // What a screen reader and a translator would find on a screen: the controls a user can reach
 // that have no accessible name, and the texts shown that did not go through the translation.
-#include <QAbstractItemView>
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QAccessibleInterface>
 #include <QComboBox>
