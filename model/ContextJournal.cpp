@@ -58,13 +58,36 @@ void ManagedObjectContext::closeOwnStep() {
 bool ManagedObjectContext::stampStep(qint64 step) {
     if (stampedStep_ == step)
         return true;
-    SqliteStatement& st =
-        db_->cached(QStringLiteral("UPDATE temp.JournalStamp SET step = ?1 WHERE pk = 1"));
-    st.bindInt(1, step);
-    const bool done = st.step() == SQLITE_DONE;
-    st.reset();
-    stampedStep_ = done ? step : -1;
-    return done;
+    // A step taken up again (an import's next commit group) goes on after its last row.
+    SqliteStatement& last = db_->cached(
+        QStringLiteral("SELECT max(seq) FROM main.Journal WHERE seq BETWEEN ?1 AND ?1 + %1 - 1")
+            .arg(Journal::kRowsPerStep));
+    last.bindInt(1, step * Journal::kRowsPerStep);
+    const bool read = last.step() == SQLITE_ROW;
+    const qint64 at = read && !last.isNull(0) ? last.columnInt(0) : step * Journal::kRowsPerStep;
+    last.reset();
+    stampedStep_ = read ? step : 0;
+    nextSeq_ = at + 1;
+    return read;
+}
+
+void ManagedObjectContext::attachJournal() {
+    sqlite3_create_function(db_->handle(), "journal_seq", 0, SQLITE_UTF8, this, numberJournalRow,
+                            nullptr, nullptr);
+    stampedStep_ = 0;
+}
+
+void ManagedObjectContext::numberJournalRow(sqlite3_context* call, int, sqlite3_value**) {
+    auto* self = static_cast<ManagedObjectContext*>(sqlite3_user_data(call));
+    if (self->stampedStep_ <= 0) {
+        sqlite3_result_error(call, "a change outside any step of the journal", -1);
+        return;
+    }
+    if (self->nextSeq_ >= (self->stampedStep_ + 1) * Journal::kRowsPerStep) {
+        sqlite3_result_error(call, "a step of the journal too large to keep", -1);
+        return;
+    }
+    sqlite3_result_int64(call, self->nextSeq_++);
 }
 
 bool ManagedObjectContext::openStep(const QDateTime& now) {
@@ -109,13 +132,24 @@ qint64 ManagedObjectContext::newStep(const DirectStep& asked, const QDateTime& n
     // A new change drops the steps that could still be redone, as in any editor; an undo or a
     // redo is not a new change.
     if (!asked.reversal) {
-        static const QString dropSql = Journal::headerSql(
-            QStringLiteral("UPDATE main.Journal SET {state} = 2 WHERE tbl = 0 AND {state} = 1"));
-        SqliteStatement& drop = db_->cached(dropSql);
-        const bool dropped = drop.step() == SQLITE_DONE;
-        drop.reset();
-        if (!dropped)
+        // Looked for first: an UPDATE that changes the column its index is chosen by sets up a
+        // scratch table on every run, rows or none, and most saves have nothing to drop.
+        static const QString anySql = Journal::headerSql(
+            QStringLiteral("SELECT 1 FROM main.Journal WHERE tbl = 0 AND {state} = 1 LIMIT 1"));
+        SqliteStatement& any = db_->cached(anySql);
+        const int found = any.step();
+        any.reset();
+        if (found != SQLITE_ROW && found != SQLITE_DONE)
             return 0;
+        if (found == SQLITE_ROW) {
+            static const QString dropSql = Journal::headerSql(QStringLiteral(
+                "UPDATE main.Journal SET {state} = 2 WHERE tbl = 0 AND {state} = 1"));
+            SqliteStatement& drop = db_->cached(dropSql);
+            const bool dropped = drop.step() == SQLITE_DONE;
+            drop.reset();
+            if (!dropped)
+                return 0;
+        }
     }
     // The header opens the step's range, after every row of the steps before it.
     static const QString headerInsert = Journal::headerSql(
@@ -135,7 +169,13 @@ qint64 ManagedObjectContext::newStep(const DirectStep& asked, const QDateTime& n
     st.bindInt(6, asked.reversal ? 3 : 0);
     const bool made = st.step() == SQLITE_DONE;
     st.reset();
-    return made ? db_->lastInsertRowId() / Journal::kRowsPerStep : 0;
+    if (!made)
+        return 0;
+    // The step's rows follow its header.
+    const qint64 header = db_->lastInsertRowId();
+    stampedStep_ = header / Journal::kRowsPerStep;
+    nextSeq_ = header + 1;
+    return stampedStep_;
 }
 
 Result<qint64>

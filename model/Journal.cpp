@@ -88,51 +88,37 @@ QStringList fromSeparateTables() {
 }
 
 QStringList connection() {
-    // The step lives in the connection's own memory, as the value history's stamp does. A
-    // write with no step open fails: nothing escapes the journal.
-    QStringList sql = {
-        QStringLiteral("CREATE TEMP TABLE JournalStamp (pk INTEGER PRIMARY KEY, step INTEGER)"),
-        QStringLiteral("INSERT INTO temp.JournalStamp (pk) VALUES (1)"),
-    };
-    const QString r = QString::number(kRowsPerStep);
-    const QString stamp = QStringLiteral("FROM temp.JournalStamp s WHERE s.pk = 1");
-    // The next number of the step's rows: found at the end of its range, where it writes.
-    const QString seq = QStringLiteral("(SELECT j.seq + 1 FROM main.Journal j WHERE j.seq BETWEEN "
-                                       "s.step * %1 AND s.step * %1 + %1 - 1 ORDER BY j.seq DESC "
-                                       "LIMIT 1)")
-                            .arg(r);
+    QStringList sql;
     for (const Kept& k : kept()) {
         const QString values = k.values.join(QLatin1Char(','));
-        // The table's code, unless no step is open.
-        const QString code = QStringLiteral("CASE WHEN s.step IS NULL THEN RAISE(ABORT, 'a change "
-                                            "outside any step of the journal') ELSE %1 END")
-                                 .arg(k.code);
+        // Each row is numbered by the context's counter inside the open step's range
+        // (journal_seq()), which refuses a change made with no step open: nothing escapes the
+        // journal.
         auto trigger = [&](const QString& name, const QString& when, const QString& body) {
             return QStringLiteral("CREATE TEMP TRIGGER Journal_%1_%2 %3 ON main.%4 BEGIN %5; END")
                 .arg(k.table, name, when, quoted(k.table), body);
         };
         auto keep = [&](int op, const QString& row) {
-            return QStringLiteral("INSERT INTO Journal (seq, tbl, op, pk, %1) SELECT %2, %3, "
-                                  "%4, %5.pk, %6 %7")
-                .arg(values, seq, code)
-                .arg(op)
-                .arg(row, prefixed(k.columns, row + QLatin1Char('.')), stamp);
+            return QStringLiteral("INSERT INTO Journal (seq, tbl, op, pk, %1) VALUES "
+                                  "(journal_seq(), %2, %3, %4.pk, %5)")
+                .arg(values, QString::number(k.code), QString::number(op))
+                .arg(row, prefixed(k.columns, row + QLatin1Char('.')));
         };
         if (k.pictures) {
             // Pictures are written by INSERT OR REPLACE, whose replacing deletes no trigger
             // sees: the row about to be replaced is kept before the insert.
             sql << trigger(QStringLiteral("insert"), QStringLiteral("BEFORE INSERT"),
                            QStringLiteral("INSERT INTO Journal (seq, tbl, op, pk, %1) SELECT "
-                                          "%2, %3, CASE WHEN o.pk IS NULL THEN 0 ELSE 1 END, "
-                                          "new.pk, %4 FROM temp.JournalStamp s LEFT JOIN main.%5 "
-                                          "o ON o.pk = new.pk WHERE s.pk = 1")
-                               .arg(values, seq, code)
-                               .arg(prefixed(k.columns, QStringLiteral("o.")), quoted(k.table)));
+                                          "journal_seq(), %2, CASE WHEN o.pk IS NULL THEN 0 ELSE "
+                                          "1 END, new.pk, %3 FROM (SELECT 1) LEFT JOIN main.%4 "
+                                          "o ON o.pk = new.pk")
+                               .arg(values, QString::number(k.code),
+                                    prefixed(k.columns, QStringLiteral("o.")), quoted(k.table)));
         } else {
             sql << trigger(QStringLiteral("insert"), QStringLiteral("AFTER INSERT"),
-                           QStringLiteral("INSERT INTO Journal (seq, tbl, op, pk) SELECT %1, "
-                                          "%2, 0, new.pk %3")
-                               .arg(seq, code, stamp));
+                           QStringLiteral("INSERT INTO Journal (seq, tbl, op, pk) VALUES "
+                                          "(journal_seq(), %1, 0, new.pk)")
+                               .arg(QString::number(k.code)));
         }
         sql << trigger(QStringLiteral("update"), QStringLiteral("AFTER UPDATE"),
                        keep(Updated, QStringLiteral("old")))
@@ -148,7 +134,6 @@ void setRecording(ManagedObjectContext& context, bool on) {
     for (const Kept& k : kept())
         for (const char* name : {"insert", "update", "delete"})
             db.exec(QStringLiteral("DROP TRIGGER IF EXISTS temp.Journal_%1_%2").arg(k.table, name));
-    db.exec(QStringLiteral("DROP TABLE IF EXISTS temp.JournalStamp"));
     if (on)
         for (const QString& statement : connection())
             db.exec(statement);

@@ -27,6 +27,9 @@ ManagedObjectContext::ManagedObjectContext(SqliteDatabase* db)
 
 ManagedObjectContext::~ManagedObjectContext() {
     endReadBatch();
+    if (db_->handle())
+        sqlite3_create_function(db_->handle(), "journal_seq", 0, SQLITE_UTF8, nullptr, nullptr,
+                                nullptr, nullptr);
     for (auto& map : identity_)
         for (auto& weak : map)
             if (auto o = weak.lock())

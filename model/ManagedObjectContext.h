@@ -15,6 +15,8 @@
 
 class SqliteDatabase;
 class QTimer;
+struct sqlite3_context;
+struct sqlite3_value;
 
 class ManagedObjectContext {
 public:
@@ -134,11 +136,13 @@ public:
     // Only the rows the journal step `step` wrote when given, else every record. Pending changes
     // must have been saved.
     void refreshObjects(qint64 step = 0);
+    // Gives the connection the numbering its journal triggers call; after every (re)open.
+    void attachJournal();
     // Whether saves write journal steps: off only where a benchmark measures what the journal
     // costs (Journal::setRecording also takes the connection's triggers away).
     void setJournaling(bool on) {
         journaling_ = on;
-        stampedStep_ = -1;
+        stampedStep_ = 0;
     }
 
     // Whether a write waits for another program's lock to go (2 s) before it gives up.
@@ -240,7 +244,12 @@ private:
         qint64 id = 0;
         int depth = 0;
     } step_;
-    qint64 stampedStep_ = -1; // what the connection's journal stamp holds
+    // The step the connection's journal rows are numbered into (0: none), and the next number:
+    // kept here rather than in the store, since every save would otherwise write it there.
+    qint64 stampedStep_ = 0;
+    qint64 nextSeq_ = 0;
+    // journal_seq(): the number of the journal row a trigger writes.
+    static void numberJournalRow(sqlite3_context* call, int, sqlite3_value**);
     bool journaling_ = true;
     // A group's commit made by the next turn of the event loop, which failed.
     std::optional<Error> heldFailure_;

@@ -247,6 +247,7 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
         for (const QString& statement : ValueHistory::connection() + Journal::connection())
             db_->exec(statement);
         context_ = std::make_unique<ManagedObjectContext>(db_.get());
+        context_->attachJournal();
         return {};
     }
     auto failure = [&](int code, const QString& message) {
@@ -372,5 +373,6 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
             return failure(db_->errorCode(), db_->errorMessage());
     if (!context_)
         context_ = std::make_unique<ManagedObjectContext>(db_.get());
+    context_->attachJournal();
     return {};
 }
