@@ -292,3 +292,31 @@ TEST_F(DesktopWindowTest, TheWindowFitsTheScreenItOpensOn) {
     small.rememberGeometry("WindowGeometry");
     EXPECT_EQ(small.geometry(), QRect(area.x() + 20, area.y() + 60, 420, 300));
 }
+
+// The bar's symbols (the View button's table) are drawn in the text colour of the appearance in
+// use, also after View > Dark Appearance changed it while the screen was shown.
+TEST_F(DesktopWindowTest, TheBarsSymbolsFollowTheAppearance) {
+    openList();
+    // The lightness of the symbol's drawn strokes.
+    auto symbolLightness = [&] {
+        auto* view = window->navigationController()->findChild<QPushButton*>("ViewButton");
+        EXPECT_NE(view, nullptr);
+        const QImage drawn = view->icon().pixmap(22, 22).toImage();
+        int lightest = 0, darkest = 255;
+        for (int y = 0; y < drawn.height(); ++y)
+            for (int x = 0; x < drawn.width(); ++x)
+                if (const QColor c = drawn.pixelColor(x, y); c.alpha() > 200) {
+                    lightest = std::max(lightest, c.lightness());
+                    darkest = std::min(darkest, c.lightness());
+                }
+        EXPECT_LE(darkest, lightest) << "nothing drawn";
+        return (lightest + darkest) / 2;
+    };
+    EXPECT_LT(symbolLightness(), 100);
+    Appearance::setDark(true);
+    settle();
+    EXPECT_GT(symbolLightness(), 155);
+    Appearance::setDark(false);
+    settle();
+    EXPECT_LT(symbolLightness(), 100);
+}
