@@ -2,6 +2,7 @@
 
 #include "exchange/ExchangeReader.h"
 #include "exchange/ExchangeWriter.h"
+#include "exchange/PieceLimit.h"
 #include "model/ManagedObjectContext.h"
 #include "model/PersistentContainer.h"
 #include "platform/core/Files.h"
@@ -101,6 +102,7 @@ int runImport(ManagedObjectContext& context, const QString& file, PersistentCont
     };
     if (store)
         store->readWithoutMemoryMap();
+    const Result<qint64> piecesBefore = PieceLimit::storedPieces(context);
     Merge merge(context, std::move(*text), QFileInfo(file).fileName());
     while (merge.step(64))
         if (storeGone())
@@ -127,6 +129,22 @@ int runImport(ManagedObjectContext& context, const QString& file, PersistentCont
                      saved.error().message));
         return 1;
     }
+    // The coins stay; the screens that count them would not open.
+    if (piecesBefore.ok())
+        if (const auto past = PieceLimit::crossing(piecesBefore.value(), result)) {
+            qsizetype leftOff = 0;
+            const QString runs = PieceLimit::lineRuns(past->lines, 20, &leftOff);
+            say(QStringLiteral("Warning: the collection now holds %1 pieces, more than the %2 the "
+                               "coin list and the valuation screen can count; they stop when "
+                               "they open. The coins of %3 %4%5 of %6 took it past. "
+                               "pelvane --undo takes the whole import back.")
+                    .arg(past->pieces)
+                    .arg(PieceLimit::Most)
+                    .arg(past->lines.size() == 1 ? QStringLiteral("line") : QStringLiteral("lines"),
+                         runs,
+                         leftOff > 0 ? QStringLiteral(" and %1 more").arg(leftOff) : QString(),
+                         file));
+        }
     return 0;
 }
 

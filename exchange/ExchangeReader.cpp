@@ -222,28 +222,36 @@ Merge::Merge(ManagedObjectContext& context, QByteArray utf8, const QString& sour
     // them all.
     QByteArray& text = text_;
     char* write = text.data();
+    // A carriage return and line feed end one line, so that lines count as in the file.
+    bool afterReturn = false;
     for (const char c : std::as_const(text)) {
         if (c == '\'')
+            continue;
+        if (std::exchange(afterReturn, c == '\r') && c == '\n')
             continue;
         *write++ = c == '\r' ? '\n' : (c == ',' ? ';' : c);
     }
     text.truncate(write - text.constData());
     const QByteArrayView marker(Marker);
-    for (qsizetype start = 0; start <= text.size();) {
+    bool markerFound = false;
+    for (qsizetype start = 0, number = 1; start <= text.size(); ++number) {
         qsizetype end = text.indexOf('\n', start);
         if (end < 0)
             end = text.size();
         const QByteArrayView line(text.constData() + start, end - start);
-        if (!line.isEmpty())
+        if (line == marker) {
+            markerFound = true;
+        } else if (!line.isEmpty()) {
             lines_.append(line);
+            lineNumbers_.append(number);
+        }
         start = end + 1;
     }
     result_.lastLineUnended = !text.isEmpty() && !text.endsWith('\n');
     if (result_.lastLineUnended)
         Console::log(QStringLiteral("Warning: the last line has no line end; the file may have "
                                     "been cut short"));
-    result_.wrongFile = !lines_.contains(marker);
-    lines_.removeIf([&](QByteArrayView l) { return l == marker; });
+    result_.wrongFile = !markerFound;
 }
 
 Merge::~Merge() {
@@ -332,9 +340,15 @@ bool Merge::step(qsizetype count) {
         if (!found.ok() && found.error().isBusy())
             dontWaitWhenBusy();
         const QList<CoinPtr> results = found.valueOr({});
+        // What the line changes in the collection's pieces.
+        auto notePieces = [&](int change) {
+            if (change != 0)
+                result.pieceChanges.append({lineNumbers_[next_], change});
+        };
         if (results.isEmpty()) {
             auto coin = context.insert<Coins>();
             apply(*coin, fields, true, pictures, commit);
+            notePieces(coin->quantity());
             if (const auto failure = context.save(); !failure.ok()) {
                 Console::log(failure.error().description());
                 if (result.notSaved++ == 0)
@@ -351,7 +365,9 @@ bool Merge::step(qsizetype count) {
             ++result.created;
         } else if (results.size() == 1) {
             // Left pending on purpose: the next save of the context writes it.
+            const int before = results.first()->quantity();
             apply(*results.first(), fields, false, pictures, commit);
+            notePieces(results.first()->quantity() - before);
             ++result.updated;
             ++result.updatedSinceSave;
         } else {

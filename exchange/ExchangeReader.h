@@ -31,6 +31,13 @@ struct ImportResult {
     int updatedSinceSave = 0;
     // The last line had no line end: the file may have been cut short.
     bool lastLineUnended = false;
+    // The lines (numbered as in the file, from 1) that changed the collection's pieces (the
+    // sum of quantities), in the order merged, and by how much.
+    struct PieceChange {
+        qsizetype line = 0;
+        int change = 0;
+    };
+    QList<PieceChange> pieceChanges;
 };
 
 // A picture field as the merge takes it: its bytes where it is valid base64, and whether they
@@ -73,6 +80,7 @@ private:
     Journal::Step journalStep_;
     QByteArray text_;
     QList<QByteArrayView> lines_;
+    QList<qsizetype> lineNumbers_; // of each of lines_ in the file
     qsizetype next_ = 0;
     ImportResult result_;
     bool waitChanged_ = false;

@@ -3,6 +3,7 @@
 #include "model/ManagedObjectContext.h"
 #include "model/Numbers.h"
 #include "platform/core/Files.h"
+#include "platform/core/WindowSize.h"
 #include "reports/CoinDocument.h"
 #include "reports/GroupReport.h"
 
@@ -11,8 +12,9 @@
 #include <cstdio>
 
 namespace {
-// The breakdown list's width in the window as the program opens it.
-constexpr qreal kScreenWidth = 390;
+// The breakdown list's width in the window as it first opens: the list shows as a table,
+// across the whole window, so the pictures come out as large as the window's Share draws them.
+constexpr qreal kScreenWidth = WindowSize::FirstWidth;
 } // namespace
 
 namespace ReportCommand {

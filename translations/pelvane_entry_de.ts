@@ -377,6 +377,26 @@
         <source>No</source>
         <translation>Nein</translation>
     </message>
+    <message>
+        <source>Save Changes?</source>
+        <translation>Änderungen speichern?</translation>
+    </message>
+    <message>
+        <source>Coming back from the notes shows the coin as it is saved. Save what you changed here first?</source>
+        <translation>Nach den Notizen zeigt das Formular die Münze so, wie sie gespeichert ist. Zuerst speichern, was Sie hier geändert haben?</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Keep Editing</source>
+        <translation>Weiter bearbeiten</translation>
+    </message>
 </context>
 <context>
     <name>JournalText</name>

@@ -377,6 +377,26 @@
         <source>No</source>
         <translation>No</translation>
     </message>
+    <message>
+        <source>Save Changes?</source>
+        <translation>¿Guardar los cambios?</translation>
+    </message>
+    <message>
+        <source>Coming back from the notes shows the coin as it is saved. Save what you changed here first?</source>
+        <translation>Al volver de las notas, el formulario muestra la moneda tal como está guardada. ¿Guardar primero lo que ha cambiado aquí?</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Keep Editing</source>
+        <translation>Seguir editando</translation>
+    </message>
 </context>
 <context>
     <name>JournalText</name>

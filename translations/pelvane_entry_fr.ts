@@ -377,6 +377,26 @@
         <source>No</source>
         <translation>Non</translation>
     </message>
+    <message>
+        <source>Save Changes?</source>
+        <translation>Enregistrer les modifications ?</translation>
+    </message>
+    <message>
+        <source>Coming back from the notes shows the coin as it is saved. Save what you changed here first?</source>
+        <translation>Au retour des notes, le formulaire montre la pièce telle qu’elle est enregistrée. Enregistrer d’abord ce que vous avez modifié ici ?</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Keep Editing</source>
+        <translation>Continuer la modification</translation>
+    </message>
 </context>
 <context>
     <name>JournalText</name>

@@ -377,6 +377,26 @@
         <source>No</source>
         <translation>Нет</translation>
     </message>
+    <message>
+        <source>Save Changes?</source>
+        <translation>Сохранить изменения?</translation>
+    </message>
+    <message>
+        <source>Coming back from the notes shows the coin as it is saved. Save what you changed here first?</source>
+        <translation>После заметок форма снова покажет монету такой, какой она сохранена. Сначала сохранить то, что вы здесь изменили?</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Отменить изменения</translation>
+    </message>
+    <message>
+        <source>Keep Editing</source>
+        <translation>Продолжить правку</translation>
+    </message>
 </context>
 <context>
     <name>JournalText</name>

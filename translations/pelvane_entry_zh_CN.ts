@@ -377,6 +377,26 @@
         <source>No</source>
         <translation>否</translation>
     </message>
+    <message>
+        <source>Save Changes?</source>
+        <translation>保存更改？</translation>
+    </message>
+    <message>
+        <source>Coming back from the notes shows the coin as it is saved. Save what you changed here first?</source>
+        <translation>从备注返回后，表单将显示已保存的硬币。先保存您在此处所做的更改吗？</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
+    <message>
+        <source>Keep Editing</source>
+        <translation>继续编辑</translation>
+    </message>
 </context>
 <context>
     <name>JournalText</name>

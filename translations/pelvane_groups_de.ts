@@ -631,6 +631,21 @@ Schritt 2: Möglichkeit 1: Auf „In Dateien sichern“ klicken
             <source>OK</source>
             <translation>OK</translation>
         </message>
+        <message numerus="yes">
+            <source>%1 and %n more</source>
+            <translation>
+                <numerusform>%1 und %n weitere</numerusform>
+                <numerusform>%1 und %n weitere</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Too Many Pieces</source>
+            <translation>Zu viele Stücke</translation>
+        </message>
+        <message>
+            <source>The collection now holds %1 pieces, more than the %2 the coin list and the valuation screen can count: they stop when they open. The coins of the file&apos;s lines %3 took it past. Edit &gt; Undo takes the whole import back.</source>
+            <translation>Die Sammlung umfasst jetzt %1 Stück, mehr als die %2, die die Münzliste und die Bewertung zählen können: Sie brechen beim Öffnen ab. Die Münzen der Zeilen %3 der Datei haben die Grenze überschritten. Bearbeiten &gt; Rückgängig nimmt den ganzen Import zurück.</translation>
+        </message>
     </context>
     <context>
         <name>OverviewViewController</name>

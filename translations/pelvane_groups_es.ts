@@ -631,6 +631,21 @@ Paso 2: Opción 1: Pulsar el botón «Guardar en Archivos»
             <source>OK</source>
             <translation>Aceptar</translation>
         </message>
+        <message numerus="yes">
+            <source>%1 and %n more</source>
+            <translation>
+                <numerusform>%1 y %n más</numerusform>
+                <numerusform>%1 y %n más</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Too Many Pieces</source>
+            <translation>Demasiadas piezas</translation>
+        </message>
+        <message>
+            <source>The collection now holds %1 pieces, more than the %2 the coin list and the valuation screen can count: they stop when they open. The coins of the file&apos;s lines %3 took it past. Edit &gt; Undo takes the whole import back.</source>
+            <translation>La colección tiene ahora %1 piezas, más de las %2 que la lista de monedas y la pantalla de valoración pueden contar: se detienen al abrirse. Las monedas de las líneas %3 del archivo superaron el límite. Editar &gt; Deshacer revierte toda la importación.</translation>
+        </message>
     </context>
     <context>
         <name>OverviewViewController</name>

@@ -631,6 +631,21 @@ Step 2: Option 1: Click 'Save To Files' button
             <source>OK</source>
             <translation>OK</translation>
         </message>
+        <message numerus="yes">
+            <source>%1 and %n more</source>
+            <translation>
+                <numerusform>%1 et %n autre</numerusform>
+                <numerusform>%1 et %n autres</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Too Many Pieces</source>
+            <translation>Trop d’exemplaires</translation>
+        </message>
+        <message>
+            <source>The collection now holds %1 pieces, more than the %2 the coin list and the valuation screen can count: they stop when they open. The coins of the file&apos;s lines %3 took it past. Edit &gt; Undo takes the whole import back.</source>
+            <translation>La collection compte maintenant %1 exemplaires, plus que les %2 que la liste des pièces et l’écran d’évaluation savent compter : ils s’arrêtent à l’ouverture. Les pièces des lignes %3 du fichier ont dépassé la limite. Édition &gt; Annuler reprend toute l’importation.</translation>
+        </message>
     </context>
     <context>
         <name>OverviewViewController</name>

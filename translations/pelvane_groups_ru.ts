@@ -635,6 +635,22 @@ Step 2: Option 1: Click 'Save To Files' button
             <source>OK</source>
             <translation>ОК</translation>
         </message>
+        <message numerus="yes">
+            <source>%1 and %n more</source>
+            <translation>
+                <numerusform>%1 и ещё %n</numerusform>
+                <numerusform>%1 и ещё %n</numerusform>
+                <numerusform>%1 и ещё %n</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Too Many Pieces</source>
+            <translation>Слишком много экземпляров</translation>
+        </message>
+        <message>
+            <source>The collection now holds %1 pieces, more than the %2 the coin list and the valuation screen can count: they stop when they open. The coins of the file&apos;s lines %3 took it past. Edit &gt; Undo takes the whole import back.</source>
+            <translation>Теперь в коллекции %1 экземпляров, больше, чем %2, которые могут сосчитать список монет и экран оценки: при открытии они остановятся. Предел превысили монеты из строк файла %3. Правка &gt; Отменить отменяет весь импорт.</translation>
+        </message>
     </context>
     <context>
         <name>OverviewViewController</name>

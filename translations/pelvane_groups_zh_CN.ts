@@ -627,6 +627,20 @@ Step 2: Option 1: Click 'Save To Files' button
             <source>OK</source>
             <translation>好</translation>
         </message>
+        <message numerus="yes">
+            <source>%1 and %n more</source>
+            <translation>
+                <numerusform>%1 以及另外 %n 行</numerusform>
+            </translation>
+        </message>
+        <message>
+            <source>Too Many Pieces</source>
+            <translation>枚数过多</translation>
+        </message>
+        <message>
+            <source>The collection now holds %1 pieces, more than the %2 the coin list and the valuation screen can count: they stop when they open. The coins of the file&apos;s lines %3 took it past. Edit &gt; Undo takes the whole import back.</source>
+            <translation>收藏现在共有 %1 枚，超过了硬币列表和估值界面能计数的 %2 枚：它们打开时会停止。超出的是文件第 %3 行的硬币。编辑 &gt; 撤销可撤回整个导入。</translation>
+        </message>
     </context>
     <context>
         <name>OverviewViewController</name>

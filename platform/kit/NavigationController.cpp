@@ -63,7 +63,19 @@ NavigationController::NavigationController(ViewController* root, QWidget* parent
     centred->addStretch(1);
     centred->addWidget(column_, 1000);
     centred->addStretch(1);
-    connect(back_, &QToolButton::clicked, this, [this] { popViewController(true); });
+    // A screen holding changes asks before they are thrown away, as Escape and Alt+Left do
+    // (they click this button).
+    connect(back_, &QToolButton::clicked, this, [this] {
+        ViewController* top = topViewController();
+        if (!top || !top->hasUnsavedChanges()) {
+            popViewController(true);
+            return;
+        }
+        top->confirmDiscard([self = QPointer<NavigationController>(this), screen = QPointer(top)] {
+            if (self && screen && self->topViewController() == screen)
+                self->popViewController(true);
+        });
+    });
     if (root)
         pushViewController(root, false);
 }
@@ -245,6 +257,12 @@ bool NavigationController::goBack() {
     if (button)
         button->click();
     return button != nullptr;
+}
+
+void NavigationController::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        refreshBar();
 }
 
 void NavigationController::keyPressEvent(QKeyEvent* event) {

@@ -55,6 +55,8 @@ public:
 protected:
     // Keys from the bar's buttons go to the screen on top.
     void keyPressEvent(class QKeyEvent* event) override;
+    // The bar's symbols are drawn in the text colour: a change of appearance draws them again.
+    void changeEvent(QEvent* event) override;
 
 private:
     QAbstractButton* visibleBackButton() const;

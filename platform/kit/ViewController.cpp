@@ -205,13 +205,8 @@ bool ViewController::goBack() {
     NavigationController* nav = navigationController();
     if (!nav || nav->topViewController() != this || !nav->canGoBack())
         return false;
-    if (!hasUnsavedChanges())
-        return nav->goBack();
-    confirmDiscard([nav = QPointer<NavigationController>(nav)] {
-        if (nav)
-            nav->goBack();
-    });
-    return true;
+    // The back button asks about unsaved changes itself.
+    return nav->goBack();
 }
 
 QString ViewController::discardTitle() {

@@ -99,8 +99,8 @@ public:
     // Goes back as the visible back button of the screen's bar would; false when there is none.
     // A screen with unsaved changes first asks whether to discard them.
     bool goBack();
-    // A form changed since it opened says so: Escape, Alt+Left and closing the window then ask
-    // before throwing the changes away. The bar's back button itself never asks.
+    // A form changed since it opened says so: the bar's back button, Escape, Alt+Left and
+    // closing the window then ask before throwing the changes away.
     virtual bool hasUnsavedChanges() const { return false; }
     // Asks "Discard changes?": Discard runs `discard`, Keep Editing (or Escape) leaves all as is.
     void confirmDiscard(std::function<void()> discard);

@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QShowEvent>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -49,18 +50,48 @@ void Window::rememberGeometry(const QString& key) {
                      saved.value(QStringLiteral("y")).toInt(),
                      saved.value(QStringLiteral("width")).toInt(),
                      saved.value(QStringLiteral("height")).toInt());
-    if (rect.width() < 200 || rect.height() < 200)
+    const QScreen* primary = QGuiApplication::primaryScreen();
+    // The window's frame (its title bar) stands above what setGeometry places.
+    const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    auto fitting = [titleBar](const QScreen* screen) {
+        return screen->availableGeometry().adjusted(0, titleBar, 0, 0);
+    };
+    if (rect.width() < 200 || rect.height() < 200) {
+        // Nothing kept yet: room for the table of coins, as much as the screen has.
+        if (primary) {
+            const QRect area = fitting(primary);
+            QRect centred(QPoint(), kFirstSize.boundedTo(area.size()));
+            centred.moveCenter(area.center());
+            setGeometry(centred);
+        }
         return;
-    // Enough of the window's top must show on some screen to take hold of it.
-    bool reachable = false;
+    }
+    // Enough of the window's top must show on some screen to take hold of it; the screen
+    // showing most of it is the one it stays on.
+    const QScreen* on = nullptr;
+    qint64 most = 0;
     for (const QScreen* screen : QGuiApplication::screens()) {
         const QRect shown = screen->availableGeometry().intersected(rect);
-        reachable |= shown.width() >= 100 && shown.height() >= 50;
+        const qint64 area = qint64(shown.width()) * shown.height();
+        if (shown.width() >= 100 && shown.height() >= 50 && area > most) {
+            on = screen;
+            most = area;
+        }
     }
-    if (reachable) {
-        setGeometry(rect);
-    } else if (const QScreen* primary = QGuiApplication::primaryScreen()) {
-        const QRect area = primary->availableGeometry();
+    if (on) {
+        // A screen smaller than when the window was kept: it shrinks to fit, and moves in
+        // where it would stick out.
+        const QRect area = fitting(on);
+        QRect fitted(rect.topLeft(), rect.size().boundedTo(area.size()));
+        if (fitted.width() < rect.width())
+            fitted.moveLeft(
+                std::clamp(fitted.left(), area.left(), area.right() - fitted.width() + 1));
+        if (fitted.height() < rect.height())
+            fitted.moveTop(
+                std::clamp(fitted.top(), area.top(), area.bottom() - fitted.height() + 1));
+        setGeometry(fitted);
+    } else if (primary) {
+        const QRect area = fitting(primary);
         QRect centred(QPoint(), rect.size().boundedTo(area.size()));
         centred.moveCenter(area.center());
         setGeometry(centred);

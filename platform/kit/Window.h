@@ -1,7 +1,10 @@
 #pragma once
 // The program's window: one navigation stack, phone-sized by default, resizable to tablet and
 // desktop sizes (every screen lays itself out).
+#include "platform/core/WindowSize.h"
+
 #include <QPointer>
+#include <QSize>
 #include <QWidget>
 
 class NavigationController;
@@ -30,7 +33,10 @@ public:
     QWidget* banner() const { return banner_; }
 
     // Puts back the size, position and maximised state kept under `key` (a window that would
-    // stand off every screen opens centred on the primary one), and keeps them there on close.
+    // stand off every screen opens centred on the primary one, one larger than its screen's
+    // free area is made to fit), and keeps them there on close. With nothing kept yet the
+    // window opens centred at kFirstSize, or as much of it as the screen has.
+    static constexpr QSize kFirstSize{WindowSize::FirstWidth, WindowSize::FirstHeight};
     void rememberGeometry(const QString& key);
 
 protected:

@@ -1,5 +1,6 @@
-// The coin form's pictures: taken from the camera, a file, a drop or the clipboard, each kept
-// with the photo it was made from, and a stored picture shown from its original.
+// The coin form's pictures: their views and buttons; taken from the camera, a file, a drop or
+// the clipboard, each kept with the photo it was made from; a stored picture shown from its
+// original.
 #include "model/PrintedFetch.h"
 #include "platform/Platform.h"
 #include "platform/core/Console.h"
@@ -21,6 +22,75 @@
 #include <QLabel>
 #include <QScrollArea>
 #include <QVBoxLayout>
+
+void CoinFormViewController::addPictures(QWidget* content, QVBoxLayout* column) {
+    auto* pictures = new QGridLayout;
+    auto button = [&](const QString& title, const char* name, const QString& side) {
+        return namedButton(content, title, name, side);
+    };
+    FrontImage = new ImageView(content);
+    BackImage = new ImageView(content);
+    FrontImage->setObjectName(QStringLiteral("FrontImage"));
+    BackImage->setObjectName(QStringLiteral("BackImage"));
+    FrontImage->setFixedSize(120, 120);
+    BackImage->setFixedSize(120, 120);
+    FrontImage->setAccessibleName(tr("Front picture"));
+    BackImage->setAccessibleName(tr("Back picture"));
+    const QString front = tr("Front"), back = tr("Back");
+    FrontCameraButton = button(tr("Camera"), "FrontCameraButton", front);
+    FrontFolderButton = button(tr("Folder"), "FrontFolderButton", front);
+    FrontPasteButton = button(tr("Paste"), "FrontPasteButton", front);
+    FrontRemoveButton = button(tr("Remove"), "FrontRemoveButton", front);
+    RearCameraButton = button(tr("Camera"), "RearCameraButton", back);
+    RearFolderButton = button(tr("Folder"), "RearFolderButton", back);
+    RearPasteButton = button(tr("Paste"), "RearPasteButton", back);
+    RearRemoveButton = button(tr("Remove"), "RearRemoveButton", back);
+    pictures->addWidget(new QLabel(front, content), 0, 0, Qt::AlignCenter);
+    pictures->addWidget(new QLabel(back, content), 0, 1, Qt::AlignCenter);
+    pictures->addWidget(FrontImage, 1, 0, Qt::AlignCenter);
+    pictures->addWidget(BackImage, 1, 1, Qt::AlignCenter);
+    int row = 2;
+    for (auto [f, b] : {std::pair{FrontCameraButton, RearCameraButton},
+                        {FrontFolderButton, RearFolderButton},
+                        {FrontPasteButton, RearPasteButton},
+                        {FrontRemoveButton, RearRemoveButton}}) {
+        pictures->addWidget(f, row, 0);
+        pictures->addWidget(b, row++, 1);
+    }
+    column->addLayout(pictures);
+
+    connect(FrontCameraButton, &QPushButton::clicked, this,
+            &CoinFormViewController::OpenFrontCamera);
+    connect(RearCameraButton, &QPushButton::clicked, this, &CoinFormViewController::OpenBackCamera);
+    connect(FrontFolderButton, &QPushButton::clicked, this,
+            &CoinFormViewController::AttachFrontImage);
+    connect(RearFolderButton, &QPushButton::clicked, this,
+            &CoinFormViewController::AttachBackImage);
+    connect(FrontPasteButton, &QPushButton::clicked, this, &CoinFormViewController::PasteFront);
+    connect(RearPasteButton, &QPushButton::clicked, this, &CoinFormViewController::PasteRear);
+    // A picture dropped on a side is taken as if chosen for it in the file dialog.
+    for (ImageView* side : {FrontImage, BackImage})
+        FileDrop::accept(side, FileDrop::isPicture,
+                         [this, front = side == FrontImage](const QString& path) {
+                             isFrontImage = front;
+                             isBackImage = !front;
+                             documentPicked(path);
+                         });
+    FrontImage->installEventFilter(this);
+    BackImage->installEventFilter(this);
+    describePictures();
+}
+
+void CoinFormViewController::describePictures() {
+    for (ImageView* v : {FrontImage, BackImage})
+        v->setAccessibleDescription(v->hasImage() ? QString() : tr("No picture"));
+}
+
+bool CoinFormViewController::event(QEvent* event) {
+    if (event->type() == QEvent::Show)
+        describePictures();
+    return ViewController::event(event);
+}
 
 void CoinFormViewController::openCamera(bool front) {
     if (!Platform::imagePicker().isCameraAvailable()) {

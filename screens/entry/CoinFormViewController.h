@@ -70,6 +70,11 @@ protected:
     void describePictures();
     // A click on the form outside its fields ends editing.
     void mousePressEvent(QMouseEvent* event) override;
+    // A button of the form; `side` names the picture it acts on to a reader.
+    QPushButton* namedButton(QWidget* parent, const QString& title, const char* name,
+                             const QString& side = {});
+    // The two picture views with their buttons, below the fields.
+    void addPictures(QWidget* content, class QVBoxLayout* column);
     // Loads the picker lists, wires the filters and pickers, styles the buttons.
     void setUpForm();
     void loadPickerLists();

@@ -31,8 +31,7 @@ EditViewController::EditViewController(QWidget* parent)
     addKeyCommand(QKeySequence::Save, [this] { SaveButtonClicked(); });
     connect(FrontRemoveButton, &QPushButton::clicked, this, &EditViewController::RemoveFrontImage);
     connect(RearRemoveButton, &QPushButton::clicked, this, &EditViewController::RemoveBackImage);
-    connect(NotesButton, &QPushButton::clicked, this,
-            [this] { performSegue(QStringLiteral("Notes")); });
+    connect(NotesButton, &QPushButton::clicked, this, &EditViewController::NotesButtonClicked);
     connect(ShareButton, &QPushButton::clicked, this, &EditViewController::shareButtonClicked);
     // Also when the coin's History, in front of the form, wrote an earlier version back: the
     // form must not save the version it showed before over it.
@@ -122,7 +121,30 @@ void EditViewController::prepareForSegue(StoryboardSegue& segue, QObject*) {
         receiver->setDetailItem(detailItem);
 }
 
-void EditViewController::SaveButtonClicked() {
+void EditViewController::NotesButtonClicked() {
+    if (!hasUnsavedChanges()) {
+        performSegue(QStringLiteral("Notes"));
+        return;
+    }
+    // Coming back from the notes fills the form from the coin again: changes not saved by then
+    // would be lost without a word.
+    auto* alert = new AlertController(tr("Save Changes?"),
+                                      tr("Coming back from the notes shows the coin as it is "
+                                         "saved. Save what you changed here first?"));
+    alert->addAction(tr("Save"), AlertController::ActionStyle::Default, [this] {
+        saveForm();
+        performSegue(QStringLiteral("Notes"));
+    });
+    alert->addAction(tr("Discard"), AlertController::ActionStyle::Destructive, [this] {
+        fillForm();
+        rememberOpeningState();
+        performSegue(QStringLiteral("Notes"));
+    });
+    alert->addAction(tr("Keep Editing"), AlertController::ActionStyle::Cancel);
+    present(alert);
+}
+
+void EditViewController::saveForm() {
     managedObjectContext = Application::viewContext();
     FetchRequest request(QStringLiteral("Coins"));
     // The record saved to is the one whose id the main list noted, whichever list opened us.
@@ -135,8 +157,14 @@ void EditViewController::SaveButtonClicked() {
         const CoinFormTexts texts = formTexts();
         keepOriginals(*managedObjectContext, texts);
         CoinFormRules::applyEditForm(*Results.first(), texts);
-        managedObjectContext->save(); // a failure is dropped, as the screen always did
+        managedObjectContext->save(); // a failure is dropped without a word
     }
+    // What the form shows now is what was saved.
+    rememberOpeningState();
+}
+
+void EditViewController::SaveButtonClicked() {
+    saveForm();
     Console::log(CalledFromList);
     static const QList<std::pair<QString, QString>> returns = {
         {"MAINCOINLIST", "unwindToList"},
@@ -148,8 +176,6 @@ void EditViewController::SaveButtonClicked() {
             performUnwind(unwind);
             return;
         }
-    // Staying on the form: what it shows now is what was saved.
-    rememberOpeningState();
 }
 
 void EditViewController::removeImage(bool front) {

@@ -17,6 +17,9 @@ public:
     void prepareForSegue(StoryboardSegue& segue, QObject* sender) override;
 
     void SaveButtonClicked();
+    // Opens the notes; a form holding changes first asks to save or discard them (coming back
+    // fills it from the coin again).
+    void NotesButtonClicked();
     void RemoveFrontImage() { removeImage(true); }
     void RemoveBackImage() { removeImage(false); }
     void TapFrontImage();
@@ -39,5 +42,7 @@ protected:
 private:
     class QTimer* longPress_ = nullptr;
     void fillForm();
+    // Writes the form into the coin the main list noted, as Save does, without leaving.
+    void saveForm();
     void removeImage(bool front);
 };

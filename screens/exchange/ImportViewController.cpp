@@ -2,6 +2,7 @@
 #include "platform/kit/FileDrop.h"
 
 #include "exchange/ExchangeReader.h"
+#include "exchange/PieceLimit.h"
 #include "platform/Platform.h"
 #include "platform/core/Console.h"
 #include "platform/core/Files.h"
@@ -197,6 +198,7 @@ void ImportViewController::ImportTextFile() {
     managedObjectContext = Application::viewContext();
     ImportButton->setEnabled(false);
     setBusy(true);
+    piecesBefore_ = Exchange::PieceLimit::storedPieces(*managedObjectContext).valueOr(0);
     // The merge takes the text over: normalising it in place needs no second copy.
     merge_ = std::make_unique<Exchange::Merge>(*managedObjectContext, std::exchange(*document, {}),
                                                filename.value_or(QString()));
@@ -215,8 +217,31 @@ void ImportViewController::mergeStep() {
 
 void ImportViewController::finishImport() {
     wrongFile = merge_->result().wrongFile;
+    const auto past = Exchange::PieceLimit::crossing(piecesBefore_, merge_->result());
     merge_.reset();
     setBusy(false);
+    if (past && !*wrongFile) {
+        // Said before the import is reported done: the screens it names stop when opened.
+        qsizetype leftOff = 0;
+        const QString runs = Exchange::PieceLimit::lineRuns(past->lines, 20, &leftOff);
+        const QString lines =
+            leftOff > 0 ? tr("%1 and %n more", nullptr, int(leftOff)).arg(runs) : runs;
+        auto* warning = new AlertController(
+            tr("Too Many Pieces"),
+            tr("The collection now holds %1 pieces, more than the %2 the coin list and the "
+               "valuation screen can count: they stop when they open. The coins of the file's "
+               "lines %3 took it past. Edit > Undo takes the whole import back.")
+                .arg(QLocale().toString(past->pieces),
+                     QLocale().toString(Exchange::PieceLimit::Most), lines));
+        warning->addAction(tr("OK"), AlertController::ActionStyle::Default,
+                           [this] { reportDone(); });
+        present(warning);
+        return;
+    }
+    reportDone();
+}
+
+void ImportViewController::reportDone() {
     AlertController* alert =
         !*wrongFile ? new AlertController(tr("Data Import File"), tr("Data File Import Completed"))
                     : new AlertController(

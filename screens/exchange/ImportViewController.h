@@ -49,6 +49,9 @@ private:
     void fileRead(const Loaded& loaded);
     void mergeStep();
     void finishImport();
+    // "Data File Import Completed" (or the wrong file), and back to the menu.
+    void reportDone();
+    qint64 piecesBefore_ = 0;
     void setBusy(bool busy);
     bool busy_ = false;
     std::unique_ptr<Exchange::Merge> merge_;

@@ -14,15 +14,56 @@
 #include <QToolTip>
 #include <QValueAxis>
 #include <algorithm>
+#include <cmath>
 
 namespace StatisticsCharts {
+
+Scale scale(double low, double high, bool whole, int most) {
+    if (!(high > low))
+        high = low + 1;
+    // The smallest step of 1, 2, 2.5 or 5 times a power of ten that needs no more than `most`
+    // steps from a multiple of it below `low` to one above `high`.
+    const double rough = (high - low) / std::max(most, 1);
+    double power = std::pow(10.0, std::floor(std::log10(rough)));
+    Scale s;
+    for (;; power *= 10) {
+        bool found = false;
+        for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
+            s.step = factor * power;
+            if (whole && s.step < 1)
+                continue;
+            s.low = std::floor(low / s.step) * s.step;
+            s.high = std::ceil(high / s.step) * s.step;
+            if ((s.high - s.low) / s.step <= most + 1e-9) {
+                found = true;
+                break;
+            }
+        }
+        if (found)
+            break;
+    }
+    // 2.5 needs one decimal more than its power of ten shows.
+    const double shown = s.step / std::pow(10.0, std::floor(std::log10(s.step)));
+    s.decimals = std::max(0, -int(std::floor(std::log10(s.step))) + (shown == 2.5 ? 1 : 0));
+    return s;
+}
+
 namespace {
-// A chart's axes, the figures' one from `low` to a little above `high`, and the series on them.
+// A chart's axes, the figures' one on round ticks around `low` to `high`, and the series on
+// them.
 void placeOnAxes(QChart* chart, QAbstractSeries* series, QAbstractAxis* other, Qt::Alignment side,
-                 double low, double high) {
+                 double low, double high, bool whole) {
     auto* figures = new QValueAxis;
-    figures->setRange(low, high > low ? high * 1.05 : low + 1);
-    figures->setLabelFormat(QStringLiteral("%.0f"));
+    const Scale s = scale(low, high, whole);
+    figures->setRange(s.low, s.high);
+    figures->setTickType(QValueAxis::TicksDynamic);
+    figures->setTickAnchor(0);
+    figures->setTickInterval(s.step);
+    figures->setLabelFormat(QStringLiteral("%.") + QString::number(s.decimals) +
+                            QStringLiteral("f"));
+    // Figures as the language writes them: "2,500" in English, "2.500" in German.
+    chart->setLocalizeNumbers(true);
+    chart->setLocale(QLocale());
     chart->addAxis(other, side);
     chart->addAxis(figures, side == Qt::AlignBottom ? Qt::AlignLeft : Qt::AlignBottom);
     series->attachAxis(other);
@@ -85,7 +126,7 @@ void showSeries(QChartView* view, const QList<ValueHistory::DayTotal>& days) {
     if (!days.isEmpty())
         time->setRange(days.first().day.startOfDay(),
                        std::max(days.last().day, days.first().day.addDays(1)).startOfDay());
-    placeOnAxes(chart, line, time, Qt::AlignBottom, low, high);
+    placeOnAxes(chart, line, time, Qt::AlignBottom, low, high, false);
     fitTicks(view);
     QObject::connect(line, &QLineSeries::hovered, view, [](const QPointF& p, bool on) {
         if (on)
@@ -124,7 +165,7 @@ void showShares(QChartView* view, const QList<Holdings::Share>& shares, const QS
     auto* categories = new QBarCategoryAxis;
     categories->append(names);
     categories->setTitleText(what);
-    placeOnAxes(chart, series, categories, Qt::AlignLeft, low, high);
+    placeOnAxes(chart, series, categories, Qt::AlignLeft, low, high, !byValue);
     QObject::connect(set, &QBarSet::hovered, view, [shares](bool on, int index) {
         const qsizetype i = shares.size() - 1 - index;
         if (on && i >= 0 && i < shares.size())

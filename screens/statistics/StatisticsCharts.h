@@ -9,6 +9,14 @@ class QChartView;
 class QWidget;
 
 namespace StatisticsCharts {
+// A figures axis on round ticks: from `low` to `high` in steps of 1, 2, 2.5 or 5 times a power
+// of ten, at most `most` of them; `decimals` shows each tick exactly.
+struct Scale {
+    double low = 0, high = 1, step = 1;
+    int decimals = 0;
+};
+// The scale for figures from `low` to `high`; `whole` ones (pieces) never step below 1.
+Scale scale(double low, double high, bool whole = false, int most = 6);
 // An empty chart view, antialiased.
 QChartView* makeView(QWidget* parent);
 // The days of the series from `start` on (all without one), opened by the state the range

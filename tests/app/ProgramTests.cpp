@@ -74,3 +74,40 @@ TEST_F(PelvaneTest, AnEmptyValueIsAUsageError) {
         << qPrintable(r.errors);
     EXPECT_FALSE(QFileInfo::exists(dir() + "/coins.csv"));
 }
+
+// An import is kept whole however many pieces it brings; one that takes the collection past
+// what the coin list and the valuation screen count says so on standard error, naming the
+// lines of the file (counted as an editor counts them, carriage returns and all) that did it.
+TEST_F(PelvaneTest, AnImportPastThePiecesTheListsCountNamesTheLines) {
+    const QString store = dir() + "/store";
+    auto coin = [](const char* denomination, int quantity) {
+        return QByteArray("USA^") + denomination + "^^^0.0^^^^P^^^" + QByteArray::number(quantity) +
+               "^^^0.0^0.0^0.5^0.0^1990^^";
+    };
+    writeFile(dir() + "/first.csv", "[PELVANE]\r\n" + coin("A", 30000) + "\r\n\r\n" +
+                                        coin("B", 2000) + "\r\n" + coin("C", 1000) + "\r\n" +
+                                        coin("D", 4) + "\r\n" + coin("E", 0) + "\r\n" +
+                                        coin("F", 9) + "\r\n");
+    ProgramRun r = runProgram(store, {"--import", dir() + "/first.csv"});
+    EXPECT_EQ(r.exitCode, 0);
+    EXPECT_EQ(r.output, "6 created, 0 updated, 0 skipped\n");
+    EXPECT_EQ(r.errors, "Warning: the collection now holds 33013 pieces, more than the 32767 the "
+                        "coin list and the valuation screen can count; they stop when they open. "
+                        "The coins of lines 5-6, 8 of " +
+                            dir() +
+                            "/first.csv took it past. pelvane --undo takes the whole "
+                            "import back.\n");
+    r = runProgram(store, {"--stats"});
+    EXPECT_EQ(r.output, "Coins: 6\nPieces: 33013\nTotal value: 16506.50\n");
+
+    // Lowering a quantity is no crossing; raising one past it is, on its own line.
+    writeFile(dir() + "/second.csv",
+              "[PELVANE]\n" + coin("A", 100) + "\n" + coin("B", 2500) + "\n");
+    r = runProgram(store, {"--import", dir() + "/second.csv"});
+    EXPECT_EQ(r.exitCode, 0);
+    EXPECT_EQ(r.errors, "") << r.errors.toStdString();
+    writeFile(dir() + "/third.csv", "[PELVANE]\n" + coin("A", 30000) + "\n");
+    r = runProgram(store, {"--import", dir() + "/third.csv"});
+    EXPECT_TRUE(r.errors.contains("holds 33513 pieces") && r.errors.contains("line 2 of"))
+        << r.errors.toStdString();
+}

@@ -1,6 +1,7 @@
 #include "PdfPages.h"
 #include "Program.h"
 #include "TestSupport.h"
+#include "screens/groups/GroupsFixture.h"
 
 #include "platform/graphics/PageRenderer.h"
 #include "reports/CoinDocument.h"
@@ -131,4 +132,49 @@ TEST_F(PelvaneTest, NotesWithoutASpaceFillEachLineAsTheLayoutBreaksThem) {
     ASSERT_GE(notes, 0);
     lines = lines.mid(notes, expected.size());
     EXPECT_EQ(lines, expected);
+}
+
+namespace {
+// The widest run of red pixels on a row: the width the red coin picture is drawn at.
+int redWidth(const QImage& image) {
+    int widest = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0, run = 0; x < image.width(); ++x) {
+            const QColor c = image.pixelColor(x, y);
+            run = c.red() > 180 && c.green() < 90 && c.blue() < 90 ? run + 1 : 0;
+            widest = std::max(widest, run);
+        }
+    return widest;
+}
+} // namespace
+
+class ReportBothWaysTest : public GroupsTest {};
+
+// The command line writes the page the window's Share writes in the window as it first opens:
+// the same pages, the pictures the same size.
+TEST_F(ReportBothWaysTest, TheCommandLineWritesTheWindowsPage) {
+    addCoin("Dime", 1999, 2, 1.25f, "USA", "D")->setFrontImage(coinPicture(Qt::red));
+    addCoin("Quarter", 1964, 3, 2.0f, "USA", "S")->setBackImage(coinPicture(Qt::blue));
+    ASSERT_TRUE(ctx().save().ok());
+    window->resize(Window::kFirstSize);
+    QApplication::processEvents();
+    BreakdownTableViewController* b = openBreakdown(1, "USA");
+    ASSERT_NE(b, nullptr);
+    QApplication::processEvents();
+    // The whole window but the tab bar's edges.
+    EXPECT_NEAR(b->width(), Window::kFirstSize.width(), 8);
+    barButton(b, "ShareButton")->click();
+    PdfPages shared(readFile(dir() + "/Documents/CoinListByCountry.pdf"));
+
+    const QString file = dir() + "/script.pdf";
+    const ProgramRun r = runProgram(dir(), {"--report", "country", "USA", "--pdf", file});
+    ASSERT_EQ(r.exitCode, 0) << r.errors.toStdString();
+    PdfPages written(file);
+
+    ASSERT_EQ(written.count(), shared.count());
+    EXPECT_EQ(written.texts, shared.texts);
+    const QImage scripted = written.pdf->render(0, (written.size(0) * 2).toSize());
+    const QImage fromWindow = shared.pdf->render(0, (shared.size(0) * 2).toSize());
+    EXPECT_NEAR(redWidth(scripted) / 2.0, Window::kFirstSize.width() / 6.0, 2);
+    EXPECT_NEAR(redWidth(scripted), redWidth(fromWindow), 4); // within 2 points
 }

@@ -18,6 +18,7 @@
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QStyle>
 #include <QTemporaryDir>
 
 namespace {
@@ -46,6 +47,10 @@ bool dropFile(QWidget* target, const QString& path) {
 
 class DesktopWindowTest : public MenuBarScreenTest {
 protected:
+    // The height of a window's title bar, which the window's own geometry leaves out.
+    static int titleBar(const QWidget& window) {
+        return window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
+    }
     void settle() {
         QApplication::processEvents();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -246,6 +251,72 @@ TEST_F(DesktopWindowTest, TheWindowOpensWhereItWasClosed) {
     Window lost(new ViewController);
     lost.rememberGeometry("WindowGeometry");
     EXPECT_EQ(lost.size(), QSize(500, 400));
-    EXPECT_NEAR(lost.geometry().center().x(), area.center().x(), 1);
-    EXPECT_NEAR(lost.geometry().center().y(), area.center().y(), 1);
+    // Centred with its title bar above it.
+    const QRect below = area.adjusted(0, titleBar(lost), 0, 0);
+    EXPECT_NEAR(lost.geometry().center().x(), below.center().x(), 1);
+    EXPECT_NEAR(lost.geometry().center().y(), below.center().y(), 1);
+}
+
+// The first start opens as large as the table of coins wants, as far as the screen has room
+// (title bar included), centred; a window kept on a larger screen is made to fit a smaller one.
+TEST_F(DesktopWindowTest, TheWindowFitsTheScreenItOpensOn) {
+    const QRect area = QGuiApplication::primaryScreen()->availableGeometry();
+    UserDefaults::standard().removeObjectForKey("WindowGeometry");
+    Window first(new ViewController);
+    first.rememberGeometry("WindowGeometry");
+    // Below its title bar, within the screen's free area.
+    const QRect below = area.adjusted(0, titleBar(first), 0, 0);
+    EXPECT_TRUE(below.contains(first.geometry()));
+    EXPECT_EQ(first.size(), Window::kFirstSize.boundedTo(below.size()));
+    EXPECT_NEAR(first.geometry().center().x(), below.center().x(), 1);
+    EXPECT_NEAR(first.geometry().center().y(), below.center().y(), 1);
+    first.show();
+    settle();
+    EXPECT_EQ(first.size(), Window::kFirstSize.boundedTo(below.size()));
+    // Wide enough for the table in place of the cards.
+    EXPECT_GE(first.width(), 800);
+
+    // Kept at 1600 x 1200 on a screen since replaced by a smaller one.
+    UserDefaults::standard().setObject(
+        QVariantMap{{"x", area.x() + 100}, {"y", area.y() + 50}, {"width", 1600}, {"height", 1200}},
+        "WindowGeometry");
+    Window kept(new ViewController);
+    kept.rememberGeometry("WindowGeometry");
+    EXPECT_EQ(kept.geometry(), below);
+
+    // One that fits keeps its place and size.
+    UserDefaults::standard().setObject(
+        QVariantMap{{"x", area.x() + 20}, {"y", area.y() + 60}, {"width", 420}, {"height", 300}},
+        "WindowGeometry");
+    Window small(new ViewController);
+    small.rememberGeometry("WindowGeometry");
+    EXPECT_EQ(small.geometry(), QRect(area.x() + 20, area.y() + 60, 420, 300));
+}
+
+// The bar's symbols (the View button's table) are drawn in the text colour of the appearance in
+// use, also after View > Dark Appearance changed it while the screen was shown.
+TEST_F(DesktopWindowTest, TheBarsSymbolsFollowTheAppearance) {
+    openList();
+    // The lightness of the symbol's drawn strokes.
+    auto symbolLightness = [&] {
+        auto* view = window->navigationController()->findChild<QPushButton*>("ViewButton");
+        EXPECT_NE(view, nullptr);
+        const QImage drawn = view->icon().pixmap(22, 22).toImage();
+        int lightest = 0, darkest = 255;
+        for (int y = 0; y < drawn.height(); ++y)
+            for (int x = 0; x < drawn.width(); ++x)
+                if (const QColor c = drawn.pixelColor(x, y); c.alpha() > 200) {
+                    lightest = std::max(lightest, c.lightness());
+                    darkest = std::min(darkest, c.lightness());
+                }
+        EXPECT_LE(darkest, lightest) << "nothing drawn";
+        return (lightest + darkest) / 2;
+    };
+    EXPECT_LT(symbolLightness(), 100);
+    Appearance::setDark(true);
+    settle();
+    EXPECT_GT(symbolLightness(), 155);
+    Appearance::setDark(false);
+    settle();
+    EXPECT_LT(symbolLightness(), 100);
 }

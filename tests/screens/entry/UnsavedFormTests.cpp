@@ -1,5 +1,5 @@
-// Leaving a coin form that holds changes by Escape, Alt+Left or closing the window asks first;
-// the bar's back button and an unchanged form leave at once.
+// Leaving a coin form that holds changes by the bar's back button, Escape, Alt+Left or closing
+// the window asks first; an unchanged form leaves at once. So does going to the notes.
 #include "../ScreenFixture.h"
 #include "screens/entry/AddViewController.h"
 #include "screens/entry/EditViewController.h"
@@ -86,14 +86,14 @@ TEST_F(UnsavedFormTest, TheAddFormAsksBeforeEscapeAltLeftOrClosingThrowChangesAw
     EXPECT_EQ(prompt(), "");
     EXPECT_EQ(top(), list);
 
-    // A picture is a change too; the bar's back button leaves without asking.
+    // A picture is a change too.
     add = openAdd(list);
     fakes.imagePicker->camera = true;
     fakes.imagePicker->next = QImage(30, 40, QImage::Format_RGB32);
     add->FrontCameraButton->click();
-    window->navigationController()->backButton()->click();
-    QApplication::processEvents();
-    EXPECT_EQ(prompt(), "");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(prompt(), kPrompt);
+    answer("Discard");
     EXPECT_EQ(top(), list);
 
     // Closing the window: Keep Editing leaves it open, Discard closes it.
@@ -148,4 +148,113 @@ TEST_F(UnsavedFormTest, TheEditFormAsksOnlyWhenItDiffersFromTheCoinItOpenedWith)
     press(Qt::Key_Escape);
     EXPECT_EQ(prompt(), "");
     EXPECT_EQ(top(), list);
+}
+
+// The bar's back button ("‹ Coins") asks as Escape does, on the add form and the edit form.
+TEST_F(UnsavedFormTest, TheBackButtonAsksBeforeThrowingChangesAway) {
+    auto coin = addCoin("Quarter", 1999, 2, 0.25f, "USA", "D");
+    auto* list = openList();
+    auto back = [&] {
+        QAbstractButton* button = window->navigationController()->backButton();
+        EXPECT_TRUE(button->isVisible());
+        button->click();
+        QApplication::processEvents();
+    };
+    auto openEdit = [&] {
+        list->tableView->selectRow({0, 0});
+        return topAs<EditViewController>();
+    };
+
+    // Unchanged: both leave at once.
+    ASSERT_NE(openAdd(list), nullptr);
+    back();
+    EXPECT_EQ(prompt(), "");
+    EXPECT_EQ(top(), list);
+    ASSERT_NE(openEdit(), nullptr);
+    back();
+    EXPECT_EQ(prompt(), "");
+    EXPECT_EQ(top(), list);
+
+    // The add form: Keep Editing stays with the text; Discard leaves and saves nothing.
+    auto* add = openAdd(list);
+    type(add->DenominationTextField, "Nickel");
+    type(add->YearTextField, "1950");
+    back();
+    EXPECT_EQ(prompt(), kPrompt);
+    answer("Keep Editing");
+    EXPECT_EQ(top(), add);
+    EXPECT_EQ(add->DenominationTextField->text(), "Nickel");
+    back();
+    EXPECT_EQ(prompt(), kPrompt);
+    answer("Discard");
+    EXPECT_EQ(top(), list);
+    EXPECT_EQ(all<Coins>().size(), 1);
+
+    // The edit form the same; the coin keeps what it had.
+    auto* edit = openEdit();
+    type(edit->QuantityTextField, "7");
+    back();
+    EXPECT_EQ(prompt(), kPrompt);
+    answer("Keep Editing");
+    EXPECT_EQ(top(), edit);
+    EXPECT_EQ(edit->QuantityTextField->text(), "27");
+    back();
+    answer("Discard");
+    EXPECT_EQ(top(), list);
+    EXPECT_EQ(coin->quantity(), 2);
+    EXPECT_FALSE(ctx().hasChanges());
+}
+
+// The notes come back to a form filled from the coin again: changes are saved, dropped or kept
+// on the form first, as the user says.
+TEST_F(UnsavedFormTest, TheNotesButtonAsksToSaveChangesFirst) {
+    auto coin = addCoin("Quarter", 1999, 2, 0.25f, "USA", "D");
+    auto* list = openList();
+    list->tableView->selectRow({0, 0});
+    auto* edit = topAs<EditViewController>();
+    ASSERT_NE(edit, nullptr);
+    auto notesShown = [&] { return top() && top()->title() == "Notes"; };
+    const QString notesPrompt = QStringLiteral("Save Changes? / Save, Discard, Keep Editing");
+
+    // Unchanged: straight to the notes.
+    edit->NotesButton->click();
+    EXPECT_EQ(prompt(), "");
+    EXPECT_TRUE(notesShown());
+    window->navigationController()->backButton()->click();
+    QApplication::processEvents();
+    ASSERT_EQ(top(), edit);
+
+    // Keep Editing stays on the form with the change.
+    type(edit->CountryTextField, "X");
+    edit->NotesButton->click();
+    EXPECT_EQ(prompt(), notesPrompt);
+    answer("Keep Editing");
+    EXPECT_EQ(top(), edit);
+    EXPECT_EQ(edit->CountryTextField->text(), "USAX");
+    EXPECT_EQ(coin->country(), "USA");
+
+    // Discard: the form shows the coin again, nothing is written, and the notes open.
+    edit->NotesButton->click();
+    answer("Discard");
+    EXPECT_TRUE(notesShown());
+    EXPECT_EQ(coin->country(), "USA");
+    EXPECT_FALSE(ctx().hasChanges());
+    window->navigationController()->backButton()->click();
+    QApplication::processEvents();
+    ASSERT_EQ(top(), edit);
+    EXPECT_EQ(edit->CountryTextField->text(), "USA");
+    EXPECT_FALSE(edit->hasUnsavedChanges());
+
+    // Save: written as the Save button writes it, then the notes; coming back keeps it.
+    type(edit->QuantityTextField, "5");
+    edit->NotesButton->click();
+    answer("Save");
+    EXPECT_TRUE(notesShown());
+    EXPECT_EQ(coin->quantity(), 25);
+    EXPECT_FALSE(ctx().hasChanges());
+    window->navigationController()->backButton()->click();
+    QApplication::processEvents();
+    ASSERT_EQ(top(), edit);
+    EXPECT_EQ(edit->QuantityTextField->text(), "25");
+    EXPECT_FALSE(edit->hasUnsavedChanges());
 }

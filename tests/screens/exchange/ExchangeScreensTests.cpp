@@ -120,6 +120,32 @@ TEST_F(ExchangeScreenTest, ImportLoadsMergesAndReturnsToTheMenu) {
     EXPECT_EQ(all<Coins>().size(), 1);
 }
 
+// An import that takes the collection past the 32,767 pieces the lists can count says so,
+// naming the lines, before it reports itself done; the coins are all kept.
+TEST_F(ExchangeScreenTest, ImportPastThePiecesTheListsCountSaysWhichLinesDidIt) {
+    addCoin("Dime", 1964, 30000);
+    auto* screen = open<ImportViewController>("ImportCoins");
+    writeFile(path("Pelvane.csv"), "[PELVANE]\n"
+                                   "Peru^1 Sol^^^^^^^None^^^2000^^^^^^^1935^^\n"
+                                   "Peru^2 Sol^^^^^^^None^^^1000^^^^^^^1935^^\n"
+                                   "\n"
+                                   "Peru^5 Sol^^^^^^^None^^^3^^^^^^^1935^^\n");
+    fakes.documentPicker->next = path("Pelvane.csv");
+    screen->LoadFile();
+    alertShown();
+    dismissAlert();
+    screen->ImportTextFile();
+    EXPECT_EQ(alertShown(),
+              "Too Many Pieces / The collection now holds 33,003 pieces, more than the 32,767 the "
+              "coin list and the valuation screen can count: they stop when they open. The coins "
+              "of the file's lines 3, 5 took it past. Edit > Undo takes the whole import back.");
+    dismissAlert();
+    EXPECT_EQ(alertShown(), "Data Import File / Data File Import Completed");
+    dismissAlert();
+    EXPECT_EQ(top(), menu);
+    EXPECT_EQ(all<Coins>().size(), 4);
+}
+
 // A large file is read on a worker and merged a few lines per turn of the event loop: the
 // window keeps running (timers fire, the progress moves) and the coins saved are exactly those
 // the merge saves in one go.

@@ -4,6 +4,7 @@
 #include "platform/kit/Appearance.h"
 #include "screens/entry/EditViewController.h"
 #include "screens/statistics/CoinHistoryViewController.h"
+#include "screens/statistics/StatisticsCharts.h"
 #include "screens/statistics/StatisticsViewController.h"
 #include "screens/valuation/ValuationViewController.h"
 
@@ -15,6 +16,7 @@
 #include <QLineSeries>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QValueAxis>
 
 namespace {
 struct Sums {
@@ -241,4 +243,71 @@ TEST_F(StatisticsTest, SavesTheChartAndItsDataAndFollowsTheAppearance) {
     screen = open();
     EXPECT_EQ(screen->Charts[0]->chart()->theme(), QChart::ChartThemeDark);
     Appearance::setDark(false);
+}
+
+namespace {
+// The ticks a figures axis shows: from its low end to its high end in steps of its interval.
+QList<double> ticks(QChartView* view) {
+    QList<double> out;
+    for (QAbstractAxis* axis : view->chart()->axes())
+        if (auto* figures = qobject_cast<QValueAxis*>(axis)) {
+            EXPECT_EQ(figures->tickType(), QValueAxis::TicksDynamic);
+            EXPECT_EQ(figures->tickAnchor(), 0);
+            for (double at = figures->min(); at <= figures->max() + 1e-9;
+                 at += figures->tickInterval())
+                out << at;
+        }
+    return out;
+}
+} // namespace
+
+// The axes of figures stand on round numbers (1, 2, 2.5 or 5 times a power of ten), written
+// as the language writes them, whatever the largest figure.
+TEST_F(StatisticsTest, ChartAxesTickAtRoundNumbers) {
+    addCoin("Lincoln Cent", 1909, 2814, 5.0f, "USA");
+    addCoin("Sol", 1950, 1, 3.0f, "Peru");
+    auto* screen = open();
+    ASSERT_NE(screen, nullptr);
+    screen->ChartTabs->setCurrentIndex(StatisticsViewController::CountryPage);
+    QChartView* countries = screen->Charts[StatisticsViewController::CountryPage];
+    // Value by country: 14,070 at most.
+    EXPECT_EQ(ticks(countries), (QList<double>{0, 2500, 5000, 7500, 10000, 12500, 15000}));
+    const QImage drawn = countries->grab().toImage();
+    EXPECT_FALSE(drawn.isNull());
+    for (QAbstractAxis* axis : countries->chart()->axes())
+        if (auto* figures = qobject_cast<QValueAxis*>(axis)) {
+            EXPECT_EQ(figures->labelFormat(), "%.0f");
+        }
+    EXPECT_TRUE(countries->chart()->localizeNumbers());
+
+    // Other ranges, through the same charts.
+    for (const auto& [quantity, value, wanted] :
+         {std::tuple{1, 0.3f, QList<double>{0, 0.5, 1, 1.5, 2, 2.5, 3}},
+          std::tuple{30, 1.0f, QList<double>{0, 5, 10, 15, 20, 25, 30}}}) {
+        window->navigationController()->popToRootViewController(false);
+        for (const CoinPtr& c : all<Coins>())
+            ctx().deleteObject(c);
+        ASSERT_TRUE(ctx().save().ok());
+        addCoin("Dime", 1964, quantity, value, "USA");
+        addCoin("Sol", 1950, 1, 3.0f, "Peru");
+        screen = open();
+        ASSERT_NE(screen, nullptr);
+        screen->ChartTabs->setCurrentIndex(StatisticsViewController::CountryPage);
+        EXPECT_EQ(ticks(screen->Charts[StatisticsViewController::CountryPage]), wanted)
+            << quantity << " x " << value;
+    }
+    // Pieces never step below one.
+    const StatisticsCharts::Scale pieces = StatisticsCharts::scale(0, 3, true);
+    EXPECT_EQ(pieces.step, 1);
+    const StatisticsCharts::Scale money = StatisticsCharts::scale(0, 0.3);
+    EXPECT_EQ(money.step, 0.05);
+    EXPECT_EQ(money.decimals, 2);
+    const StatisticsCharts::Scale quarters = StatisticsCharts::scale(0, 14);
+    EXPECT_EQ(quarters.step, 2.5);
+    EXPECT_EQ(quarters.decimals, 1);
+    // Below zero as well.
+    const StatisticsCharts::Scale loss = StatisticsCharts::scale(-120, 480);
+    EXPECT_EQ(loss.low, -200);
+    EXPECT_EQ(loss.high, 600);
+    EXPECT_EQ(loss.step, 200);
 }
