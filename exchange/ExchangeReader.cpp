@@ -1,54 +1,21 @@
-#include "exchange/ExchangeReader.h"
-
-#include "model/PrintedFetch.h"
-
-#include <QLocale>
+// Reading an exchange file: its text as UTF-8, its coin lines, and what each field gives its
+// attribute. The merge (ExchangeMerge.cpp) decides which coin a line goes to.
+#include "exchange/ExchangeLines.h"
 
 #include "exchange/ExchangeWriter.h"
-#include "model/ManagedObjectContext.h"
 #include "model/Numbers.h"
-#include "model/PersistentContainer.h"
 #include "model/Records.h"
 #include "platform/core/Console.h"
 #include "platform/core/Fatal.h"
 #include "platform/graphics/ImageCoding.h"
 
 #include <QStringDecoder>
-#include <QStringList>
-#include <QVarLengthArray>
-#include <QtConcurrent/QtConcurrentMap>
 
-#include <array>
-#include <functional>
 #include <utility>
-#include <vector>
 
 namespace Exchange {
 
 namespace {
-
-// The import's four key conditions ("country == %@", ...), in the order of their index.
-const std::array<QString, CoinAttributes::importKeyCount>& keyFormats() {
-    static const auto formats = [] {
-        std::array<QString, CoinAttributes::importKeyCount> f;
-        for (int k = 0; k < CoinAttributes::importKeyCount; ++k)
-            f[std::size_t(k)] =
-                QLatin1String(CoinAttributes::importKey(k).name) + QLatin1String(" == %@");
-        return f;
-    }();
-    return formats;
-}
-
-// The fields of one line as views of its bytes; "^" is ASCII, so no character is ever cut.
-using Fields = QVarLengthArray<QByteArrayView, 24>;
-Fields splitFields(QByteArrayView line) {
-    Fields fields;
-    qsizetype start = 0;
-    for (qsizetype caret; (caret = line.indexOf('^', start)) >= 0; start = caret + 1)
-        fields.append(line.sliced(start, caret - start));
-    fields.append(line.sliced(start));
-    return fields;
-}
 
 constexpr int kFirstPicturePosition = 19;
 
@@ -58,27 +25,6 @@ QByteArrayView unquotedPicture(QByteArrayView field, QByteArray& unquoted) {
     unquoted = field.toByteArray();
     unquoted.replace("\"", "");
     return unquoted;
-}
-
-PreparedLine preparePictures(QByteArrayView line) {
-    PreparedLine prepared;
-    const Fields fields = splitFields(line);
-    for (int i = 0; i < 2; ++i) {
-        if (fields.size() <= kFirstPicturePosition + i)
-            break;
-        QByteArray unquoted;
-        const QByteArrayView field = unquotedPicture(fields[kFirstPicturePosition + i], unquoted);
-        PreparedPicture& picture = prepared[std::size_t(i)];
-        picture.bytes = ImageCoding::strictBase64Decode(field);
-        picture.readable = picture.bytes && ImageCoding::readable(*picture.bytes);
-    }
-    return prepared;
-}
-
-// A key field's text; a field the line does not have is the empty text, which matches only a
-// stored empty text, never an absent one.
-QString fieldText(const Fields& fields, qsizetype position) {
-    return position < fields.size() ? QString::fromUtf8(fields[position]) : QStringLiteral("");
 }
 
 // What a field gives its attribute.
@@ -155,6 +101,75 @@ FieldValue convert(AttributeType type, ExchangeRule rule, QByteArrayView field,
     return out;
 }
 
+} // namespace
+
+Lines readLines(QByteArray& text) {
+    Lines out;
+    // The three replacements (carriage returns to line feeds, apostrophes dropped, commas to
+    // semicolons) touch ASCII characters only, so they are safe on UTF-8 bytes; one pass does
+    // them all.
+    char* write = text.data();
+    // A carriage return and line feed end one line, so that lines count as in the file.
+    bool afterReturn = false;
+    for (const char c : std::as_const(text)) {
+        if (c == '\'')
+            continue;
+        if (std::exchange(afterReturn, c == '\r') && c == '\n')
+            continue;
+        *write++ = c == '\r' ? '\n' : (c == ',' ? ';' : c);
+    }
+    text.truncate(write - text.constData());
+    const QByteArrayView marker(Marker);
+    bool markerFound = false;
+    for (qsizetype start = 0, number = 1; start <= text.size(); ++number) {
+        qsizetype end = text.indexOf('\n', start);
+        if (end < 0)
+            end = text.size();
+        const QByteArrayView line(text.constData() + start, end - start);
+        if (line == marker) {
+            markerFound = true;
+        } else if (!line.isEmpty()) {
+            out.lines.append(line);
+            out.numbers.append(number);
+        }
+        start = end + 1;
+    }
+    out.lastLineUnended = !text.isEmpty() && !text.endsWith('\n');
+    if (out.lastLineUnended)
+        Console::log(QStringLiteral("Warning: the last line has no line end; the file may have "
+                                    "been cut short"));
+    out.wrongFile = !markerFound;
+    return out;
+}
+
+Fields splitFields(QByteArrayView line) {
+    Fields fields;
+    qsizetype start = 0;
+    for (qsizetype caret; (caret = line.indexOf('^', start)) >= 0; start = caret + 1)
+        fields.append(line.sliced(start, caret - start));
+    fields.append(line.sliced(start));
+    return fields;
+}
+
+QString fieldText(const Fields& fields, qsizetype position) {
+    return position < fields.size() ? QString::fromUtf8(fields[position]) : QStringLiteral("");
+}
+
+PreparedLine preparePictures(QByteArrayView line) {
+    PreparedLine prepared;
+    const Fields fields = splitFields(line);
+    for (int i = 0; i < 2; ++i) {
+        if (fields.size() <= kFirstPicturePosition + i)
+            break;
+        QByteArray unquoted;
+        const QByteArrayView field = unquotedPicture(fields[kFirstPicturePosition + i], unquoted);
+        PreparedPicture& picture = prepared[std::size_t(i)];
+        picture.bytes = ImageCoding::strictBase64Decode(field);
+        picture.readable = picture.bytes && ImageCoding::readable(*picture.bytes);
+    }
+    return prepared;
+}
+
 void apply(Coins& coin, const Fields& fields, bool isNew, const PreparedLine& pictures,
            const std::function<void()>& beforeStop) {
     const EntityDescription& entity = coin.entity();
@@ -196,198 +211,6 @@ void apply(Coins& coin, const Fields& fields, bool isNew, const PreparedLine& pi
         else
             coin.setValue(attribute, value);
     }
-}
-
-} // namespace
-
-Merge::Merge(ManagedObjectContext& context, QByteArray utf8, const QString& source)
-    : context_(context)
-    , cause_(context, ValueHistory::Import)
-    , journalStep_(context, Journal::Import,
-                   source.isEmpty() ? QStringLiteral("an exchange file") : source)
-    , text_(std::move(utf8)) {
-    // A second container for the same model: opened and released, as the import always did.
-    {
-        PersistentContainer second(QStringLiteral("Pelvane"));
-        second.loadPersistentStores([](const StoreDescription&, const std::optional<Error>& error) {
-            if (error)
-                fatalError(QStringLiteral("Unresolved error %1, %2")
-                               .arg(error->description(), error->userInfoDescription()),
-                           StopSites::ImportStoreLoad);
-        });
-    }
-
-    // The three replacements (carriage returns to line feeds, apostrophes dropped, commas to
-    // semicolons) touch ASCII characters only, so they are safe on UTF-8 bytes; one pass does
-    // them all.
-    QByteArray& text = text_;
-    char* write = text.data();
-    // A carriage return and line feed end one line, so that lines count as in the file.
-    bool afterReturn = false;
-    for (const char c : std::as_const(text)) {
-        if (c == '\'')
-            continue;
-        if (std::exchange(afterReturn, c == '\r') && c == '\n')
-            continue;
-        *write++ = c == '\r' ? '\n' : (c == ',' ? ';' : c);
-    }
-    text.truncate(write - text.constData());
-    const QByteArrayView marker(Marker);
-    bool markerFound = false;
-    for (qsizetype start = 0, number = 1; start <= text.size(); ++number) {
-        qsizetype end = text.indexOf('\n', start);
-        if (end < 0)
-            end = text.size();
-        const QByteArrayView line(text.constData() + start, end - start);
-        if (line == marker) {
-            markerFound = true;
-        } else if (!line.isEmpty()) {
-            lines_.append(line);
-            lineNumbers_.append(number);
-        }
-        start = end + 1;
-    }
-    result_.lastLineUnended = !text.isEmpty() && !text.endsWith('\n');
-    if (result_.lastLineUnended)
-        Console::log(QStringLiteral("Warning: the last line has no line end; the file may have "
-                                    "been cut short"));
-    result_.wrongFile = !markerFound;
-}
-
-Merge::~Merge() {
-    preparing_.waitForFinished();
-    if (waitChanged_)
-        context_.setWaitWhenBusy(true);
-}
-
-void Merge::prepare(qsizetype from) {
-    preparing_.waitForFinished();
-    preparingFrom_ = from;
-    preparingLines_ = lines_.mid(from, std::min(PreparedLines, lines_.size() - from));
-    preparing_ = QtConcurrent::mapped(preparingLines_, preparePictures);
-}
-
-// The pictures of a few lines are worked out while the lines before them are merged.
-const PreparedLine& Merge::picturesOf(qsizetype line) {
-    if (line < preparedFrom_ || line >= preparedFrom_ + prepared_.size()) {
-        if (!preparing_.isValid() || preparingFrom_ != line)
-            prepare(line);
-        prepared_ = preparing_.results();
-        preparedFrom_ = line;
-        if (line + prepared_.size() < lines_.size())
-            prepare(line + prepared_.size());
-    }
-    return prepared_[line - preparedFrom_];
-}
-
-// Waiting for the lock again on every line would take hours for a big file.
-void Merge::dontWaitWhenBusy() {
-    context_.setWaitWhenBusy(false);
-    waitChanged_ = true;
-}
-
-bool Merge::step(qsizetype count) {
-    if (result_.wrongFile)
-        return false;
-    ManagedObjectContext& context = context_;
-    ImportResult& result = result_;
-    // The saves of a step are committed together, and before the merge stops: a commit per
-    // coin would write each index page again for every coin.
-    ManagedObjectContext::SaveGroup group(context);
-    // What the group's saves wrote and a failed commit would leave unsaved.
-    int heldCreated = 0, heldUpdated = 0;
-    auto commit = [&] {
-        if (const Result<void> committed = group.commit(); !committed.ok()) {
-            Console::log(committed.error().description());
-            if (result.notSaved == 0)
-                result.notSavedReason = committed.error().message;
-            result.notSaved += heldCreated;
-            result.updatedSinceSave += heldUpdated;
-        }
-        heldCreated = heldUpdated = 0;
-    };
-    const qsizetype stop = std::min(lines_.size(), next_ + std::max<qsizetype>(count, 1));
-    for (; next_ < stop; ++next_) {
-        if (group.held() >= SavesPerCommit)
-            commit();
-        const Fields fields = splitFields(lines_[next_]);
-        const PreparedLine& pictures = picturesOf(next_);
-        // A line with more fields than there are attributes is no line of ours, whether it
-        // would create, update or be skipped.
-        if (fields.size() > CoinAttributes::count) {
-            commit();
-            fatalError(QStringLiteral("Index out of range"), StopSites::ImportFieldCount);
-        }
-        // The lookup and the save that follows it hold the write lock together, so that two
-        // imports of one file never both find a coin missing and both create it.
-        if (const Result<void> locked = context.beginWriteBatch();
-            !locked.ok() && locked.error().isBusy())
-            dontWaitWhenBusy();
-        // The key texts and the request go before the coin is written: a huge field is then
-        // held as text once, not three times.
-        const Result<QList<CoinPtr>> found = [&] {
-            std::vector<Predicate> keys;
-            keys.reserve(CoinAttributes::importKeyCount);
-            for (int k = 0; k < CoinAttributes::importKeyCount; ++k)
-                keys.push_back(Predicate::format(
-                    keyFormats()[std::size_t(k)],
-                    fieldText(fields, CoinAttributes::importKey(k).filePosition)));
-            FetchRequest request(QStringLiteral("Coins"));
-            request.predicate = Predicate::andPredicate(keys);
-            request.returnsObjectsAsFaults = false;
-            return fetchOrPrint<Coins>(context, request);
-        }();
-        if (!found.ok() && found.error().isBusy())
-            dontWaitWhenBusy();
-        const QList<CoinPtr> results = found.valueOr({});
-        // What the line changes in the collection's pieces.
-        auto notePieces = [&](int change) {
-            if (change != 0)
-                result.pieceChanges.append({lineNumbers_[next_], change});
-        };
-        if (results.isEmpty()) {
-            auto coin = context.insert<Coins>();
-            apply(*coin, fields, true, pictures, commit);
-            notePieces(coin->quantity());
-            if (const auto failure = context.save(); !failure.ok()) {
-                Console::log(failure.error().description());
-                if (result.notSaved++ == 0)
-                    result.notSavedReason = failure.error().message;
-                if (failure.error().isBusy())
-                    dontWaitWhenBusy();
-            } else {
-                // A save writes every coin left pending before it.
-                heldCreated += result.notSaved + 1;
-                heldUpdated += result.updatedSinceSave;
-                result.notSaved = 0;
-                result.updatedSinceSave = 0;
-            }
-            ++result.created;
-        } else if (results.size() == 1) {
-            // Left pending on purpose: the next save of the context writes it.
-            const int before = results.first()->quantity();
-            apply(*results.first(), fields, false, pictures, commit);
-            notePieces(results.first()->quantity() - before);
-            ++result.updated;
-            ++result.updatedSinceSave;
-        } else {
-            ++result.skipped;
-        }
-    }
-    commit();
-    // The journal says what the import did in the words the command line prints.
-    const QLocale english(QLocale::English);
-    journalStep_.setDetail(
-        QStringLiteral("%1 created, %2 updated")
-            .arg(english.toString(result.created), english.toString(result.updated)));
-    return next_ < lines_.size();
-}
-
-ImportResult mergeExchangeText(ManagedObjectContext& context, QByteArray text) {
-    Merge merge(context, std::move(text));
-    while (merge.step(merge.lineCount())) {
-    }
-    return merge.result();
 }
 
 std::optional<QByteArray> utf8Text(QByteArray bytes) {

@@ -7,10 +7,11 @@
 #include "platform/kit/AlertController.h"
 #include "platform/kit/Appearance.h"
 #include "reports/Currency.h"
-#include "reports/Statistics.h"
 #include "screens/Application.h"
 #include "screens/DetailReceiver.h"
 #include "screens/statistics/StatisticsCharts.h"
+#include "screens/statistics/StatisticsCsv.h"
+#include "screens/statistics/StatisticsTableModel.h"
 
 #include <QBoxLayout>
 #include <QBuffer>
@@ -21,7 +22,7 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTableWidget>
+#include <QTableView>
 
 namespace {
 // From this width on a chart and its table stand side by side.
@@ -51,33 +52,6 @@ const char* const kTableNames[] = {
 const char* const kFileNames[] = {"Pelvane-value", "Pelvane-countries", "Pelvane-denominations",
                                   "Pelvane-decades", "Pelvane-changes"};
 
-QString nameOrNone(const QString& name) {
-    return name.isEmpty() ? StatisticsViewController::tr("(none)") : name;
-}
-
-QString coinName(const ValueHistory::Event& e) {
-    return QStringLiteral("%1, %2 %3")
-        .arg(nameOrNone(e.denomination), nameOrNone(e.country))
-        .arg(e.year);
-}
-
-// A CSV field: quoted when it holds a separator, a quote or a line break.
-QString csvField(const QString& text) {
-    if (!text.contains(QLatin1Char(',')) && !text.contains(QLatin1Char('"')) &&
-        !text.contains(QLatin1Char('\n')))
-        return text;
-    return QLatin1Char('"') + QString(text).replace(QLatin1String("\""), QLatin1String("\"\"")) +
-           QLatin1Char('"');
-}
-
-void fillRow(QTableWidget* table, int row, const QStringList& cells) {
-    for (int c = 0; c < cells.size(); ++c) {
-        auto* item = new QTableWidgetItem(cells[c]);
-        if (c > 0)
-            item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        table->setItem(row, c, item);
-    }
-}
 } // namespace
 
 StatisticsViewController::StatisticsViewController(QWidget* parent)
@@ -125,8 +99,8 @@ StatisticsViewController::StatisticsViewController(QWidget* parent)
     // Queued: the Enter that opened a row goes on to the window, and would answer at once the
     // alert a deleted coin shows.
     connect(
-        Tables[ChangesPage], &QTableWidget::cellActivated, this,
-        [this](int row, int) { OpenChange(row); }, Qt::QueuedConnection);
+        Tables[ChangesPage], &QTableView::activated, this,
+        [this](const QModelIndex& index) { OpenChange(index.row()); }, Qt::QueuedConnection);
     navigationItem().rightItems = {
         {tr("Save Chart…"), [this] { SaveChart(); }, nullptr, QStringLiteral("SaveChartButton")},
         {tr("Export Data…"), [this] { ExportData(); }, nullptr,
@@ -146,7 +120,11 @@ QWidget* StatisticsViewController::page(Page p, const QString& title) {
         Charts[p]->viewport()->setAccessibleName(tr(kChartNames[p]));
         box->addWidget(Charts[p], 3);
     }
-    auto* table = new QTableWidget(widget);
+    using Kind = StatisticsTableModel::Kind;
+    const Kind kinds[] = {Kind::Days, Kind::Countries, Kind::Denominations, Kind::Decades,
+                          Kind::Changes};
+    Models[p] = new StatisticsTableModel(kinds[p], this);
+    auto* table = new QTableView(widget);
     table->setObjectName(title + QStringLiteral("Table"));
     table->setAccessibleName(tr(kTableNames[p]));
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -154,14 +132,7 @@ QWidget* StatisticsViewController::page(Page p, const QString& title) {
     table->verticalHeader()->hide();
     table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->setAccessibleName(tr("Columns"));
-    const QStringList headers[] = {
-        {tr("Date"), tr("Pieces"), tr("Value")},
-        {tr("Country"), tr("Pieces"), tr("Value")},
-        {tr("Denomination"), tr("Pieces"), tr("Value")},
-        {tr("Decade"), tr("Pieces"), tr("Value")},
-        {tr("Coin"), tr("Before"), tr("After"), tr("Date"), tr("Cause")}};
-    table->setColumnCount(int(headers[p].size()));
-    table->setHorizontalHeaderLabels(headers[p]);
+    table->setModel(Models[p]);
     Tables[p] = table;
     box->addWidget(table, 2);
     pageLayouts_.append(box);
@@ -248,12 +219,7 @@ void StatisticsViewController::fillValue() {
     const QList<ValueHistory::DayTotal> shown =
         StatisticsCharts::inRange(Series, rangeStart(), ValueHistory::now().date());
     StatisticsCharts::showSeries(Charts[ValuePage], shown);
-    QTableWidget* table = Tables[ValuePage];
-    table->setRowCount(int(shown.size()));
-    for (int r = 0; r < shown.size(); ++r)
-        fillRow(table, r,
-                {shown[r].day.toString(Qt::ISODate), QString::number(shown[r].pieces),
-                 Currency::text(shown[r].value)});
+    Models[ValuePage]->setDays(shown);
 }
 
 void StatisticsViewController::fillShares(Page p, const QList<Holdings::Share>& all,
@@ -261,35 +227,18 @@ void StatisticsViewController::fillShares(Page p, const QList<Holdings::Share>& 
     // The rest under a translated name on screen; the CSV file keeps "Other".
     const QList<Holdings::Share> shown = Holdings::largest(all, kLargest, tr("Other"));
     StatisticsCharts::showShares(Charts[p], shown, what, /*byValue*/ true);
-    QTableWidget* table = Tables[p];
-    table->setRowCount(int(shown.size()));
-    for (int r = 0; r < shown.size(); ++r)
-        fillRow(table, r,
-                {nameOrNone(shown[r].name), QString::number(shown[r].pieces),
-                 Currency::text(shown[r].value)});
+    Models[p]->setShares(shown, shown.size() < all.size());
 }
 
 void StatisticsViewController::fillDecades() {
     StatisticsCharts::showShares(Charts[DecadePage], Decades, tr("Decade"),
                                  /*byValue*/ false);
-    QTableWidget* table = Tables[DecadePage];
-    table->setRowCount(int(Decades.size()));
-    for (int r = 0; r < Decades.size(); ++r)
-        fillRow(table, r,
-                {Decades[r].name, QString::number(Decades[r].pieces),
-                 Currency::text(Decades[r].value)});
+    Models[DecadePage]->setShares(Decades, false);
 }
 
 void StatisticsViewController::fillChanges() {
-    QTableWidget* table = Tables[ChangesPage];
-    table->setRowCount(int(Changes.size()));
-    for (int r = 0; r < Changes.size(); ++r) {
-        const ValueHistory::Event& e = Changes[r];
-        fillRow(table, r,
-                {coinName(e), Currency::text(e.totalBefore()), Currency::text(e.totalAfter()),
-                 e.day.toString(Qt::ISODate), e.cause});
-    }
-    table->resizeColumnsToContents();
+    Models[ChangesPage]->setChanges(Changes);
+    Tables[ChangesPage]->resizeColumnsToContents();
 }
 
 void StatisticsViewController::applyTheme() {
@@ -299,49 +248,9 @@ void StatisticsViewController::applyTheme() {
             StatisticsCharts::applyTheme(chart, DarkMode);
 }
 
-QByteArray StatisticsViewController::csv(Page p) const {
-    QStringList lines;
-    auto shares = [&](const QString& what, const QList<Holdings::Share>& list) {
-        lines << what + QStringLiteral(",pieces,total_value");
-        for (const Holdings::Share& s : list)
-            lines << QStringLiteral("%1,%2,%3")
-                         .arg(csvField(s.name))
-                         .arg(s.pieces)
-                         .arg(Statistics::amount(s.value));
-    };
-    switch (p) {
-    case ValuePage:
-        lines << QStringLiteral("date,pieces,total_value");
-        for (const auto& d :
-             StatisticsCharts::inRange(Series, rangeStart(), ValueHistory::now().date()))
-            lines << QStringLiteral("%1,%2,%3")
-                         .arg(d.day.toString(Qt::ISODate))
-                         .arg(d.pieces)
-                         .arg(Statistics::amount(d.value));
-        break;
-    case CountryPage:
-        shares(QStringLiteral("country"), Holdings::largest(Countries, kLargest, "Other"));
-        break;
-    case DenominationPage:
-        shares(QStringLiteral("denomination"), Holdings::largest(Denominations, kLargest, "Other"));
-        break;
-    case DecadePage:
-        shares(QStringLiteral("decade"), Decades);
-        break;
-    default:
-        lines << QStringLiteral("denomination,country,year,total_before,total_after,date,cause");
-        for (const ValueHistory::Event& e : Changes)
-            lines << QStringList{csvField(e.denomination),
-                                 csvField(e.country),
-                                 QString::number(e.year),
-                                 Statistics::amount(e.totalBefore()),
-                                 Statistics::amount(e.totalAfter()),
-                                 e.day.toString(Qt::ISODate),
-                                 csvField(e.cause)}
-                         .join(QLatin1Char(','));
-        break;
-    }
-    return (lines.join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8();
+QByteArray StatisticsViewController::csv(Page p) {
+    load(p);
+    return StatisticsCsv::write(*Models[p]);
 }
 
 void StatisticsViewController::SaveChart() {

@@ -16,8 +16,9 @@ class QChartView;
 class QLabel;
 class QPushButton;
 class QTabWidget;
-class QTableWidget;
+class QTableView;
 class ManagedObjectContext;
+class StatisticsTableModel;
 
 class StatisticsViewController : public ViewController {
     Q_OBJECT
@@ -38,14 +39,17 @@ public:
     void ExportData();
     // Opens the coin of a row of the largest changes.
     void OpenChange(int row);
-    // The numbers of a tab as CSV: a header line, then its table's rows.
-    QByteArray csv(Page page) const;
+    // The numbers of a tab as CSV, written from the table the tab shows (read first when it
+    // has not been yet): a header line, then its rows.
+    QByteArray csv(Page page);
 
     QPushButton *MonthButton, *YearButton, *AllButton;
     QLabel* SummaryLabel;
     QTabWidget* ChartTabs;
     QChartView* Charts[PageCount] = {}; // none for the largest changes
-    QTableWidget* Tables[PageCount] = {};
+    QTableView* Tables[PageCount] = {};
+    // What each table shows, and each CSV file holds.
+    StatisticsTableModel* Models[PageCount] = {};
     Range range = Range::All;
     bool DarkMode = false;
     ManagedObjectContext* managedObjectContext = nullptr;

@@ -6,7 +6,7 @@
 
 #include <QAccessibleTableInterface>
 #include <QRegularExpression>
-#include <QTableWidget>
+#include <QTableView>
 #include <functional>
 
 namespace {
@@ -122,7 +122,7 @@ TEST_F(ReadableScreensTest, StatisticsHeadersAreColumnHeaders) {
     auto* screen = topAs<StatisticsViewController>();
     ASSERT_TRUE(screen);
     screen->ChartTabs->setCurrentIndex(StatisticsViewController::CountryPage);
-    QTableWidget* table = screen->Tables[StatisticsViewController::CountryPage];
+    QTableView* table = screen->Tables[StatisticsViewController::CountryPage];
     QAccessibleInterface* a = QAccessible::queryAccessibleInterface(table);
     ASSERT_TRUE(a && a->tableInterface());
     EXPECT_EQ(a->text(QAccessible::Name), "Statistics: pieces and value by country");

@@ -38,9 +38,41 @@ QMap<QString, Sums> byCountryFrom(const QByteArray& file) {
     return out;
 }
 
-QString cell(QTableWidget* table, int row, int column) {
-    auto* item = table->item(row, column);
-    return item ? item->text() : QString();
+// A cell's text as the table shows it.
+QString cell(QTableView* table, int row, int column) {
+    return table->model()->index(row, column).data().toString();
+}
+int rowCount(QTableView* table) {
+    return table->model()->rowCount();
+}
+
+// The records of a CSV file: a quoted field may hold separators, doubled quotes and line breaks.
+QList<QStringList> readCsv(const QString& text) {
+    QList<QStringList> records;
+    QStringList record;
+    QString field;
+    bool quoted = false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text[i];
+        if (quoted) {
+            if (c == u'"' && i + 1 < text.size() && text[i + 1] == u'"')
+                field += text[++i];
+            else if (c == u'"')
+                quoted = false;
+            else
+                field += c;
+        } else if (c == u'"') {
+            quoted = true;
+        } else if (c == u',') {
+            record << std::exchange(field, {});
+        } else if (c == u'\n') {
+            record << std::exchange(field, {});
+            records << std::exchange(record, {});
+        } else {
+            field += c;
+        }
+    }
+    return records;
 }
 } // namespace
 
@@ -84,8 +116,8 @@ TEST_F(StatisticsTest, ChartsAndTablesShowTheCollectionsOwnSums) {
                                                 .arg(QLocale().toCurrencyString(whole.value)));
 
     screen->ChartTabs->setCurrentIndex(StatisticsViewController::CountryPage);
-    QTableWidget* table = screen->Tables[StatisticsViewController::CountryPage];
-    ASSERT_EQ(table->rowCount(), 11);
+    QTableView* table = screen->Tables[StatisticsViewController::CountryPage];
+    ASSERT_EQ(rowCount(table), 11);
     EXPECT_EQ(cell(table, 10, 0), "Other");
     Sums listed, other = whole;
     double previous = 1e300;
@@ -151,8 +183,8 @@ TEST_F(StatisticsTest, RevaluationsAndImportsAreChangesThatOpenTheirCoin) {
 
     auto* screen = open();
     screen->ChartTabs->setCurrentIndex(StatisticsViewController::ChangesPage);
-    QTableWidget* changes = screen->Tables[StatisticsViewController::ChangesPage];
-    ASSERT_EQ(changes->rowCount(), 4); // two added, one revalued, one imported
+    QTableView* changes = screen->Tables[StatisticsViewController::ChangesPage];
+    ASSERT_EQ(rowCount(changes), 4); // two added, one revalued, one imported
     EXPECT_EQ(cell(changes, 0, 0), "Lincoln Cent, USA 1909");
     EXPECT_EQ(cell(changes, 0, 1), "$2.00");
     EXPECT_EQ(cell(changes, 0, 2), "$60.00");
@@ -163,7 +195,7 @@ TEST_F(StatisticsTest, RevaluationsAndImportsAreChangesThatOpenTheirCoin) {
     EXPECT_EQ(cell(changes, 1, 4), "Import");
     // The last month holds the revaluation and the import, not the coins added before it.
     screen->MonthButton->click();
-    EXPECT_EQ(changes->rowCount(), 2);
+    EXPECT_EQ(rowCount(changes), 2);
     screen->AllButton->click();
 
     // The value line: the day the coins were added, the revaluation, the import, today.
@@ -172,12 +204,12 @@ TEST_F(StatisticsTest, RevaluationsAndImportsAreChangesThatOpenTheirCoin) {
               "date,pieces,total_value\n2026-01-10,3,4.00\n2026-02-19,3,62.00\n"
               "2026-02-22,6,70.00\n");
     screen->YearButton->click();
-    EXPECT_EQ(screen->Tables[StatisticsViewController::ValuePage]->rowCount(), 3);
+    EXPECT_EQ(rowCount(screen->Tables[StatisticsViewController::ValuePage]), 3);
 
     // A row opens its coin read-only with its history, never the edit form.
     screen->ChartTabs->setCurrentIndex(StatisticsViewController::ChangesPage);
     screen->MonthButton->click();
-    changes->setCurrentCell(1, 0);
+    changes->setCurrentIndex(changes->model()->index(1, 0));
     QTest::keyClick(changes, Qt::Key_Return);
     QApplication::processEvents();
     auto* coinHistory = topAs<CoinHistoryViewController>();
@@ -201,7 +233,7 @@ TEST_F(StatisticsTest, RevaluationsAndImportsAreChangesThatOpenTheirCoin) {
     ctx().deleteObject(dime);
     ASSERT_TRUE(ctx().save().ok());
     // The Enter that opened the row does not answer the alert as well.
-    changes->setCurrentCell(1, 0);
+    changes->setCurrentIndex(changes->model()->index(1, 0));
     QTest::keyClick(changes, Qt::Key_Return);
     QApplication::processEvents();
     EXPECT_EQ(top(), screen);
@@ -310,4 +342,74 @@ TEST_F(StatisticsTest, ChartAxesTickAtRoundNumbers) {
     EXPECT_EQ(loss.low, -200);
     EXPECT_EQ(loss.high, 600);
     EXPECT_EQ(loss.step, 200);
+}
+
+// Each tab's CSV file holds the rows of the table the tab shows, cell for cell, read back from
+// the file the Export Data button writes; a name holding a separator, a quote or a line break
+// (a carriage return too) comes out quoted.
+TEST_F(StatisticsTest, EachCsvFileHoldsTheTableItsTabShows) {
+    // More than eleven countries, so that the rest is summed; the names a file must quote are
+    // among the ten largest.
+    const QStringList countries = {"Nor\rway",
+                                   "Peru, Republic",
+                                   "Côte \"d'Ivoire\"",
+                                   "Line\nFeed",
+                                   "",
+                                   "Canada",
+                                   "Mexico",
+                                   "Japan",
+                                   "Chile",
+                                   "Brazil",
+                                   "India",
+                                   "Kenya",
+                                   "Spain"};
+    const int n = int(countries.size());
+    for (int i = 0; i < n; ++i)
+        addCoin(i == 0 ? QStringLiteral("Pe\rso") : QStringLiteral("Cent %1").arg(i % 3),
+                1900 + 13 * i, n - i, 1.25f * float(n - i), countries[i]);
+    auto* screen = open();
+    ASSERT_NE(screen, nullptr);
+    const auto money = [](const QString& amount) {
+        return QLocale().toCurrencyString(amount.toDouble());
+    };
+    const auto orNone = [](const QString& name) {
+        return name.isEmpty() ? QStringLiteral("(none)") : name;
+    };
+    QByteArray files[StatisticsViewController::PageCount];
+    for (int p = 0; p < StatisticsViewController::PageCount; ++p) {
+        SCOPED_TRACE(p);
+        screen->ChartTabs->setCurrentIndex(p);
+        const QString path = dir() + QStringLiteral("/page%1.csv").arg(p);
+        fakes.documentPicker->next = path;
+        button("ExportDataButton")->click();
+        files[p] = readFile(path);
+        const QList<QStringList> records = readCsv(QString::fromUtf8(files[p]));
+        QTableView* table = screen->Tables[p];
+        ASSERT_GT(rowCount(table), 0);
+        ASSERT_EQ(records.size(), rowCount(table) + 1); // the titles, then a record per row
+        for (int r = 0; r < rowCount(table); ++r) {
+            const QStringList& f = records[r + 1];
+            ASSERT_EQ(f.size(), records[0].size()) << r;
+            const QStringList expected =
+                p == StatisticsViewController::ChangesPage
+                    ? QStringList{QStringLiteral("%1, %2 %3").arg(orNone(f[0]), orNone(f[1]), f[2]),
+                                  money(f[3]), money(f[4]), f[5], f[6]}
+                    : QStringList{p == StatisticsViewController::DecadePage ? f[0] : orNone(f[0]),
+                                  f[1], money(f[2])};
+            ASSERT_EQ(table->model()->columnCount(), expected.size());
+            for (int c = 0; c < expected.size(); ++c)
+                EXPECT_EQ(cell(table, r, c), expected[c]) << r << "," << c;
+        }
+    }
+    // The file's own text: the names quoted (a carriage return as well as a line feed), the rest
+    // summed under its English name.
+    const QByteArray& byCountry = files[StatisticsViewController::CountryPage];
+    EXPECT_TRUE(byCountry.startsWith("country,pieces,total_value\n\"Nor\rway\",13,211.25\n"))
+        << byCountry.toStdString();
+    EXPECT_TRUE(byCountry.contains("\n\"Line\nFeed\","));
+    EXPECT_TRUE(byCountry.contains("\n\"Côte \"\"d'Ivoire\"\"\","));
+    EXPECT_TRUE(byCountry.contains("\n,9,101.25\n")); // no country: an empty field
+    EXPECT_TRUE(byCountry.endsWith("\nOther,6,17.50\n")) << byCountry.toStdString();
+    EXPECT_TRUE(files[StatisticsViewController::ChangesPage].contains(
+        "\n\"Pe\rso\",\"Nor\rway\",1900,0.00,211.25,"));
 }
