@@ -206,14 +206,13 @@ Merge::Merge(ManagedObjectContext& context, QByteArray utf8, const QString& sour
     , journalStep_(context, Journal::Import,
                    source.isEmpty() ? QStringLiteral("an exchange file") : source)
     , text_(std::move(utf8)) {
-    // A second container for the same model: opened and released, as the import always did.
+    // A second container for the same model, opened and released at once: a store it cannot
+    // load stops the import before any line is merged.
     {
         PersistentContainer second(QStringLiteral("Pelvane"));
         second.loadPersistentStores([](const StoreDescription&, const std::optional<Error>& error) {
             if (error)
-                fatalError(QStringLiteral("Unresolved error %1, %2")
-                               .arg(error->description(), error->userInfoDescription()),
-                           StopSites::ImportStoreLoad);
+                unresolvedError(*error, StopSites::ImportStoreLoad);
         });
     }
 
@@ -308,7 +307,8 @@ bool Merge::step(qsizetype count) {
         // would create, update or be skipped.
         if (fields.size() > CoinAttributes::count) {
             commit();
-            fatalError(QStringLiteral("Index out of range"), StopSites::ImportFieldCount);
+            fatalError(QStringLiteral("A line has more than 22 fields"),
+                       StopSites::ImportFieldCount);
         }
         // The lookup and the save that follows it hold the write lock together, so that two
         // imports of one file never both find a coin missing and both create it.

@@ -254,7 +254,10 @@ QString SqliteDatabase::errorMessage() const {
 }
 
 Error SqliteDatabase::error() const {
-    return Error::because(errorCode(), errorMessage());
+    Error e = Error::because(errorCode(), errorMessage());
+    if (const char* file = db_ ? sqlite3_db_filename(db_, "main") : nullptr; file && *file)
+        e.file = Files::fromNativeName(QByteArray(file));
+    return e;
 }
 
 qint64 SqliteDatabase::lastInsertRowId() const {
