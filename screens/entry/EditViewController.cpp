@@ -135,7 +135,7 @@ void EditViewController::SaveButtonClicked() {
         const CoinFormTexts texts = formTexts();
         keepOriginals(*managedObjectContext, texts);
         CoinFormRules::applyEditForm(*Results.first(), texts);
-        managedObjectContext->save(); // a failure is dropped, as the screen always did
+        managedObjectContext->save(); // a failure is dropped: the edit screen reports none
     }
     Console::log(CalledFromList);
     static const QList<std::pair<QString, QString>> returns = {
