@@ -16,9 +16,7 @@ PersistentContainer& AppDelegate::persistentContainer() {
         container_->loadPersistentStores(
             [](const StoreDescription&, const std::optional<Error>& error) {
                 if (error)
-                    fatalError(QStringLiteral("Unresolved error %1, %2")
-                                   .arg(error->description(), error->userInfoDescription()),
-                               StopSites::StoreLoad);
+                    unresolvedError(*error, StopSites::StoreLoad);
             });
     }
     return *container_;
@@ -29,7 +27,5 @@ void AppDelegate::saveContext() {
     if (!context->hasChanges())
         return;
     if (const auto error = context->save(); !error.ok())
-        fatalError(QStringLiteral("Unresolved error %1, %2")
-                       .arg(error.error().description(), error.error().userInfoDescription()),
-                   StopSites::ContextSave);
+        unresolvedError(error.error(), StopSites::ContextSave);
 }

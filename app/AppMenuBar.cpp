@@ -19,7 +19,7 @@
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QPointer>
-#include <QPushButton>
+#include <QResizeEvent>
 
 namespace {
 QString trMenu(const char* text) {
@@ -50,12 +50,45 @@ void go(Window& window, MainMenuViewController* menu, const QString& segue,
     if (then && nav->topViewController() != menu)
         then(nav->topViewController());
 }
-void onImportExport(Window& window, MainMenuViewController* menu,
-                    const std::function<void(ImportExportViewController*)>& then) {
-    go(window, menu, QStringLiteral("ImportExport"), [then](ViewController* screen) {
+// The Import / Export screen's own action: on the screen in front when it is that screen (a
+// backup under way there keeps it disabled), else on the screen opened from the start screen.
+using HubAction = QAction* ImportExportViewController::*;
+void onImportExport(Window& window, MainMenuViewController* menu, HubAction action) {
+    if (auto* hub = qobject_cast<ImportExportViewController*>(window.frontScreen())) {
+        (hub->*action)->trigger();
+        return;
+    }
+    go(window, menu, QStringLiteral("ImportExport"), [action](ViewController* screen) {
         if (auto* hub = qobject_cast<ImportExportViewController*>(screen))
-            then(hub);
+            (hub->*action)->trigger();
     });
+}
+
+// Runs `then` whenever the widget changes size.
+class OnResize : public QObject {
+public:
+    OnResize(QWidget* watched, std::function<void()> then)
+        : QObject(watched)
+        , then_(std::move(then)) {
+        watched->installEventFilter(this);
+    }
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Resize)
+            then_();
+        return false;
+    }
+
+private:
+    std::function<void()> then_;
+};
+
+// The platform's keys for a command, with the one the program documents among them.
+QList<QKeySequence> standardKeys(QKeySequence::StandardKey key, const char* documented) {
+    QList<QKeySequence> keys = QKeySequence::keyBindings(key);
+    const QKeySequence ours(QString::fromLatin1(documented));
+    if (!keys.contains(ours))
+        keys.prepend(ours);
+    return keys;
 }
 
 // Undo or Redo from the Edit menu: a form with unsaved changes asks first, since it is filled
@@ -115,38 +148,59 @@ QMenuBar* install(Window& window, MainMenuViewController* menu) {
     bar->setObjectName(QStringLiteral("MenuBar"));
     QPointer<MainMenuViewController> start(menu);
     Window* w = &window;
-    auto entry = [bar](QMenu* m, const QString& title, const QKeySequence& keys,
+    auto entry = [bar](QMenu* m, const QString& title, const QList<QKeySequence>& keys,
                        std::function<void()> action) {
         QAction* a = m->addAction(title);
-        a->setShortcut(keys);
+        a->setShortcuts(keys);
         if (action)
             QObject::connect(a, &QAction::triggered, bar, std::move(action));
         return a;
     };
 
     QMenu* file = bar->addMenu(QCoreApplication::translate("AppMenuBar", "&File"));
-    entry(file, QCoreApplication::translate("AppMenuBar", "Import Coins…"), {},
-          [w, start] { onImportExport(*w, start, [](auto* hub) { hub->ImportButton->click(); }); });
-    entry(file, QCoreApplication::translate("AppMenuBar", "Export Coins…"), {},
-          [w, start] { onImportExport(*w, start, [](auto* hub) { hub->ExportButton->click(); }); });
-    file->addSeparator();
-    entry(file, QCoreApplication::translate("AppMenuBar", "Back Up Collection…"), {},
-          [w, start] { onImportExport(*w, start, [](auto* hub) { hub->BackupButton->click(); }); });
-    entry(file, QCoreApplication::translate("AppMenuBar", "Restore From Backup…"), {}, [w, start] {
-        onImportExport(*w, start, [](auto* hub) { hub->RestoreButton->click(); });
+    const std::pair<const char*, HubAction> hubEntries[] = {
+        {QT_TRANSLATE_NOOP("AppMenuBar", "Import Coins…"),
+         &ImportExportViewController::ImportAction},
+        {QT_TRANSLATE_NOOP("AppMenuBar", "Export Coins…"),
+         &ImportExportViewController::ExportAction},
+        {nullptr, nullptr},
+        {QT_TRANSLATE_NOOP("AppMenuBar", "Back Up Collection…"),
+         &ImportExportViewController::BackupAction},
+        {QT_TRANSLATE_NOOP("AppMenuBar", "Restore From Backup…"),
+         &ImportExportViewController::RestoreAction}};
+    QList<std::pair<QAction*, HubAction>> fileActions;
+    for (auto [title, action] : hubEntries) {
+        if (!title) {
+            file->addSeparator();
+            continue;
+        }
+        fileActions.append({entry(file, trMenu(title), {},
+                                  [w, start, a = action] { onImportExport(*w, start, a); }),
+                            action});
+    }
+    // Enabled as the screen's own actions are while that screen is in front.
+    QObject::connect(file, &QMenu::aboutToShow, bar, [w, fileActions] {
+        auto* hub = qobject_cast<ImportExportViewController*>(w->frontScreen());
+        for (auto [entryAction, action] : fileActions)
+            entryAction->setEnabled(!hub || (hub->*action)->isEnabled());
+    });
+    QObject::connect(file, &QMenu::aboutToHide, bar, [fileActions] {
+        for (auto [entryAction, action] : fileActions)
+            entryAction->setEnabled(true);
     });
     file->addSeparator();
     entry(file, QCoreApplication::translate("AppMenuBar", "Quit"),
-          QKeySequence(QStringLiteral("Ctrl+Q")), [w] { w->close(); });
+          standardKeys(QKeySequence::Quit, "Ctrl+Q"), [w] { w->close(); });
 
     QMenu* edit = bar->addMenu(QCoreApplication::translate("AppMenuBar", "&Edit"));
     edit->setObjectName(QStringLiteral("EditMenu"));
-    QAction* undo = entry(edit, QCoreApplication::translate("AppMenuBar", "Undo"),
-                          QKeySequence::Undo, [w] { undoOrRedo(*w, false); });
+    QAction* undo =
+        entry(edit, QCoreApplication::translate("AppMenuBar", "Undo"),
+              standardKeys(QKeySequence::Undo, "Ctrl+Z"), [w] { undoOrRedo(*w, false); });
     undo->setObjectName(QStringLiteral("UndoAction"));
     QAction* redo =
         entry(edit, QCoreApplication::translate("AppMenuBar", "Redo"),
-              QKeySequence(QStringLiteral("Ctrl+Shift+Z")), [w] { undoOrRedo(*w, true); });
+              standardKeys(QKeySequence::Redo, "Ctrl+Shift+Z"), [w] { undoOrRedo(*w, true); });
     redo->setObjectName(QStringLiteral("RedoAction"));
     edit->addSeparator();
     entry(edit, QCoreApplication::translate("AppMenuBar", "Recent Changes…"), {},
@@ -174,6 +228,8 @@ QMenuBar* install(Window& window, MainMenuViewController* menu) {
 
     QMenu* view = bar->addMenu(QCoreApplication::translate("AppMenuBar", "&View"));
     auto* views = new QActionGroup(view);
+    views->setExclusionPolicy(QActionGroup::ExclusionPolicy::Exclusive);
+    QList<std::pair<QAction*, CoinListView::Presentation>> viewActions;
     for (auto [title, presentation] :
          {std::pair{QT_TRANSLATE_NOOP("AppMenuBar", "Cards"), CoinListView::Presentation::Cards},
           std::pair{QT_TRANSLATE_NOOP("AppMenuBar", "Table"), CoinListView::Presentation::Table}}) {
@@ -181,16 +237,26 @@ QMenuBar* install(Window& window, MainMenuViewController* menu) {
             entry(view, trMenu(title), {}, [p = presentation] { CoinListView::choose(p); });
         a->setCheckable(true);
         views->addAction(a);
-        // A list's own View button may have chosen since the menu was last open.
-        QObject::connect(view, &QMenu::aboutToShow, a,
-                         [a, p = presentation] { a->setChecked(CoinListView::chosen() == p); });
+        viewActions.append({a, presentation});
     }
+    // The check mark shows the view the lists show: the one chosen (here or by a list's own
+    // View button), else the one the window's width gives.
+    auto markView = [w, viewActions] {
+        const CoinListView::Presentation shown = CoinListView::forWindowWidth(w->width());
+        for (auto [a, presentation] : viewActions)
+            if (presentation == shown)
+                a->setChecked(true);
+    };
+    markView();
+    QObject::connect(&CoinListViewChanges::instance(), &CoinListViewChanges::changed, bar,
+                     markView);
+    QObject::connect(view, &QMenu::aboutToShow, bar, markView);
+    new OnResize(w, markView);
     view->addSeparator();
     QAction* dark = entry(view, QCoreApplication::translate("AppMenuBar", "Dark Appearance"),
-                          QKeySequence(QStringLiteral("Ctrl+Shift+D")), {});
+                          {QKeySequence(QStringLiteral("Ctrl+Shift+D"))}, {});
     dark->setCheckable(true);
     dark->setChecked(Appearance::isDark());
-    views->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     QObject::connect(dark, &QAction::toggled, bar, [](bool on) {
         Appearance::setDark(on);
         UserDefaults::standard().setBool(on, QString::fromLatin1(kDarkPreference));
@@ -208,12 +274,12 @@ QMenuBar* install(Window& window, MainMenuViewController* menu) {
         {QT_TRANSLATE_NOOP("AppMenuBar", "Recent Changes"), "RecentChanges"}};
     int number = 1;
     for (auto [title, segue] : places)
-        entry(goMenu, trMenu(title), QKeySequence(QStringLiteral("Ctrl+%1").arg(number++)),
+        entry(goMenu, trMenu(title), {QKeySequence(QStringLiteral("Ctrl+%1").arg(number++))},
               [w, start, s = QString::fromLatin1(segue)] { go(*w, start, s); });
 
     QMenu* help = bar->addMenu(QCoreApplication::translate("AppMenuBar", "&Help"));
     entry(help, QCoreApplication::translate("AppMenuBar", "Pelvane Overview"),
-          QKeySequence(QKeySequence::HelpContents),
+          standardKeys(QKeySequence::HelpContents, "F1"),
           [w, start] { go(*w, start, QStringLiteral("Overview")); });
     entry(help, QCoreApplication::translate("AppMenuBar", "About Pelvane"), {}, [w] {
         if (ViewController* screen = w->frontScreen())

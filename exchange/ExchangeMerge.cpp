@@ -46,9 +46,7 @@ Merge::Merge(ManagedObjectContext& context, QByteArray utf8, const QString& sour
         PersistentContainer second(QStringLiteral("Pelvane"));
         second.loadPersistentStores([](const StoreDescription&, const std::optional<Error>& error) {
             if (error)
-                fatalError(QStringLiteral("Unresolved error %1, %2")
-                               .arg(error->description(), error->userInfoDescription()),
-                           StopSites::ImportStoreLoad);
+                unresolvedError(*error, StopSites::ImportStoreLoad);
         });
     }
 
@@ -121,7 +119,8 @@ bool Merge::step(qsizetype count) {
         // would create, update or be skipped.
         if (fields.size() > CoinAttributes::count) {
             commit();
-            fatalError(QStringLiteral("Index out of range"), StopSites::ImportFieldCount);
+            fatalError(QStringLiteral("A line has more than 22 fields"),
+                       StopSites::ImportFieldCount);
         }
         // The lookup and the save that follows it hold the write lock together, so that two
         // imports of one file never both find a coin missing and both create it.

@@ -2,6 +2,7 @@
 
 #include "model/Originals.h"
 #include "model/Seal.h"
+#include "model/Sqlite.h"
 #include "model/StoreFiles.h"
 #include "model/StoreLock.h"
 #include "model/StoreSchema.h"
@@ -48,8 +49,8 @@ Result<qint64> copyOf(const QString& storePath, const QString& target, const Pro
                     QStringLiteral("Cannot copy the collection: %1").arg(error.error().message)));
     qint64 coins = 0;
     {
-        Connection copy(temporary, Connection::Create);
-        if (!copy.ok())
+        SqliteDatabase copy;
+        if (!copy.open(temporary, SqliteDatabase::Access::Create))
             return fail(copy.error());
         // A snapshot shares the originals' folder with the store; a backup carries its own.
         if (withOriginals)
@@ -59,8 +60,10 @@ Result<qint64> copyOf(const QString& storePath, const QString& target, const Pro
         // The copy's checksum and SQLite's check of it read it side by side, one core each.
         std::optional<QString> problem;
         std::thread checker([&] {
-            const Connection reader(temporary, Connection::Inspect);
-            problem = reader.ok() ? integrityProblem(reader, Check::Quick) : reader.error().message;
+            SqliteDatabase reader;
+            problem = reader.open(temporary, SqliteDatabase::Access::Inspect)
+                          ? integrityProblem(reader, Check::Quick)
+                          : reader.error().message;
         });
         const Result<QByteArray> sum = Seal::digest(copy.handle());
         checker.join();
@@ -97,12 +100,12 @@ Result<qint64> writeNew(const QString& storePath, const QString& target) {
     return copyOf(storePath, target, {}, false, false);
 }
 
-Result<StoreInfo> checkOpen(const Connection& db, const QString& path) {
+Result<StoreInfo> checkOpen(SqliteDatabase& db, const QString& path) {
     auto refuse = [&](const QString& why) {
         return failure(SQLITE_NOTADB, QStringLiteral("%1 %2").arg(path, why));
     };
-    const std::optional<QString> id = db.text("PRAGMA application_id");
-    const std::optional<QString> version = db.text("PRAGMA user_version");
+    const std::optional<QString> id = db.text(QStringLiteral("PRAGMA application_id"));
+    const std::optional<QString> version = db.text(QStringLiteral("PRAGMA user_version"));
     if (!id || !version)
         return refuse(QStringLiteral("cannot be read: %1").arg(db.error().message));
     StoreInfo out;
@@ -158,8 +161,8 @@ Result<void> looksLikeStore(const QString& path) {
 Result<StoreInfo> inspect(const QString& path) {
     if (const Result<void> looks = looksLikeStore(path); !looks.ok())
         return looks.error();
-    Connection db(path, Connection::Inspect);
-    if (!db.ok())
+    SqliteDatabase db;
+    if (!db.open(path, SqliteDatabase::Access::Inspect))
         return failure(SQLITE_NOTADB,
                        QStringLiteral("%1 cannot be opened: %2").arg(path, db.error().message));
     return checkOpen(db, path);
@@ -168,8 +171,8 @@ Result<StoreInfo> inspect(const QString& path) {
 std::optional<QString> damageOf(const QString& storePath) {
     if (!Files::status(storePath).exists)
         return {};
-    Connection db(storePath, Connection::Inspect);
-    if (!db.ok())
+    SqliteDatabase db;
+    if (!db.open(storePath, SqliteDatabase::Access::Inspect))
         return db.error().message;
     return integrityProblem(db, Check::Quick);
 }
@@ -177,8 +180,8 @@ std::optional<QString> damageOf(const QString& storePath) {
 Result<qint64> coinCount(const QString& storePath) {
     if (!Files::status(storePath).exists)
         return qint64(0);
-    Connection db(storePath, Connection::Read);
-    if (!db.ok())
+    SqliteDatabase db;
+    if (!db.open(storePath, SqliteDatabase::Access::Read))
         return db.error();
     return countCoins(db);
 }

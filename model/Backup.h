@@ -7,9 +7,7 @@
 #include <functional>
 #include <optional>
 
-namespace StoreFiles {
-class Connection;
-}
+class SqliteDatabase;
 
 namespace Backup {
 
@@ -40,7 +38,7 @@ Result<qint64> writeNew(const QString& storePath, const QString& target);
 Result<StoreInfo> inspect(const QString& path);
 
 // The checks of inspect() on a database already open, shown as `path` in the reasons.
-Result<StoreInfo> checkOpen(const StoreFiles::Connection& db, const QString& path);
+Result<StoreInfo> checkOpen(SqliteDatabase& db, const QString& path);
 // Whether the file exists, is a regular file and starts as an SQLite database does.
 Result<void> looksLikeStore(const QString& path);
 

@@ -14,7 +14,7 @@ namespace {
 int groupAttribute(const EntityDescription& e, const QString& key) {
     const int i = e.indexOf(key);
     if (i < 0 || e.attributes[std::size_t(i)].type == AttributeType::Data)
-        fatalError(QStringLiteral("keypath %1 not found in entity %2").arg(key, e.name),
+        fatalError(QStringLiteral("The entity %2 has no attribute %1 to group by").arg(key, e.name),
                    "Pelvane/ManagedObjectContext", __LINE__);
     return i;
 }

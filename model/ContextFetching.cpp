@@ -41,8 +41,9 @@ Result<QList<ObjectPtr>> ManagedObjectContext::tryFetch(const FetchRequest& requ
     for (const SortDescriptor& s : request.sortDescriptors) {
         const int i = e.indexOf(s.key);
         if (i < 0 || e.attributes[std::size_t(i)].type == AttributeType::Data)
-            fatalError(QStringLiteral("keypath %1 not found in entity %2").arg(s.key, e.name),
-                       "Pelvane/ManagedObjectContext", __LINE__);
+            fatalError(
+                QStringLiteral("The entity %2 has no attribute %1 to sort by").arg(s.key, e.name),
+                "Pelvane/ManagedObjectContext", __LINE__);
         keys.push_back({i, e.attributes[std::size_t(i)].type, s.ascending});
         keyMask |= 1u << i;
         order << quoted(s.key) + (s.ascending ? QLatin1String(" ASC") : QLatin1String(" DESC"));

@@ -101,9 +101,7 @@ quint32 dataMask(const EntityDescription& e) {
 const EntityDescription& checkedEntity(const QString& name) {
     const EntityDescription* e = Model::entity(name);
     if (!e)
-        fatalError(QStringLiteral("executeFetchRequest:error: A fetch request must have an "
-                                  "entity. (%1)")
-                       .arg(name),
+        fatalError(QStringLiteral("A fetch names no entity of the model (\"%1\")").arg(name),
                    "Pelvane/ManagedObjectContext", __LINE__);
     return *e;
 }

@@ -15,9 +15,7 @@ ManagedObject::ManagedObject(const EntityDescription& entity)
 static int attributeIndex(const EntityDescription& e, const QString& key) {
     const int i = e.indexOf(key);
     if (i < 0)
-        fatalError(QStringLiteral("[<%1> valueForUndefinedKey:]: the entity %1 is not key value "
-                                  "coding-compliant for the key \"%2\".")
-                       .arg(e.name, key),
+        fatalError(QStringLiteral("The entity %1 has no attribute %2").arg(e.name, key),
                    "Pelvane/ManagedObject", __LINE__);
     return i;
 }

@@ -132,12 +132,7 @@ bool ManagedObjectContext::hasChanges() const {
 }
 
 Error ManagedObjectContext::lastError() const {
-    Error e;
-    e.code = db_->errorCode();
-    e.message = db_->errorMessage();
-    e.userInfo.insert(QStringLiteral("SQLite code"), QString::number(e.code));
-    e.userInfo.insert(QStringLiteral("reason"), e.message);
-    return e;
+    return db_->error();
 }
 
 void ManagedObjectContext::beginReadBatch() {

@@ -289,8 +289,8 @@ Result<int> collect(ManagedObjectContext& context, const QString& storePath,
         named.insert(originals.columnText(0));
     originals.reset();
     for (const QString& snapshot : snapshots) {
-        StoreFiles::Connection other(snapshot, StoreFiles::Connection::Inspect);
-        if (!other.ok())
+        SqliteDatabase other;
+        if (!other.open(snapshot, SqliteDatabase::Access::Inspect))
             return 0; // a snapshot that cannot be read might name any of them: none goes
         sqlite3_stmt* st = nullptr;
         if (sqlite3_prepare_v2(other.handle(), "SELECT DISTINCT original FROM OriginalLinks", -1,

@@ -167,8 +167,15 @@ void PersistentContainer::loadPersistentStores(const Completion& completion) {
         StoreFiles::sweepParts(Snapshots::folder(description.path));
         opened = open(description.path, true);
     }
-    if (completion)
-        completion(description, opened.ok() ? std::nullopt : std::optional<Error>(opened.error()));
+    if (!completion)
+        return;
+    if (opened.ok())
+        return completion(description, std::nullopt);
+    // Whatever kept it from opening, the error names the store it was about.
+    Error error = opened.error();
+    if (error.file.isEmpty())
+        error.file = description.path;
+    completion(description, error);
 }
 
 Result<void> PersistentContainer::loadStoreAt(const QString& path, bool snapshotFirst) {
@@ -251,12 +258,8 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
         return {};
     }
     auto failure = [&](int code, const QString& message) {
-        Error e;
-        e.code = code;
-        e.message = message;
-        e.userInfo.insert(QStringLiteral("SQLite code"), QString::number(code));
-        e.userInfo.insert(QStringLiteral("reason"), message);
-        e.userInfo.insert(QStringLiteral("file"), path);
+        Error e = Error::because(code, message);
+        e.file = path;
         // The file is left as it is for recovery: never deleted or overwritten. A context
         // already handed out keeps its (closed) connection.
         if (context_)
@@ -299,9 +302,8 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
     version = SqliteStatement();
     if (current > SchemaVersion)
         return failure(ErrorCode::StoreIncompatible,
-                       QStringLiteral("The model used to open the store is incompatible with the "
-                                      "one used to create the store: it was written by a newer "
-                                      "Pelvane (store version %1; this one reads up to %2)")
+                       QStringLiteral("The store was written by a newer Pelvane (store version "
+                                      "%1; this one reads up to %2)")
                            .arg(current)
                            .arg(SchemaVersion));
     if (db_->isReadOnly()) {

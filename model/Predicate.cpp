@@ -82,14 +82,14 @@ Predicate Predicate::format(const QString& format, const QVariantList& arguments
         for (const QString& part : format.split(andRe)) {
             const auto m = termRe.match(part);
             if (!m.hasMatch())
-                fatalError(QStringLiteral("Unable to parse the format string \"%1\"").arg(format),
+                fatalError(QStringLiteral("The predicate \"%1\" cannot be read").arg(format),
                            "Pelvane/Predicate", __LINE__);
             keys << m.captured(1);
         }
         it = parsed.insert(format, keys);
     }
     if (it->size() != arguments.size())
-        fatalError(QStringLiteral("Unable to parse the format string \"%1\"").arg(format),
+        fatalError(QStringLiteral("The predicate \"%1\" cannot be read").arg(format),
                    "Pelvane/Predicate", __LINE__);
     Predicate p;
     p.terms_.reserve(std::size_t(it->size()));
@@ -108,7 +108,7 @@ Predicate Predicate::andPredicate(const std::vector<Predicate>& predicates) {
 static int checkedIndex(const EntityDescription& e, const QString& key) {
     const int i = e.indexOf(key);
     if (i < 0)
-        fatalError(QStringLiteral("keypath %1 not found in entity %2").arg(key, e.name),
+        fatalError(QStringLiteral("The entity %2 has no attribute %1").arg(key, e.name),
                    "Pelvane/Predicate", __LINE__);
     return i;
 }

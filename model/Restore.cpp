@@ -3,6 +3,7 @@
 #include "model/Originals.h"
 #include "model/Seal.h"
 #include "model/Snapshots.h"
+#include "model/Sqlite.h"
 #include "model/StoreFiles.h"
 #include "model/StoreLock.h"
 #include "model/StoreSchema.h"
@@ -67,7 +68,7 @@ Result<QString> moveAside(const QString& real) {
         if (Files::status(real).exists)
             if (const auto moved = placeNew(real, aside); !moved.ok())
                 return moved.error();
-        Files::remove(real + QStringLiteral("-shm"));
+        removeCompanions(real);
         return aside;
     }
     return failure(
@@ -110,8 +111,9 @@ Result<std::shared_ptr<Candidate>> prepare(const QString& storePath, const QStri
                 copied.error().code,
                 QStringLiteral("Cannot copy %1: %2").arg(log.path, copied.error().message));
     {
-        Connection db(copy, Connection::Create);
-        if (!db.ok() || !db.exec("PRAGMA journal_mode=DELETE"))
+        SqliteDatabase db;
+        if (!db.open(copy, SqliteDatabase::Access::Create) ||
+            !db.exec(QStringLiteral("PRAGMA journal_mode=DELETE")))
             return failure(SQLITE_NOTADB,
                            QStringLiteral("%1 cannot be opened: %2").arg(file, db.error().message));
         const Result<StoreInfo> info = checkOpen(db, file);
@@ -153,9 +155,9 @@ Result<Restored> restore(const QString& storePath, Candidate& candidate) {
         // The log goes into the file first (and with the last connection, away): the file alone
         // is then the collection, to be kept whole.
         {
-            Connection current(real, Connection::Read);
-            if (current.ok())
-                current.exec("PRAGMA wal_checkpoint(TRUNCATE)");
+            SqliteDatabase current;
+            if (current.open(real, SqliteDatabase::Access::Read))
+                current.exec(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
         }
         const Result<qint64> held = coinCount(real);
         bool damaged = logOnly || (!held.ok() && isDamage(held.error()));
@@ -194,8 +196,7 @@ Result<Restored> restore(const QString& storePath, Candidate& candidate) {
     }
     pauseForTests("restore-swap");
     // Nothing of the old file may stay beside the new one: its log would be laid over it.
-    for (const char* part : {"-wal", "-shm", "-journal"})
-        Files::remove(real + QLatin1String(part));
+    removeCompanions(real);
     const QByteArray copyName = Files::nativeName(candidate.copy_);
     if (existed) {
         ::chmod(copyName.constData(), before.st_mode & 07777);

@@ -66,7 +66,8 @@ bool due(const QString& storePath, const QDateTime& now) {
 Result<QString> take(const QString& storePath, const QString& occasion, const QDate& today) {
     const QString dir = folder(storePath);
     if (!Files::makePath(dir))
-        return Error::because(14, QStringLiteral("Cannot make the folder %1").arg(dir));
+        return Error::because(ErrorCode::CantOpen,
+                              QStringLiteral("Cannot make the folder %1").arg(dir));
     QString name = kPrefix + today.toString(QStringLiteral("yyyy-MM-dd"));
     // A snapshot taken for an occasion never replaces one taken earlier, even in the same
     // second; the daily one takes the time too when the day has one already.

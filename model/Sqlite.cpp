@@ -203,6 +203,24 @@ bool SqliteDatabase::open(const QString& path) {
     return true;
 }
 
+bool SqliteDatabase::open(const QString& path, Access access) {
+    close();
+    readOnly_ = false;
+    if (access == Access::Read &&
+        !(Files::isWritable(path) && Files::isWritable(Files::folderOf(path))))
+        access = Access::Inspect;
+    const QByteArray name =
+        access == Access::Inspect ? sqliteFileUri(path) + "?mode=ro" : Files::nativeName(path);
+    const int flags = access == Access::Inspect ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI
+                      : access == Access::Read  ? SQLITE_OPEN_READWRITE
+                                                : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+    const int rc = sqlite3_open_v2(name.constData(), &db_, flags, nullptr);
+    readOnly_ = access == Access::Inspect;
+    if (db_)
+        setBusyTimeout(BusyTimeoutMs);
+    return rc == SQLITE_OK;
+}
+
 void SqliteDatabase::setBusyTimeout(int ms) {
     sqlite3_busy_timeout(db_, ms);
 }
@@ -219,6 +237,13 @@ bool SqliteDatabase::exec(const QString& sql) {
     return sqlite3_exec(db_, sql.toUtf8().constData(), nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
+std::optional<QString> SqliteDatabase::text(const QString& sql) {
+    SqliteStatement statement(db_, sql);
+    if (statement.step() != SQLITE_ROW)
+        return std::nullopt;
+    return statement.columnText(0);
+}
+
 int SqliteDatabase::errorCode() const {
     return db_ ? sqlite3_extended_errcode(db_) : SQLITE_CANTOPEN;
 }
@@ -226,6 +251,13 @@ int SqliteDatabase::errorCode() const {
 QString SqliteDatabase::errorMessage() const {
     return db_ ? QString::fromUtf8(sqlite3_errmsg(db_))
                : QStringLiteral("unable to open database file");
+}
+
+Error SqliteDatabase::error() const {
+    Error e = Error::because(errorCode(), errorMessage());
+    if (const char* file = db_ ? sqlite3_db_filename(db_, "main") : nullptr; file && *file)
+        e.file = Files::fromNativeName(QByteArray(file));
+    return e;
 }
 
 qint64 SqliteDatabase::lastInsertRowId() const {

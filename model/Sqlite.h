@@ -7,7 +7,9 @@
 #include <QTemporaryDir>
 #include <QVariant>
 #include <memory>
+#include <optional>
 
+struct Error;
 struct sqlite3;
 struct sqlite3_stmt;
 
@@ -61,12 +63,26 @@ public:
     // written (a read-only file, folder or medium) it is opened for reading only, without
     // creating anything beside it.
     bool open(const QString& path);
+    // What a connection opened for one job on a file (a backup, a restore, a check) does with it.
+    enum class Access {
+        Read,    // for reading; opened for writing where it can be, so that closing it takes
+                 // away the log it may have made beside a store
+        Inspect, // for reading only: a file given to be checked is never changed
+        Create,  // a new file
+    };
+    // Opens the file for one job; false with error() on failure.
+    bool open(const QString& path, Access access);
     bool isReadOnly() const { return readOnly_; }
     void setBusyTimeout(int ms);
     void close();
     bool exec(const QString& sql);
+    // The first column of the first row as text; nothing when the statement fails. The
+    // statement is finalised at once, so it holds no read open after it.
+    std::optional<QString> text(const QString& sql);
     int errorCode() const;
     QString errorMessage() const;
+    // The last failure as the program's error: SQLite's code and reason.
+    Error error() const;
     qint64 lastInsertRowId() const;
     sqlite3* handle() const { return db_; }
     // A statement prepared once and kept for the life of the connection.

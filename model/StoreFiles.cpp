@@ -26,43 +26,6 @@ Error failure(int code, const QString& message) {
     return Error::because(code, message);
 }
 
-Connection::Connection(const QString& path, Mode mode) {
-    if (mode == Read && !(Files::isWritable(path) && Files::isWritable(Files::folderOf(path))))
-        mode = Inspect;
-    const QByteArray name =
-        mode == Inspect ? sqliteFileUri(path) + "?mode=ro" : Files::nativeName(path);
-    const int flags = mode == Inspect ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI
-                      : mode == Read  ? SQLITE_OPEN_READWRITE
-                                      : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
-    rc_ = sqlite3_open_v2(name.constData(), &db_, flags, nullptr);
-    if (db_)
-        sqlite3_busy_timeout(db_, 2000);
-}
-
-Connection::~Connection() {
-    sqlite3_close_v2(db_);
-}
-
-Error Connection::error() const {
-    return failure(db_ ? sqlite3_extended_errcode(db_) : rc_,
-                   db_ ? QString::fromUtf8(sqlite3_errmsg(db_))
-                       : QStringLiteral("unable to open database file"));
-}
-
-std::optional<QString> Connection::text(const char* sql) const {
-    sqlite3_stmt* stmt = nullptr;
-    std::optional<QString> out;
-    if (sqlite3_prepare_v2(db_, sql, -1, &stmt, nullptr) == SQLITE_OK &&
-        sqlite3_step(stmt) == SQLITE_ROW)
-        out = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, 0)));
-    sqlite3_finalize(stmt);
-    return out;
-}
-
-bool Connection::exec(const char* sql) const {
-    return sqlite3_exec(db_, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
-}
-
 bool sameFile(const QString& a, const QString& b) {
     const QString ca = Files::canonicalName(a);
     return !ca.isEmpty() && ca == Files::canonicalName(b);
@@ -131,10 +94,15 @@ Result<void> placeNew(const QString& from, const QString& to) {
     return {};
 }
 
+void removeCompanions(const QString& path) {
+    for (const char* part : {"-journal", "-wal", "-shm"})
+        Files::remove(path + QLatin1String(part));
+}
+
 void removeWithCompanions(const QString& path) {
     letGoPart(path);
-    for (const char* part : {"", "-journal", "-wal", "-shm"})
-        Files::remove(path + QLatin1String(part));
+    Files::remove(path);
+    removeCompanions(path);
 }
 
 // A name beside the target for the copy being made; the file is created empty. On failure errno
@@ -279,36 +247,41 @@ Result<void> copyStore(const QString& sourcePath, const QString& destination,
             log.size > 0)
             if (const int error = copyFile(log.path, destination + QStringLiteral("-wal"), {}))
                 return systemError(QStringLiteral("Cannot copy %1").arg(log.path), error);
-        Connection copy(destination, Connection::Create);
-        if (!copy.ok() || !copy.exec("PRAGMA journal_mode=DELETE"))
+        SqliteDatabase copy;
+        if (!copy.open(destination, SqliteDatabase::Access::Create) ||
+            !copy.exec(QStringLiteral("PRAGMA journal_mode=DELETE")))
             return copy.error();
         return {};
     }
-    Connection source(sourcePath, Connection::Read);
-    if (!source.ok())
+    SqliteDatabase source;
+    if (!source.open(sourcePath, SqliteDatabase::Access::Read))
         return source.error();
     // Where the log holds nothing, the file is the store as of this read, and stays so while
     // the read lasts: a reader of the file alone keeps every checkpoint from writing into it.
     // It is then copied as it is, several times faster than page by page.
-    if (!source.exec("BEGIN") || !source.text("SELECT count(*) FROM sqlite_master"))
+    if (!source.exec(QStringLiteral("BEGIN")) ||
+        !source.text(QStringLiteral("SELECT count(*) FROM sqlite_master")))
         return source.error();
     if (const Files::Status log = Files::status(sourcePath + QStringLiteral("-wal"));
         !log.exists || log.size == 0) {
         const int error = copyFile(sourcePath, destination, progress);
-        source.exec("COMMIT");
+        source.exec(QStringLiteral("COMMIT"));
         if (error)
             return systemError(QStringLiteral("Cannot copy %1").arg(sourcePath), error);
-        Connection copy(destination, Connection::Create);
-        if (!copy.ok() || !copy.exec("PRAGMA journal_mode=DELETE"))
+        SqliteDatabase copy;
+        if (!copy.open(destination, SqliteDatabase::Access::Create) ||
+            !copy.exec(QStringLiteral("PRAGMA journal_mode=DELETE")))
             return copy.error();
         return {};
     }
-    source.exec("COMMIT");
+    source.exec(QStringLiteral("COMMIT"));
     // Pages read where they lie; the copy written without a journal of its own, since it is
     // checked whole before it takes any name that matters.
-    source.exec("PRAGMA mmap_size=1073741824");
-    Connection copy(destination, Connection::Create);
-    if (!copy.ok() || !copy.exec("PRAGMA journal_mode=OFF") || !copy.exec("PRAGMA synchronous=OFF"))
+    source.exec(QStringLiteral("PRAGMA mmap_size=1073741824"));
+    SqliteDatabase copy;
+    if (!copy.open(destination, SqliteDatabase::Access::Create) ||
+        !copy.exec(QStringLiteral("PRAGMA journal_mode=OFF")) ||
+        !copy.exec(QStringLiteral("PRAGMA synchronous=OFF")))
         return copy.error();
     sqlite3_backup* backup = sqlite3_backup_init(copy.handle(), "main", source.handle(), "main");
     if (!backup)
@@ -329,15 +302,16 @@ Result<void> copyStore(const QString& sourcePath, const QString& destination,
         return fromSource.code != SQLITE_OK ? fromSource : copy.error();
     }
     // A copy stands alone: no write-ahead log beside it.
-    if (!copy.exec("PRAGMA journal_mode=DELETE"))
+    if (!copy.exec(QStringLiteral("PRAGMA journal_mode=DELETE")))
         return copy.error();
     return {};
 }
 
-std::optional<QString> integrityProblem(const Connection& db, Check check) {
-    db.exec("PRAGMA mmap_size=1073741824");
+std::optional<QString> integrityProblem(SqliteDatabase& db, Check check) {
+    db.exec(QStringLiteral("PRAGMA mmap_size=1073741824"));
     const std::optional<QString> verdict =
-        db.text(check == Check::Quick ? "PRAGMA quick_check(1)" : "PRAGMA integrity_check(1)");
+        db.text(check == Check::Quick ? QStringLiteral("PRAGMA quick_check(1)")
+                                      : QStringLiteral("PRAGMA integrity_check(1)"));
     if (!verdict)
         return db.error().message;
     if (*verdict != QLatin1String("ok"))
@@ -345,8 +319,8 @@ std::optional<QString> integrityProblem(const Connection& db, Check check) {
     return {};
 }
 
-Result<qint64> countCoins(const Connection& db) {
-    const std::optional<QString> n = db.text("SELECT count(*) FROM Coins");
+Result<qint64> countCoins(SqliteDatabase& db) {
+    const std::optional<QString> n = db.text(QStringLiteral("SELECT count(*) FROM Coins"));
     if (!n)
         return db.error();
     return n->toLongLong();

@@ -1,6 +1,6 @@
 #pragma once
-// The file work behind backups and restores: connections opened for one job, copies of a store
-// as of one moment, and renames made for good.
+// The file work behind backups and restores: copies of a store as of one moment, and renames
+// made for good.
 #include "platform/core/Error.h"
 
 #include <QString>
@@ -8,7 +8,7 @@
 #include <functional>
 #include <optional>
 
-struct sqlite3;
+class SqliteDatabase;
 
 namespace StoreFiles {
 
@@ -18,32 +18,6 @@ using Progress = std::function<void(int done, int total)>;
 Error failure(int code, const QString& message);
 // The system's reason for a failed call (by default the last one), after what was being done.
 Error systemError(const QString& doing, int error = errno);
-
-// One connection, closed whatever way the function leaves.
-class Connection {
-public:
-    enum Mode {
-        Read,    // for reading; opened for writing where it can be, so that closing it takes
-                 // away the log it may have made beside a store
-        Inspect, // for reading only: a file given to be checked is never changed
-        Create,  // a new file
-    };
-    Connection(const QString& path, Mode mode);
-    ~Connection();
-    Connection(const Connection&) = delete;
-    Connection& operator=(const Connection&) = delete;
-
-    bool ok() const { return rc_ == 0; }
-    sqlite3* handle() const { return db_; }
-    Error error() const;
-    // The first column of the first row as text; nothing when the statement fails.
-    std::optional<QString> text(const char* sql) const;
-    bool exec(const char* sql) const;
-
-private:
-    sqlite3* db_ = nullptr;
-    int rc_ = 0;
-};
 
 // Whether two paths name one file.
 bool sameFile(const QString& a, const QString& b);
@@ -57,6 +31,8 @@ void sweepParts(const QString& folder);
 Result<void> replace(const QString& from, const QString& to);
 // The same where nothing may be at `to` yet: an existing file there is never replaced.
 Result<void> placeNew(const QString& from, const QString& to);
+// Removes the journal, log and index SQLite keeps beside a database file.
+void removeCompanions(const QString& path);
 // Removes a database file and the journal, log and index beside it.
 void removeWithCompanions(const QString& path);
 // The store at `sourcePath` as of one moment, into the new file `destination`, standing alone
@@ -71,7 +47,7 @@ void pauseForTests(const char* point);
 // SQLite's verdict on the open database when it is not "ok": its integrity check, or the quick
 // check (every page and record read, without the index cross-checks).
 enum class Check { Whole, Quick };
-std::optional<QString> integrityProblem(const Connection& db, Check check = Check::Whole);
-Result<qint64> countCoins(const Connection& db);
+std::optional<QString> integrityProblem(SqliteDatabase& db, Check check = Check::Whole);
+Result<qint64> countCoins(SqliteDatabase& db);
 
 } // namespace StoreFiles

@@ -29,8 +29,7 @@ void saveRecord(const ObjectPtr& record) {
     if (!context)
         return;
     if (const auto error = context->save(); !error.ok())
-        Console::print(QStringLiteral("Could not save. %1, %2")
-                           .arg(error.error().description(), error.error().userInfoDescription()));
+        Console::print(QStringLiteral("Could not save. %1").arg(error.error().stopText()));
 }
 
 } // namespace Application

@@ -42,6 +42,7 @@ void choose(Presentation presentation) {
     for (const QPointer<CoinListViewSwitch>& s : std::as_const(switches()))
         if (s)
             s->apply();
+    emit CoinListViewChanges::instance().changed();
 }
 
 Presentation forWindowWidth(int width) {
@@ -140,6 +141,11 @@ QString rowText(const Coins& coin, qint64 quantity) {
 
 } // namespace CoinListView
 
+CoinListViewChanges& CoinListViewChanges::instance() {
+    static CoinListViewChanges changes;
+    return changes;
+}
+
 CoinListViewSwitch::CoinListViewSwitch(ViewController* screen, TableView* table)
     : QObject(screen)
     , screen_(screen)
@@ -184,7 +190,10 @@ void CoinListViewSwitch::show(CoinListView::Presentation presentation) {
     const bool table = presentation == CoinListView::Presentation::Table;
     grid_->setChecked(table);
     cards_->setChecked(!table);
+    const bool changed = table_->presentation() != presentation;
     table_->setPresentation(presentation);
+    if (changed)
+        emit CoinListViewChanges::instance().changed();
     // The table is made on first use; a reader hears it by the same name as the cards.
     if (table && table_->gridView()->accessibleName().isEmpty()) {
         table_->gridView()->setAccessibleName(tr("Coins"));

@@ -40,6 +40,16 @@ QVariant cell(const Coins& coin, int column, int role, qint64 quantity, CoinPict
 QString rowText(const Coins& coin, qint64 quantity);
 } // namespace CoinListView
 
+// Says when the lists' view may have changed: a choice made anywhere, or a list that followed
+// its window's width.
+class CoinListViewChanges : public QObject {
+    Q_OBJECT
+public:
+    static CoinListViewChanges& instance();
+signals:
+    void changed();
+};
+
 // A list screen's view switch: the "View" menu of its bar and the presentation of its table,
 // following the choice made on any list (or the window's width while there is none).
 class CoinListViewSwitch : public QObject {

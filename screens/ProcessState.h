@@ -8,28 +8,18 @@
 
 class Coins;
 
-// One text variable per text attribute of the current coin. They are texts, never absent: an
-// absent attribute is copied as "", which a predicate matches only with a stored "".
+// The current coin's texts that other screens read. They are texts, never absent: an absent
+// attribute is copied as "", which a predicate matches only with a stored "".
 extern QString SelectedCountry;
 extern QString SelectedDenomination;
-extern QString SelectedDescription;
-extern QString SelectedDesigner;
 extern QString SelectedEdge;
 extern QString SelectedGrade;
-extern QString SelectedMintLocation;
 extern QString SelectedMintMark;
 extern QString SelectedNotes;
-extern QString SelectedPeriod;
 extern QString SelectedSerialNumber;
 extern QString SelectedStrikeCharacter;
 
-// One number variable per number attribute.
-extern double SelectedDiameter;
-extern double SelectedThickness;
-extern double SelectedWeight;
-extern float SelectedValue;
-extern float SelectedTotalValue;
-extern qint16 SelectedQuantity;
+// Its year, which the edit and notes screens look coins up by.
 extern qint16 SelectedYear;
 // The id the edit screen saves to; written by the main list only.
 extern qint16 SelectedCoinID;
@@ -45,8 +35,8 @@ extern QString CalledFromList;
 // Written by the group screens' sort buttons, read by the print screen.
 extern bool SortAscending;
 
-// Every attribute of the coin opened from a coin list (not SelectedCoinID, which the main list
-// alone writes), with its decoded pictures.
+// The coin opened from a coin list, with its decoded pictures (not SelectedCoinID, which the
+// main list alone writes).
 void copyIntoCurrentCoin(const Coins& coin);
 
 // Back to the values at process start.

@@ -1,7 +1,6 @@
 #pragma once
 // The program's one error type: a code, the reason a person reads (SQLite's or the system's),
 // and what was being done. A function that can fail returns a Result: its value, or the error.
-#include <QMap>
 #include <QString>
 
 #include <optional>
@@ -22,9 +21,9 @@ constexpr int StoreIncompatible = 134100; // written by a newer program
 
 struct Error {
     int code = 0;
-    QString message;                 // why, as a person reads it
-    QString doing;                   // what was being done ("writing FILE"), when it was said
-    QMap<QString, QString> userInfo; // further details the fatal stops print
+    QString message; // why, as a person reads it
+    QString doing;   // what was being done ("writing FILE"), when it was said
+    QString file;    // the database it concerns, when it concerns one
 
     // An error with its code, its reason and what was being done.
     static Error because(int code, QString message, QString doing = {}) {
@@ -34,9 +33,12 @@ struct Error {
         e.doing = std::move(doing);
         return e;
     }
-    // As the console and the fatal stops print a store's error.
+    // As the console prints a store's error: the reason and the code.
     QString description() const;
-    QString userInfoDescription() const;
+    // As a designed stop prints a store's error after its fixed words: what went wrong in plain
+    // words with SQLite's reason, the file and the code ("the collection is damaged (database
+    // disk image is malformed), store /home/ann/Pelvane.sqlite, SQLite code 11").
+    QString stopText() const;
     // Another connection held the lock the store needed.
     bool isBusy() const {
         return (code & 0xff) == ErrorCode::Busy || (code & 0xff) == ErrorCode::Locked;

@@ -1,5 +1,7 @@
 #include "platform/core/Fatal.h"
 
+#include "platform/core/Error.h"
+
 #include <cstdio>
 #include <cstdlib>
 #include <mutex>
@@ -33,6 +35,10 @@ QString report(const QString& message, const char* source, int line) {
         .arg(message);
 }
 } // namespace Fatal
+
+void unresolvedError(const Error& error, StopSite at) {
+    fatalError(QStringLiteral("Unresolved error ") + error.stopText(), at);
+}
 
 void fatalError(const QString& message, const char* source, int line) {
     Fatal::Handler handler;

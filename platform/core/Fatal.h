@@ -1,6 +1,8 @@
 #pragma once
 #include <QString>
 
+struct Error;
+
 #include <functional>
 
 // Ends the process: hands the stop to the current handler, which by default writes
@@ -25,6 +27,8 @@ inline constexpr StopSite ImportNumber{"Pelvane/ImportViewController", 271};
 [[noreturn]] inline void fatalError(const QString& message, StopSite at) {
     fatalError(message, at.source, at.line);
 }
+// The store's designed stop: "Unresolved error " and the cause (Error::stopText()).
+[[noreturn]] void unresolvedError(const Error& error, StopSite at);
 
 namespace Fatal {
 // What a designed stop does instead of the default: the window session shows the message

@@ -16,8 +16,9 @@ QHash<QString, Entry>& table() {
 const Entry& entry(const QString& identifier) {
     auto it = table().constFind(identifier);
     if (it == table().cend())
-        fatalError(QStringLiteral("Receiver has no segue with identifier '%1'").arg(identifier),
-                   "Pelvane/Storyboard", __LINE__);
+        fatalError(
+            QStringLiteral("No transition named \"%1\" leads from this screen").arg(identifier),
+            "Pelvane/Storyboard", __LINE__);
     return *it;
 }
 } // namespace

@@ -157,7 +157,7 @@ void EditViewController::saveForm() {
         const CoinFormTexts texts = formTexts();
         keepOriginals(*managedObjectContext, texts);
         CoinFormRules::applyEditForm(*Results.first(), texts);
-        managedObjectContext->save(); // a failure is dropped without a word
+        managedObjectContext->save(); // a failure is dropped: the edit screen reports none
     }
     // What the form shows now is what was saved.
     rememberOpeningState();

@@ -12,6 +12,7 @@
 #include "screens/Application.h"
 #include "screens/exchange/RestoreFlow.h"
 
+#include <QAction>
 #include <QDate>
 #include <QDir>
 #include <QFutureWatcher>
@@ -43,6 +44,10 @@ using Outcome = std::pair<bool, QString>;
 
 ImportExportViewController::ImportExportViewController(QWidget* parent)
     : ViewController(parent)
+    , ExportAction(new QAction(tr("Export Coins"), this))
+    , ImportAction(new QAction(tr("Import Coins"), this))
+    , BackupAction(new QAction(tr("Back Up Collection\u2026"), this))
+    , RestoreAction(new QAction(tr("Restore From Backup\u2026"), this))
     , ExportButton(new QPushButton(tr("Export Coins"), this))
     , ImportButton(new QPushButton(tr("Import Coins"), this))
     , BackupButton(new QPushButton(tr("Back Up Collection\u2026"), this))
@@ -72,12 +77,20 @@ ImportExportViewController::ImportExportViewController(QWidget* parent)
     BackupProgressView->setVisible(false);
     for (QPushButton* b : {ExportButton, ImportButton, BackupButton, RestoreButton})
         b->setMinimumHeight(48);
-    connect(ExportButton, &QPushButton::clicked, this, [this] { performSegue("ExportCoins"); });
-    connect(ImportButton, &QPushButton::clicked, this, [this] { performSegue("ImportCoins"); });
-    connect(BackupButton, &QPushButton::clicked, this,
-            &ImportExportViewController::BackUpCollection);
-    connect(RestoreButton, &QPushButton::clicked, this,
+    connect(ExportAction, &QAction::triggered, this, [this] { performSegue("ExportCoins"); });
+    connect(ImportAction, &QAction::triggered, this, [this] { performSegue("ImportCoins"); });
+    connect(BackupAction, &QAction::triggered, this, &ImportExportViewController::BackUpCollection);
+    connect(RestoreAction, &QAction::triggered, this,
             &ImportExportViewController::RestoreFromBackup);
+    // Each button presses its action and is enabled as the action is.
+    using Pair = std::pair<QPushButton*, QAction*>;
+    for (auto [button, action] :
+         {Pair{ExportButton, ExportAction}, Pair{ImportButton, ImportAction},
+          Pair{BackupButton, BackupAction}, Pair{RestoreButton, RestoreAction}}) {
+        connect(button, &QPushButton::clicked, action, &QAction::trigger);
+        connect(action, &QAction::changed, button,
+                [button, action] { button->setEnabled(action->isEnabled()); });
+    }
 }
 
 void ImportExportViewController::viewDidLoad() {
@@ -88,8 +101,8 @@ void ImportExportViewController::viewDidLoad() {
 
 void ImportExportViewController::setBusy(bool busy) {
     busy_ = busy;
-    for (QPushButton* b : {ExportButton, ImportButton, BackupButton, RestoreButton})
-        b->setEnabled(!busy);
+    for (QAction* a : {ExportAction, ImportAction, BackupAction, RestoreAction})
+        a->setEnabled(!busy);
     BackupProgressView->setVisible(busy);
     BackupProgressView->setProgress(0);
 }

@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 class ProgressView;
+class QAction;
 
 class ImportExportViewController : public ViewController {
     Q_OBJECT
@@ -21,6 +22,9 @@ public:
     // A backup or restore is under way.
     bool isBusy() const { return busy_; }
 
+    // What the buttons do, shared with the menu bar's File menu: disabled while a backup or
+    // restore runs, for the buttons and the menu alike.
+    QAction *ExportAction, *ImportAction, *BackupAction, *RestoreAction;
     QPushButton *ExportButton, *ImportButton, *BackupButton, *RestoreButton;
     ProgressView* BackupProgressView;
 

@@ -225,7 +225,7 @@ qint16 GroupTableViewController::countOf(const QString& value) {
     refreshCounts();
     const qint64 n = counts_.value(value);
     if (n > 32767)
-        fatalError(QStringLiteral("Not enough bits to represent the passed value"),
+        fatalError(QStringLiteral("A count above 32767 does not fit in 16 bits"),
                    "Pelvane/GroupTableViewController", __LINE__);
     return qint16(n);
 }

@@ -72,7 +72,7 @@ void ReferenceTableViewController::fetch() {
     request.sortDescriptors = {{kind_.attribute, SortAsc.value_or(true)}};
     const QList<ObjectPtr> fetched = fetchOrPrint(*context, request).valueOr({});
     if (fetched.size() > 32767)
-        fatalError(QStringLiteral("Not enough bits to represent the passed value"), kSource,
+        fatalError(QStringLiteral("A count above 32767 does not fit in 16 bits"), kSource,
                    __LINE__);
     List = fetched;
     FilteredList = fetched;

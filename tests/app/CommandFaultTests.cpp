@@ -176,8 +176,8 @@ TEST_F(PelvaneTest, TheImportKeepsOnlyPicturesTheExportCanWrite) {
     ASSERT_TRUE(large.save(&buffer, "JPEG", 30));
     const QByteArray whole = jpeg.toBase64();
     const QByteArray cut = whole.left(64); // valid base64, a header cut short
-    // No quantization tables of its own, after a picture that has them: it was once read with
-    // the tables of the picture before.
+    // No quantization tables of its own, after a picture that has them: it must not be read
+    // with the tables of the picture before it.
     const QByteArray tableless =
         readFile(PELVANE_TEST_DATA "/pictures/no-tables-read-with-the-last-pictures-tables.jpg")
             .toBase64();

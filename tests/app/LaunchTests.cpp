@@ -90,7 +90,8 @@ TEST_F(AppTest, StoreFailuresAreFatalWithTheirSourceAndLine) {
             relaunch();
             ctx();
         },
-        "Pelvane/AppDelegate:46: Fatal error: Unresolved error .*, \\[");
+        "Pelvane/AppDelegate:46: Fatal error: Unresolved error the collection cannot be opened "
+        "\\(unable to open database file\\), store .*/Pelvane.sqlite, SQLite code 14");
 }
 
 TEST_F(AppTest, FailedSaveContextIsFatal) {
@@ -103,7 +104,8 @@ TEST_F(AppTest, FailedSaveContextIsFatal) {
               SQLITE_OK);
     c->setDenomination("2 Cents");
     EXPECT_DEATH(delegate->saveContext(),
-                 "Pelvane/AppDelegate:63: Fatal error: Unresolved error .*disk says no");
+                 "Pelvane/AppDelegate:63: Fatal error: Unresolved error the collection refused the "
+                 "change \\(disk says no\\), store .*/Pelvane.sqlite, SQLite code 1811");
     // Without changes there is nothing to save and nothing fails.
     ctx().deleteObject(c);
     c.reset();

@@ -165,7 +165,7 @@ TEST_F(StoreTest, ReaderMergesByTheFourKeys) {
 }
 
 // Texts are taken from the file's bytes without going through UTF-16, yet saved, read and
-// compared exactly as the text they spell; bytes that are no UTF-8 become U+FFFD as before.
+// compared exactly as the text they spell; bytes that are no UTF-8 become U+FFFD.
 TEST_F(StoreTest, ReaderSavesTextsAsTheTextTheySpell) {
     const QByteArray file =
         "[PELVANE]\n"

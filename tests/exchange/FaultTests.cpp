@@ -169,10 +169,12 @@ TEST(Fatal, HandlerSeesTheDesignedStop) {
     const Fatal::Handler previous = Fatal::setHandler(
         [](const QString& m, const char* s, int l) { throw Stop{Fatal::report(m, s, l)}; });
     try {
-        fatalError(QStringLiteral("Index out of range"), "Pelvane/ImportViewController", 262);
+        fatalError(QStringLiteral("A line has more than 22 fields"), "Pelvane/ImportViewController",
+                   262);
         ADD_FAILURE() << "went on past a fatal stop";
     } catch (const Stop& stop) {
-        EXPECT_EQ(stop.text, "Pelvane/ImportViewController:262: Fatal error: Index out of range");
+        EXPECT_EQ(stop.text, "Pelvane/ImportViewController:262: Fatal error: A line has more than "
+                             "22 fields");
     }
     Fatal::setHandler(previous);
     EXPECT_DEATH(fatalError(QStringLiteral("x"), "here", 1), "here:1: Fatal error: x");

@@ -31,8 +31,8 @@ template <typename Entry> QMap<QString, Outcome> runCorpus(const char* folder, E
 // The fuzz targets' seed corpus and every input that once failed, run as the targets run them.
 TEST_F(PelvaneTest, FuzzCorpusRunsThroughTheFuzzEntries) {
     const auto exchange = runCorpus("exchange", FuzzEntries::mergeAndExport);
-    // Pictures the export could not write once stopped every export; the import now keeps
-    // the coin without them.
+    // A picture the export could not write would stop every export: the import keeps the coin
+    // without it.
     EXPECT_EQ(exchange.value("forged-picture-size-is-dropped-at-import.csv"), Outcome::Done);
     EXPECT_EQ(exchange.value("back-picture-of-record-digits-is-dropped-at-import.csv"),
               Outcome::Done);

@@ -13,6 +13,7 @@
 #include "screens/valuation/ValuationViewController.h"
 #include <QFileInfo>
 
+#include <QActionGroup>
 #include <QDropEvent>
 #include <QMenuBar>
 #include <QMimeData>
@@ -54,6 +55,11 @@ protected:
     void settle() {
         QApplication::processEvents();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    // The alert a worker's result brings, once it is there.
+    static QString alertShown() {
+        EXPECT_TRUE(waitUntil([] { return AlertController::current() != nullptr; }, 5000));
+        return alertText();
     }
 };
 
@@ -131,6 +137,105 @@ TEST_F(DesktopWindowTest, TheMenuBarLeadsWhereTheStartScreensButtonsDo) {
     ASSERT_NE(topAs<MainListTableViewController>(), nullptr);
     QTest::keyClick(window.get(), Qt::Key_Q, Qt::ControlModifier);
     EXPECT_FALSE(window->isVisible());
+}
+
+// The File menu presses the Import / Export screen's own actions: a backup and a restore from
+// the menu run as from the buttons, and while one runs the menu's entries are disabled with the
+// buttons. The commands carry the platform's standard keys.
+TEST_F(DesktopWindowTest, TheFileMenuActsThroughTheScreensOwnActions) {
+    addCoin("Dime", 1964);
+    auto* file = qobject_cast<QMenu*>(entry(bar, "File", "Quit")->parent());
+    ASSERT_NE(file, nullptr);
+    fakes.documentPicker->next = path("menu.sqlite");
+    entry(bar, "File", "Back Up Collection\u2026")->trigger();
+    auto* hub = topAs<ImportExportViewController>();
+    ASSERT_NE(hub, nullptr);
+    ASSERT_TRUE(hub->isBusy());
+    emit file->aboutToShow();
+    for (const char* title : {"Import Coins\u2026", "Export Coins\u2026",
+                              "Back Up Collection\u2026", "Restore From Backup\u2026"})
+        EXPECT_FALSE(entry(bar, "File", title)->isEnabled()) << title;
+    EXPECT_FALSE(hub->BackupButton->isEnabled());
+    // A second press while the first runs does nothing: the screen's action is disabled.
+    fakes.documentPicker->suggested.clear();
+    entry(bar, "File", "Back Up Collection\u2026")->trigger();
+    EXPECT_TRUE(fakes.documentPicker->suggested.isEmpty());
+    emit file->aboutToHide();
+    EXPECT_EQ(alertShown(), "Backup Complete / Backed up 1 coin to " + path("menu.sqlite"));
+    dismissAlert();
+    emit file->aboutToShow();
+    EXPECT_TRUE(entry(bar, "File", "Restore From Backup\u2026")->isEnabled());
+    EXPECT_TRUE(hub->RestoreButton->isEnabled());
+    emit file->aboutToHide();
+
+    writeFile(path("notes.txt"), "no collection at all");
+    fakes.documentPicker->next = path("notes.txt");
+    entry(bar, "File", "Restore From Backup\u2026")->trigger();
+    EXPECT_EQ(top(), hub); // the screen in front, not a new one
+    EXPECT_EQ(alertShown(), "Restore Failed / " + path("notes.txt") +
+                                " is not a Pelvane backup: it is no SQLite database");
+    dismissAlert();
+    entry(bar, "File", "Export Coins\u2026")->trigger();
+    EXPECT_EQ(top()->metaObject()->className(), QByteArray("ExportViewController"));
+
+    auto keys = [this](const char* menu, const char* title) {
+        return entry(bar, menu, title)->shortcuts();
+    };
+    EXPECT_TRUE(keys("File", "Quit").contains(QKeySequence("Ctrl+Q")));
+    EXPECT_TRUE(keys("Edit", "Undo").contains(QKeySequence("Ctrl+Z")));
+    EXPECT_TRUE(keys("Edit", "Redo").contains(QKeySequence("Ctrl+Shift+Z")));
+    EXPECT_TRUE(keys("Help", "Pelvane Overview").contains(QKeySequence("F1")));
+    using Command = std::tuple<const char*, const char*, QKeySequence::StandardKey>;
+    for (auto [menu, title, standard] :
+         {Command{"File", "Quit", QKeySequence::Quit}, Command{"Edit", "Undo", QKeySequence::Undo},
+          Command{"Edit", "Redo", QKeySequence::Redo},
+          Command{"Help", "Pelvane Overview", QKeySequence::HelpContents}})
+        for (const QKeySequence& k : QKeySequence::keyBindings(standard))
+            EXPECT_TRUE(keys(menu, title).contains(k)) << title;
+}
+
+// The View menu's check mark shows the lists' view, whoever switched it: the menu, a list's own
+// View button, or the window's width while nobody has chosen.
+TEST_F(DesktopWindowTest, TheViewMenuMarksTheViewTheListsShow) {
+    addCoin("Dime", 1964);
+    QAction* cards = entry(bar, "View", "Cards");
+    QAction* table = entry(bar, "View", "Table");
+    ASSERT_TRUE(cards && table);
+    EXPECT_TRUE(cards->isCheckable() && table->isCheckable());
+    EXPECT_EQ(cards->actionGroup(), table->actionGroup());
+    EXPECT_EQ(cards->actionGroup()->exclusionPolicy(), QActionGroup::ExclusionPolicy::Exclusive);
+    // Nobody has chosen: a window 1280 pixels wide shows the table, a narrow one cards.
+    EXPECT_TRUE(table->isChecked());
+    window->resize(800, 800);
+    settle();
+    EXPECT_TRUE(cards->isChecked());
+    EXPECT_FALSE(table->isChecked());
+    window->resize(1280, 800);
+    settle();
+    EXPECT_TRUE(table->isChecked());
+
+    entry(bar, "Go", "List Coins")->trigger();
+    auto* list = topAs<MainListTableViewController>();
+    ASSERT_NE(list, nullptr);
+    EXPECT_TRUE(list->viewSwitch->showsTable());
+    // The list's own View button chooses cards: the menu bar follows.
+    for (QAction* a : list->viewSwitch->menu()->actions())
+        if (a->text() == "Cards")
+            a->trigger();
+    EXPECT_FALSE(list->viewSwitch->showsTable());
+    EXPECT_TRUE(cards->isChecked());
+    EXPECT_FALSE(table->isChecked());
+    // And the menu bar's choice shows on the list and in its own menu.
+    table->trigger();
+    EXPECT_TRUE(list->viewSwitch->showsTable());
+    EXPECT_TRUE(table->isChecked());
+    EXPECT_FALSE(cards->isChecked());
+    for (QAction* a : list->viewSwitch->menu()->actions())
+        EXPECT_EQ(a->isChecked(), a->text() == "Table") << qPrintable(a->text());
+    // A choice holds at any width.
+    window->resize(800, 800);
+    settle();
+    EXPECT_TRUE(table->isChecked());
 }
 
 TEST_F(DesktopWindowTest, EnterAndKeypadEnterPressTheFocusedButton) {

@@ -40,12 +40,29 @@ TEST(ImageCoding, PhotosAreStoredAsSquareJpegs) {
 TEST(ImageCoding, StrictBase64) {
     EXPECT_EQ(ImageCoding::strictBase64Decode("TWFu"), QByteArray("Man"));
     EXPECT_EQ(ImageCoding::strictBase64Decode("TWE="), QByteArray("Ma"));
+    EXPECT_EQ(ImageCoding::strictBase64Decode("TQ=="), QByteArray("M"));
     EXPECT_EQ(ImageCoding::strictBase64Decode(""), QByteArray(""));
-    // A picture's base64 followed by a record number ("TWFu7") is (usually) no longer base64.
+    // Bits left over in the last character are not looked at.
+    EXPECT_EQ(ImageCoding::strictBase64Decode("TWF="), QByteArray("Ma"));
+    EXPECT_EQ(ImageCoding::strictBase64Decode("TR=="), QByteArray("M"));
+    // A picture's base64 followed by a record number ("TWFu7") is, as a rule, not base64.
+    // Refused: a length that is not a multiple of four (padding left out included), padding
+    // anywhere but at the end or more than two of it, blanks and line ends anywhere, the URL
+    // alphabet, and anything outside the alphabet.
     for (const char* bad :
-         {"TWF", "TW=u", "TWFu7", "TWF*", "TWE=TWFu", "TW\nFu", "====", "A===", "TW==TWFu", "TWé="})
+         {"TWF",      "TW",       "T",      "TWFu7", "TWFu1",  "TQ=",    "TQ===",   "TW=u",
+          "TWE=TWFu", "TW==TWFu", "====",   "A===",  "TW\nFu", "TWFu\n", "TWE=\n",  " TWFu",
+          "TWFu ",    "TW Fu",    "TW\tFu", "TW-_",  "TWF*",   "TWé=",   "TWFu\r\n"})
         EXPECT_FALSE(ImageCoding::strictBase64Decode(bad).has_value()) << bad;
+    EXPECT_EQ(ImageCoding::strictBase64Decode("TW+/"), QByteArray("M\x6f\xbf"));
     EXPECT_TRUE(ImageCoding::strictBase64Decode("1234").has_value());
+    EXPECT_EQ(ImageCoding::strictBase64Decode("TWFu1234"), QByteArray("Man\xd7\x6d\xf8"));
+    // Qt's own decoder, even when told to stop at errors, takes a text without its padding,
+    // and so a picture with a record number after it: the rule above cannot be left to it.
+    for (const char* unpadded : {"TWF", "TWFu7"})
+        EXPECT_TRUE(
+            QByteArray::fromBase64Encoding(unpadded, QByteArray::AbortOnBase64DecodingErrors))
+            << unpadded;
     // Whatever the bytes, decoding gives them back.
     QByteArray bytes;
     for (int n = 0; n < 300; ++n) {

@@ -215,7 +215,7 @@ TEST_F(DollarScreenTest, NumberFieldsTakeTheLocalesDecimalSeparatorAndSayWhatThe
     EXPECT_FLOAT_EQ(coins[0]->value(), 2.5f);
     EXPECT_EQ(coins[0]->year(), 1884);
 
-    // Under English the comma stays refused, as it always was.
+    // Under English the comma is refused.
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     ASSERT_NE(topAs<MainListTableViewController>(), nullptr);
     top()->performSegue("AddCoin");

@@ -197,7 +197,6 @@ TEST_P(BreakdownScreenTest, ATapFillsTheCurrentCoinOpensItAndComesBackWithoutAFe
     EXPECT_EQ(SelectedYear, 1964);
     EXPECT_EQ(SelectedCountry, "USA");
     EXPECT_EQ(SelectedMintMark, "P");
-    EXPECT_EQ(SelectedValue, 0.5f);
     EXPECT_EQ(SelectedCoinID, 0); // the main list's alone
     EXPECT_EQ(edit->YearTextField->text(), "1964");
 

@@ -104,7 +104,7 @@ protected:
 
 // The shared report holds the photo at 300 dpi in its 4 : 3 shape, drawn inside the square box
 // the stored picture fills; the coin without an original and the one whose original is damaged
-// carry their stored pictures as before, and the damaged photo is named once on the console.
+// carry their stored pictures, and the damaged photo is named once on the console.
 TEST_F(OriginalsReportTest, TheReportDrawsOriginalsAtPaperDetailAndFallsBackToTheStoredPicture) {
     BreakdownTableViewController* b = openBreakdown(0, "Dime");
     Console::startCapture();
