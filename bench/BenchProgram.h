@@ -56,7 +56,7 @@ namespace BenchCollection {
 using BenchProgram::ms;
 
 // The program on a freshly built benchmark collection; owns the application object too,
-// started on the offscreen platform.
+// started on the offscreen platform unless a display was chosen (a run a reader listens to).
 struct Program {
     Program(int& argc, char** argv, int coins)
         : app(offscreen(argc), argv) {
@@ -66,7 +66,8 @@ struct Program {
         window = &running->window;
     }
     static int& offscreen(int& argc) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        if (qgetenv("QT_QPA_PLATFORM") != "xcb")
+            qputenv("QT_QPA_PLATFORM", "offscreen");
         return argc;
     }
     QApplication app;

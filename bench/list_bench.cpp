@@ -1,14 +1,19 @@
 // Main-list figures on a collection of 32,000 coins with pictures: opening the list, one
 // search keystroke for a text key and a numeric key, a sort choice. One figure per line.
 // The open and the keystrokes are then measured again in a second run of this program with
-// accessibility on, reading the rows in view after each paint as a screen reader does.
+// accessibility on: under bench/with-reader.sh through the platform's bridge to a reader on the
+// accessibility bus; elsewhere reading the rows in view after each paint as a reader does.
 #include "BenchProgram.h"
 #include "platform/kit/NavigationController.h"
 #include "screens/list/MainListTableViewController.h"
 
 #include <QAccessible>
 #include <QAccessibleInterface>
+#include <QKeyEvent>
 #include <QProcess>
+
+#include <algorithm>
+#include <vector>
 
 using namespace BenchCollection;
 
@@ -46,12 +51,39 @@ int readRowsInView(TableView* table) {
 int main(int argc, char** argv) {
     const int n = 32000;
     const bool readerRun = qEnvironmentVariableIsSet(kReaderRun);
+    // With a reader listening on the accessibility bus only the figures with accessibility on
+    // are new: the others are those of the run without one.
+    const bool listening = qEnvironmentVariableIsSet("PELVANE_READER_LISTENING");
+    auto show = [&](const char* name, double value, const char* unit, const char* target) {
+        if (listening && !readerRun)
+            return;
+        QString label = QString::fromUtf8(name);
+        QString goal = QString::fromUtf8(target);
+        if (listening) {
+            // The goal is set for the bridge on; what a reader adds is shown beside it.
+            label.replace(QStringLiteral(", accessibility on"),
+                          QStringLiteral(", accessibility on, a reader listening"));
+            goal = QStringLiteral("reported; ") + goal;
+        }
+        print(label.toUtf8().constData(), value, unit, goal.toUtf8().constData());
+    };
     // Read by the platform as the application object is made.
     if (readerRun)
         qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
     Program program(argc, argv, n);
     Window& window = *program.window;
     MainMenuViewController* menu = program.menu;
+
+    // The bridge comes up once the accessibility bus has answered.
+    if (readerRun && qgetenv("QT_QPA_PLATFORM") == "xcb") {
+        QElapsedTimer waited;
+        waited.start();
+        while (!QAccessible::isActive() && waited.elapsed() < 3000)
+            QApplication::processEvents(QEventLoop::AllEvents, 50);
+    }
+    // With no platform bridge the run reads the rows in view itself, as a reader would; with
+    // one, a reader on the accessibility bus does its own reading.
+    const bool readHere = readerRun && !QAccessible::isActive();
 
     // Open: the fetch of every coin, then the first paint of the window.
     QElapsedTimer t;
@@ -62,7 +94,7 @@ int main(int argc, char** argv) {
         window.navigationController()->topViewController());
     const int drawnByEvents = list->tableView->cellsRequested();
     window.repaint();
-    if (readerRun)
+    if (readHere)
         readRowsInView(list->tableView);
     const double open = ms(t);
     if (list->CoinList.size() != n)
@@ -74,13 +106,13 @@ int main(int argc, char** argv) {
             .toStdString();
     };
     if (readerRun)
-        print("list: open 32,000 coins, accessibility on", open, "ms", within10(0).c_str());
+        show("list: open 32,000 coins, accessibility on", open, "ms", within10(0).c_str());
     else
-        print("list: open 32,000 coins (fetch + first paint)", open, "ms", "<= 200 ms");
+        show("list: open 32,000 coins (fetch + first paint)", open, "ms", "<= 200 ms");
     if (!readerRun)
-        print("list: rows drawn by the first paint", drawnByEvents, "", "visible");
+        show("list: rows drawn by the first paint", drawnByEvents, "", "visible");
     if (!readerRun)
-        print("list: rows drawn by the next paint",
+        show("list: rows drawn by the next paint",
               list->tableView->cellsRequested() - drawnByEvents, "", "visible");
 
     auto keystrokes = [&](const QString& sort, const QString& typed) {
@@ -92,12 +124,16 @@ int main(int argc, char** argv) {
         for (int i = 1; i <= typed.size(); ++i) {
             QElapsedTimer k;
             k.start();
-            list->searchController->setText(typed.left(i));
+            // A key pressed in the field, as a person types it.
+            QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, typed.mid(i - 1, 1));
+            QKeyEvent release(QEvent::KeyRelease, 0, Qt::NoModifier, typed.mid(i - 1, 1));
+            QCoreApplication::sendEvent(list->searchController, &press);
+            QCoreApplication::sendEvent(list->searchController, &release);
             const double filtered = ms(k);
             QApplication::processEvents();
             const double laidOut = ms(k);
             window.repaint();
-            if (readerRun)
+            if (readHere)
                 readRowsInView(list->tableView);
             worst = std::max(worst, ms(k));
             if (qEnvironmentVariableIsSet("PELVANE_BENCH_DETAIL"))
@@ -109,23 +145,32 @@ int main(int argc, char** argv) {
         list->searchController->setActive(false);
         return worst;
     };
-    const double textKey = keystrokes("By Name", "1 Cent");
-    const double numericKey = keystrokes("By Year", "1964");
+    // The slowest keystroke of the word typed five times over: the median of those five, so
+    // that one stray pause of the machine does not decide the figure.
+    auto slowest = [&](const QString& sort, const QString& typed) {
+        std::vector<double> worst;
+        for (int run = 0; run < 5; ++run)
+            worst.push_back(keystrokes(sort, typed));
+        std::sort(worst.begin(), worst.end());
+        return worst[worst.size() / 2];
+    };
+    const double textKey = slowest("By Name", "1 Cent");
+    const double numericKey = slowest("By Year", "1964");
     if (readerRun) {
-        print("list: slowest keystroke, text key, accessibility on", textKey, "ms",
+        show("list: slowest keystroke, text key, accessibility on", textKey, "ms",
               within10(1).c_str());
-        print("list: slowest keystroke, numeric key, accessibility on", numericKey, "ms",
+        show("list: slowest keystroke, numeric key, accessibility on", numericKey, "ms",
               within10(2).c_str());
         // The reader's own share of a paint: what the rows in view cost to read.
         QElapsedTimer r;
         r.start();
         const int read = readRowsInView(list->tableView);
-        print("list: reading the rows in view, accessibility on", ms(r), "ms",
+        show("list: reading the rows in view, accessibility on", ms(r), "ms",
               QStringLiteral("%1 rows").arg(read).toStdString().c_str());
         return QAccessible::isActive() ? 0 : 2;
     }
-    print("list: slowest keystroke, text key (\"1 Cent\")", textKey, "ms", "<= 16 ms");
-    print("list: slowest keystroke, numeric key (\"1964\")", numericKey, "ms", "<= 16 ms");
+    show("list: slowest keystroke, text key (\"1 Cent\")", textKey, "ms", "<= 16 ms");
+    show("list: slowest keystroke, numeric key (\"1964\")", numericKey, "ms", "<= 16 ms");
 
     const int drawnBefore = list->tableView->cellsRequested();
     t.restart();
@@ -137,8 +182,8 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsSet("PELVANE_BENCH_DETAIL"))
         std::printf("  sort: fetch %.1f, layout %.1f, paint %.1f ms\n", fetched, laidOut - fetched,
                     ms(t) - laidOut);
-    print("list: sort by value (fetch + paint)", ms(t), "ms", "<= 200 ms");
-    print("list: rows drawn by that paint", list->tableView->cellsRequested() - drawnBefore, "",
+    show("list: sort by value (fetch + paint)", ms(t), "ms", "<= 200 ms");
+    show("list: rows drawn by that paint", list->tableView->cellsRequested() - drawnBefore, "",
           "visible");
 
     // The same open and keystrokes with accessibility on, in a run of their own: the platform
