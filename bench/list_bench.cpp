@@ -113,7 +113,7 @@ int main(int argc, char** argv) {
         show("list: rows drawn by the first paint", drawnByEvents, "", "visible");
     if (!readerRun)
         show("list: rows drawn by the next paint",
-              list->tableView->cellsRequested() - drawnByEvents, "", "visible");
+             list->tableView->cellsRequested() - drawnByEvents, "", "visible");
 
     auto keystrokes = [&](const QString& sort, const QString& typed) {
         list->chooseSort(sort);
@@ -158,15 +158,15 @@ int main(int argc, char** argv) {
     const double numericKey = slowest("By Year", "1964");
     if (readerRun) {
         show("list: slowest keystroke, text key, accessibility on", textKey, "ms",
-              within10(1).c_str());
+             within10(1).c_str());
         show("list: slowest keystroke, numeric key, accessibility on", numericKey, "ms",
-              within10(2).c_str());
+             within10(2).c_str());
         // The reader's own share of a paint: what the rows in view cost to read.
         QElapsedTimer r;
         r.start();
         const int read = readRowsInView(list->tableView);
         show("list: reading the rows in view, accessibility on", ms(r), "ms",
-              QStringLiteral("%1 rows").arg(read).toStdString().c_str());
+             QStringLiteral("%1 rows").arg(read).toStdString().c_str());
         return QAccessible::isActive() ? 0 : 2;
     }
     show("list: slowest keystroke, text key (\"1 Cent\")", textKey, "ms", "<= 16 ms");
@@ -184,7 +184,7 @@ int main(int argc, char** argv) {
                     ms(t) - laidOut);
     show("list: sort by value (fetch + paint)", ms(t), "ms", "<= 200 ms");
     show("list: rows drawn by that paint", list->tableView->cellsRequested() - drawnBefore, "",
-          "visible");
+         "visible");
 
     // The same open and keystrokes with accessibility on, in a run of their own: the platform
     // reads the setting as the application starts.

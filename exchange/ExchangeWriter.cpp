@@ -256,4 +256,13 @@ Result<QByteArray> exchangeText(const QList<CoinPtr>& coins, const Progress& pro
     return out;
 }
 
+qint64 recodePictures(const QList<QByteArray>& pictures) {
+    PictureCoder coder(pictures.size(), [&](qsizetype i) { return pictures[i]; });
+    qint64 bytes = 0;
+    for (qsizetype i = 0; i < pictures.size(); ++i)
+        if (const Encoded* text = coder.at(i); text && *text)
+            bytes += (*text)->size();
+    return bytes;
+}
+
 } // namespace Exchange

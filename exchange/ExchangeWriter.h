@@ -24,6 +24,9 @@ Result<QByteArray> exchangeText(ManagedObjectContext& context, const Progress& p
 Result<QList<CoinPtr>> coinsInFileOrder(ManagedObjectContext& context);
 // The file for these coins, in the order given (the same failures).
 Result<QByteArray> exchangeText(const QList<CoinPtr>& coins, const Progress& progress = {});
+// The pictures coded as the export codes them (the same coder, batches and threads) without the
+// text around them: the least an export of them can cost. Gives the bytes of their codes.
+qint64 recodePictures(const QList<QByteArray>& pictures);
 // How the fatal stop of a picture that cannot be decoded names its coin.
 QString coinForMessage(const Coins& coin);
 } // namespace Exchange
