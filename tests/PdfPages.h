@@ -1,9 +1,12 @@
 #pragma once
 // Reading PDF files back: their pages and the text on them.
 #include <QBuffer>
+#include <QColor>
+#include <QImage>
 #include <QPdfDocument>
 #include <QStringList>
 
+#include <algorithm>
 #include <memory>
 
 class PdfPages {
@@ -74,3 +77,15 @@ private:
             texts << pdf->getAllText(page).text().simplified();
     }
 };
+
+// The widest run of red pixels on a row: the width the red coin picture is drawn at.
+inline int redWidth(const QImage& image) {
+    int widest = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0, run = 0; x < image.width(); ++x) {
+            const QColor c = image.pixelColor(x, y);
+            run = c.red() > 180 && c.green() < 90 && c.blue() < 90 ? run + 1 : 0;
+            widest = std::max(widest, run);
+        }
+    return widest;
+}

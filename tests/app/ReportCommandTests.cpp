@@ -134,20 +134,6 @@ TEST_F(PelvaneTest, NotesWithoutASpaceFillEachLineAsTheLayoutBreaksThem) {
     EXPECT_EQ(lines, expected);
 }
 
-namespace {
-// The widest run of red pixels on a row: the width the red coin picture is drawn at.
-int redWidth(const QImage& image) {
-    int widest = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0, run = 0; x < image.width(); ++x) {
-            const QColor c = image.pixelColor(x, y);
-            run = c.red() > 180 && c.green() < 90 && c.blue() < 90 ? run + 1 : 0;
-            widest = std::max(widest, run);
-        }
-    return widest;
-}
-} // namespace
-
 class ReportBothWaysTest : public GroupsTest {};
 
 // The command line writes the page the window's Share writes in the window as it first opens:
