@@ -18,6 +18,7 @@
 
 #include <sqlite3.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cstdio>
 
@@ -116,6 +117,44 @@ QStringList journalBegins() {
             << QStringLiteral("DROP TABLE \"%1\"").arg(old);
     }
     return sql + indexes() + Journal::schema();
+}
+
+// A new collection is made whole beside its place and then moved there, so a program stopped
+// while making it leaves no store rather than a part of one: an empty store file is refused
+// as a lost collection. False when it could not be made; the caller goes on as for any store.
+bool madeWhole(const QString& path) {
+    const QString making = path + QStringLiteral(".new");
+    auto removeMaking = [&] {
+        for (const char* end : {"", "-journal", "-wal", "-shm"})
+            ::unlink(Files::nativeName(making + QLatin1String(end)).constData());
+    };
+    removeMaking();
+    {
+        SqliteDatabase db;
+        if (!db.open(making) || db.isReadOnly()) {
+            db.close();
+            removeMaking();
+            return false;
+        }
+        // Written with a rollback journal, so that closing leaves the whole store in one file.
+        const QStringList steps =
+            QStringList{QStringLiteral("PRAGMA page_size=2048"), QStringLiteral("BEGIN IMMEDIATE")}
+            << schema() << setApplicationId()
+            << QStringLiteral("PRAGMA user_version=%1").arg(PersistentContainer::SchemaVersion)
+            << QStringLiteral("COMMIT");
+        for (const QString& statement : steps)
+            if (!db.exec(statement)) {
+                db.close();
+                removeMaking();
+                return false;
+            }
+        db.close();
+    }
+    if (::rename(Files::nativeName(making).constData(), Files::nativeName(path).constData()) != 0) {
+        removeMaking();
+        return false;
+    }
+    return true;
 }
 } // namespace
 
@@ -274,6 +313,8 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
     if (const Files::Status file = Files::status(path);
         file.isFile && file.size == 0 && !Files::status(path + QLatin1String("-wal")).exists)
         return failure(SQLITE_NOTADB, QStringLiteral("the store file is empty"));
+    if (!Files::status(path).exists && !Files::status(path + QLatin1String("-wal")).exists)
+        madeWhole(path);
     if (!db_)
         db_ = std::make_unique<SqliteDatabase>();
     if (!db_->open(path))
