@@ -310,11 +310,14 @@ Result<void> PersistentContainer::open(const QString& path, bool snapshotFirst) 
     Files::makePath(Files::folderOf(path));
     // An empty file where a store was (a disk that lost it) is not taken for a new store:
     // filling it with an empty collection would let the next export replace the last backup.
-    if (const Files::Status file = Files::status(path);
-        file.isFile && file.size == 0 && !Files::status(path + QLatin1String("-wal")).exists)
-        return failure(SQLITE_NOTADB, QStringLiteral("the store file is empty"));
-    if (!Files::status(path).exists && !Files::status(path + QLatin1String("-wal")).exists)
-        madeWhole(path);
+    {
+        const Files::Status store = Files::status(path);
+        const bool log = Files::status(path + QLatin1String("-wal")).exists;
+        if (store.isFile && store.size == 0 && !log)
+            return failure(SQLITE_NOTADB, QStringLiteral("the store file is empty"));
+        if (!store.exists && !log)
+            madeWhole(path);
+    }
     if (!db_)
         db_ = std::make_unique<SqliteDatabase>();
     if (!db_->open(path))
